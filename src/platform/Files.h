@@ -1,0 +1,104 @@
+#pragma once
+
+#include "platform/Binary.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+// Files by the system's own paths: a native absolute folder followed by tails such as "\Data\index.gt1". "\"
+// and "/" are the same; each component is looked up as written first and then without regard to letter case;
+// what does not exist yet is created as written. Paths are texts of the program (Windows-1252); a component
+// that is valid UTF-8 with bytes above 127 is taken as it is, so that folders whose names the page cannot
+// hold still work.
+
+namespace gatewise::files {
+
+/// The native path that stands for `path` now.
+std::filesystem::path resolve(std::string_view path);
+
+/// A native path as a text of the program.
+std::string textOf(const std::filesystem::path& path);
+
+bool fileExists(std::string_view path);
+bool folderExists(std::string_view path);
+
+/// Name of an existing file as its folder spells it, empty when there is none.
+std::string foundName(std::string_view path);
+
+/// Whole file in one read; nothing when it cannot be read (`error` says why).
+std::optional<Bytes> readAll(std::string_view path, std::error_code* error = nullptr);
+
+/// Replaces the file in one step: written beside it, flushed, renamed; through a symbolic link its target is
+/// replaced. On an error the old file is whole. Permissions of an old file are kept.
+std::error_code replace(std::string_view path, ByteView bytes);
+inline std::error_code replace(std::string_view path, std::string_view text) {
+    return replace(path, viewOf(text));
+}
+
+/// No error when there is no such file.
+std::error_code remove(std::string_view path);
+
+std::error_code copy(std::string_view from, std::string_view to);
+
+struct Entry {
+    std::string name; // text of the program
+    bool folder = false;
+};
+
+/// Entries of a folder in the order that the file system gives, without "." and ".."; empty on any error.
+std::vector<Entry> list(std::string_view path);
+
+/// A file open for reading single records at byte offsets from 0. Never outlives the routine that opened it.
+class RecordFile {
+public:
+    explicit RecordFile(std::string_view path);
+    ~RecordFile();
+    RecordFile(const RecordFile&) = delete;
+    RecordFile& operator=(const RecordFile&) = delete;
+
+    [[nodiscard]] bool isOpen() const { return file_ != nullptr; }
+    [[nodiscard]] long long length() const { return length_; }
+
+    /// Fills `out` from `offset`; false, with `out` untouched, when the range does not lie wholly inside the
+    /// file.
+    bool read(long long offset, std::span<std::uint8_t> out) const;
+
+    template<class Record> std::optional<Record> record(long long offset) const {
+        std::uint8_t buffer[recordSize<Record>()];
+        if (!read(offset, buffer)) return std::nullopt;
+        Record value{};
+        loadRecord(value, buffer);
+        return value;
+    }
+
+    template<class T> std::optional<T> number(long long offset) const {
+        std::uint8_t buffer[sizeof(T)];
+        if (!read(offset, buffer)) return std::nullopt;
+        return numberAt<T>(buffer, 0);
+    }
+
+    /// `count` records from `offset` in one read; nothing when they do not lie wholly inside.
+    template<class Record>
+    std::optional<std::vector<Record>> records(long long offset, long long count) const {
+        constexpr auto size = static_cast<long long>(recordSize<Record>());
+        if (count < 0 || offset < 0 || offset > length_ || count > (length_ - offset) / size)
+            return std::nullopt;
+        Bytes block(static_cast<std::size_t>(count * size));
+        if (!read(offset, block)) return std::nullopt;
+        std::vector<Record> out(static_cast<std::size_t>(count));
+        for (std::size_t i = 0; i < out.size(); ++i)
+            loadRecord(out[i], block.data() + i * recordSize<Record>());
+        return out;
+    }
+
+private:
+    std::FILE* file_ = nullptr;
+    long long length_ = 0;
+};
+
+} // namespace gatewise::files

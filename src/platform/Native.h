@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/Machine.h"
+
+#include <functional>
+#include <memory>
+
+// The services of the computer that the program really runs on. posix/ and windows/ hold one implementation
+// each of what stands here.
+
+namespace gatewise::native {
+
+/// Tells the person at the desk a sentence.
+using Notify = std::function<void(const std::string& text)>;
+
+/// Local time of the system; the bias is that of the zone's standard time.
+std::unique_ptr<Clock> systemClock();
+/// The signs of the person's own settings.
+std::unique_ptr<Locale> userLocale();
+/// Where the simulator was installed, as its installer left word of it.
+std::unique_ptr<Registry> systemRegistry();
+/// `notify` hears what is missing where a program cannot be started.
+std::unique_ptr<Processes> systemProcesses(Notify notify);
+/// Seeded afresh at every start.
+std::unique_ptr<Random> systemRandom();
+/// Prints into text files in `folder`, which is made when it is missing, and tells where the file lies.
+std::unique_ptr<Printer> filePrinter(std::string folder, const Clock& clock, Notify notify);
+
+} // namespace gatewise::native

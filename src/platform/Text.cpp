@@ -1,0 +1,200 @@
+#include "platform/Text.h"
+
+#include <charconv>
+#include <cstdint>
+#include <cstdlib>
+
+namespace gatewise {
+
+namespace {
+
+// Unicode of the codes 0x80 to 0x9F; 0 marks the five that the page leaves open.
+constexpr std::array<std::uint16_t, 32> kHighControls = {
+    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+
+unsigned codePoint(unsigned char byte) {
+    if (byte >= 0x80 && byte < 0xA0 && kHighControls[byte - 0x80U] != 0) return kHighControls[byte - 0x80U];
+    return byte;
+}
+
+char byteOf(unsigned point, bool& found) {
+    found = true;
+    if (point < 0x80 || (point >= 0xA0 && point <= 0xFF)) return static_cast<char>(point);
+    for (std::size_t i = 0; i < kHighControls.size(); ++i) {
+        if (codePoint(static_cast<unsigned char>(0x80 + i)) == point) return static_cast<char>(0x80 + i);
+    }
+    found = false;
+    return '?';
+}
+
+void appendUtf8(std::string& out, unsigned point) {
+    if (point < 0x80) {
+        out += static_cast<char>(point);
+    } else if (point < 0x800) {
+        out += static_cast<char>(0xC0U | (point >> 6U));
+        out += static_cast<char>(0x80U | (point & 0x3FU));
+    } else {
+        out += static_cast<char>(0xE0U | (point >> 12U));
+        out += static_cast<char>(0x80U | ((point >> 6U) & 0x3FU));
+        out += static_cast<char>(0x80U | (point & 0x3FU));
+    }
+}
+
+/// Reads one UTF-8 sequence at `at`; returns its length, 0 when it is malformed.
+std::size_t decodeUtf8(std::string_view text, std::size_t at, unsigned& point) {
+    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
+    const unsigned first = byte(at);
+    if (first < 0x80) {
+        point = first;
+        return 1;
+    }
+    std::size_t length = 0;
+    if ((first & 0xE0U) == 0xC0U)
+        length = 2;
+    else if ((first & 0xF0U) == 0xE0U)
+        length = 3;
+    else if ((first & 0xF8U) == 0xF0U)
+        length = 4;
+    if (length == 0 || at + length > text.size()) return 0;
+    point = first & (0xFFU >> (length + 1));
+    for (std::size_t i = 1; i < length; ++i) {
+        if ((byte(at + i) & 0xC0U) != 0x80U) return 0;
+        point = (point << 6U) | (byte(at + i) & 0x3FU);
+    }
+    static constexpr std::array<unsigned, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
+    const bool surrogate = point >= 0xD800 && point <= 0xDFFF;
+    return point < kSmallest[length] || surrogate || point > 0x10FFFF ? 0 : length;
+}
+
+} // namespace
+
+std::string_view trimmed(std::string_view text) {
+    const auto first = text.find_first_not_of(' ');
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+char upperCase(char c) {
+    const auto u = static_cast<unsigned char>(c);
+    if ((u >= 'a' && u <= 'z') || (u >= 0xE0 && u <= 0xFE && u != 0xF7)) return static_cast<char>(u - 0x20);
+    switch (u) {
+    case 0x9A:
+        return static_cast<char>(0x8A);
+    case 0x9C:
+        return static_cast<char>(0x8C);
+    case 0x9E:
+        return static_cast<char>(0x8E);
+    case 0xFF:
+        return static_cast<char>(0x9F);
+    default:
+        return c;
+    }
+}
+
+char lowerCase(char c) {
+    const auto u = static_cast<unsigned char>(c);
+    if ((u >= 'A' && u <= 'Z') || (u >= 0xC0 && u <= 0xDE && u != 0xD7)) return static_cast<char>(u + 0x20);
+    switch (u) {
+    case 0x8A:
+        return static_cast<char>(0x9A);
+    case 0x8C:
+        return static_cast<char>(0x9C);
+    case 0x8E:
+        return static_cast<char>(0x9E);
+    case 0x9F:
+        return static_cast<char>(0xFF);
+    default:
+        return c;
+    }
+}
+
+std::string upperCase(std::string_view text) {
+    std::string out(text);
+    std::transform(out.begin(), out.end(), out.begin(), [](char c) { return upperCase(c); });
+    return out;
+}
+
+std::string lowerCase(std::string_view text) {
+    std::string out(text);
+    std::transform(out.begin(), out.end(), out.begin(), [](char c) { return lowerCase(c); });
+    return out;
+}
+
+bool equalNoCase(std::string_view a, std::string_view b) {
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](char x, char y) { return upperCase(x) == upperCase(y); });
+}
+
+bool containsNoCase(std::string_view text, std::string_view part) {
+    return std::search(text.begin(), text.end(), part.begin(), part.end(),
+                       [](char x, char y) { return upperCase(x) == upperCase(y); }) != text.end() ||
+           part.empty();
+}
+
+bool lessFolded(std::string_view a, std::string_view b) {
+    return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(), [](char x, char y) {
+        return static_cast<unsigned char>(upperCase(x)) < static_cast<unsigned char>(upperCase(y));
+    });
+}
+
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to) {
+    if (from.empty()) return std::string(text);
+    std::string out;
+    std::size_t at = 0;
+    for (;;) {
+        const auto hit = text.find(from, at);
+        if (hit == std::string_view::npos) break;
+        out.append(text.substr(at, hit - at)).append(to);
+        at = hit + from.size();
+    }
+    out.append(text.substr(at));
+    return out;
+}
+
+std::string utf8FromText(std::string_view text) {
+    std::string out;
+    out.reserve(text.size());
+    for (const char c : text) appendUtf8(out, codePoint(static_cast<unsigned char>(c)));
+    return out;
+}
+
+std::string textFromUtf8(std::string_view utf8, bool* lossless) {
+    std::string out;
+    out.reserve(utf8.size());
+    bool all = true;
+    for (std::size_t at = 0; at < utf8.size();) {
+        unsigned point = 0;
+        std::size_t length = decodeUtf8(utf8, at, point);
+        if (length == 0) {
+            length = 1;
+            point = 0xFFFD;
+        }
+        bool found = false;
+        out += byteOf(point, found);
+        all = all && found;
+        at += length;
+    }
+    if (lossless != nullptr) *lossless = all;
+    return out;
+}
+
+bool parseInteger(std::string_view text, int& value) {
+    text = trimmed(text);
+    if (text.size() > 1 && text.front() == '+' && text[1] != '-') text.remove_prefix(1);
+    if (text.empty()) return false;
+    const auto* last = text.data() + text.size();
+    const auto [end, error] = std::from_chars(text.data(), last, value);
+    return error == std::errc() && end == last;
+}
+
+double leadingNumber(std::string_view text) {
+    text = trimmed(text);
+    if (!text.empty() && text.front() == '+') text.remove_prefix(1);
+    double value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return error == std::errc() && value - value == 0 ? value : 0;
+}
+
+} // namespace gatewise

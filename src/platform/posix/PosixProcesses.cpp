@@ -1,0 +1,141 @@
+#include "platform/Files.h"
+#include "platform/Native.h"
+#include "platform/Text.h"
+#include "platform/posix/WinePrefix.h"
+
+#include <algorithm>
+#include <csignal>
+#include <fcntl.h>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+extern char** environ; // NOLINT(readability-redundant-declaration): unistd.h keeps it to itself
+
+namespace gatewise::native {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kSimulator = "fs2002.exe";
+
+/// A program of that name in the search path, or empty.
+fs::path installed(std::string_view name) {
+    const char* search = std::getenv("PATH");
+    std::stringstream folders(search != nullptr ? search : "/usr/local/bin:/usr/bin:/bin");
+    for (std::string folder; std::getline(folders, folder, ':');) {
+        fs::path file = fs::path(folder) / name;
+        std::error_code error;
+        if (fs::is_regular_file(file, error) && access(file.c_str(), X_OK) == 0) return file;
+    }
+    return {};
+}
+
+std::vector<char*> pointers(std::vector<std::string>& texts) {
+    std::vector<char*> out;
+    out.reserve(texts.size() + 1);
+    for (std::string& text : texts) out.push_back(text.data());
+    out.push_back(nullptr);
+    return out;
+}
+
+/// Starts a program that outlives this one. Everything that needs memory is ready before the fork: other
+/// threads may hold the allocator at that moment.
+int spawn(std::vector<std::string> arguments, const fs::path& folder,
+          const std::optional<fs::path>& winePrefix) {
+    std::vector<std::string> environment;
+    for (char** entry = environ; *entry != nullptr; ++entry) {
+        if (winePrefix && std::string_view(*entry).starts_with("WINEPREFIX=")) continue;
+        environment.emplace_back(*entry);
+    }
+    if (winePrefix) environment.push_back("WINEPREFIX=" + winePrefix->string());
+    const auto argv = pointers(arguments);
+    const auto envp = pointers(environment);
+    const pid_t process = fork();
+    if (process != 0) return process;
+    setsid();
+    if (!folder.empty() && chdir(folder.c_str()) != 0) _exit(127);
+    execve(argv[0], argv.data(), envp.data());
+    _exit(127);
+}
+
+/// Whether a line of arguments, parted by NUL, begins with the simulator's program, alone or behind what runs
+/// it.
+bool namesSimulator(std::string_view commandLine) {
+    for (int i = 0; i < 3 && !commandLine.empty(); ++i) {
+        const auto end = commandLine.find('\0');
+        const std::string_view argument = commandLine.substr(0, end);
+        const auto slash = argument.find_last_of("/\\");
+        if (equalNoCase(slash == std::string_view::npos ? argument : argument.substr(slash + 1), kSimulator))
+            return true;
+        commandLine.remove_prefix(end == std::string_view::npos ? commandLine.size() : end + 1);
+    }
+    return false;
+}
+
+class PosixProcesses : public Processes {
+public:
+    explicit PosixProcesses(Notify notify) : notify_(std::move(notify)) {}
+
+    [[nodiscard]] bool simulatorRunning() override {
+        std::error_code error;
+        for (fs::directory_iterator it("/proc", error), end; !error && it != end; it.increment(error)) {
+            const std::string name = it->path().filename().string();
+            if (!std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; })) continue;
+            std::ifstream file(it->path() / "cmdline", std::ios::binary);
+            const std::string commandLine{std::istreambuf_iterator<char>(file), {}};
+            if (namesSimulator(commandLine)) return true;
+        }
+        return false;
+    }
+
+    /// Window managers take such requests through a tool of their own; without it the pilot switches by hand.
+    void bringSimulatorToFront() override {
+        const fs::path tool = installed("wmctrl");
+        if (!tool.empty()) spawn({tool.string(), "-x", "-a", std::string(kSimulator)}, {}, std::nullopt);
+    }
+
+    int start(const std::string& file, const std::string& parameters, const std::string& folder) override {
+        const bool whole = file.find_first_of("\\/") != std::string::npos;
+        const fs::path program = files::resolve(whole || folder.empty() ? file : folder + "\\" + file);
+        std::error_code error;
+        if (!fs::is_regular_file(program, error)) return -1;
+
+        std::vector<std::string> arguments;
+        if (lowerCase(file).ends_with(".exe")) {
+            const fs::path wine = installed("wine");
+            if (wine.empty()) {
+                if (notify_)
+                    notify_("Wine is needed to start " + file +
+                            " and is not installed; all files of the flight are in place.");
+                return -1;
+            }
+            arguments.push_back(wine.string());
+        }
+        arguments.push_back(program.string());
+        std::stringstream words(parameters);
+        for (std::string word; words >> word;) arguments.push_back(word);
+        const fs::path native = folder.empty() ? program.parent_path() : files::resolve(folder);
+        return spawn(std::move(arguments), native, prefixOf(program));
+    }
+
+    [[nodiscard]] bool ended(int process) override {
+        if (process < 0) return true;
+        return waitpid(process, nullptr, WNOHANG) != 0;
+    }
+
+private:
+    Notify notify_;
+};
+
+} // namespace
+
+std::unique_ptr<Processes> systemProcesses(Notify notify) {
+    return std::make_unique<PosixProcesses>(std::move(notify));
+}
+
+} // namespace gatewise::native

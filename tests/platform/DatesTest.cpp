@@ -1,0 +1,53 @@
+#include "platform/Machine.h"
+
+#include <gtest/gtest.h>
+
+namespace gatewise {
+namespace {
+
+DateTime date(int year, int month, int day) {
+    DateTime d;
+    d.year = year;
+    d.month = month;
+    d.day = day;
+    return d;
+}
+
+TEST(DaySerial, CountsFromTheEndOf1899) {
+    EXPECT_EQ(daySerial(date(1899, 12, 30)), 0);
+    EXPECT_EQ(daySerial(date(1900, 1, 1)), 2);
+    EXPECT_EQ(daySerial(date(2000, 2, 29)), 36585);
+    EXPECT_EQ(daySerial(date(2000, 3, 1)), 36586);
+    EXPECT_EQ(daySerial(date(2002, 6, 15)), 37422);
+    EXPECT_EQ(daySerial(date(1899, 12, 29)), -1);
+}
+
+TEST(DaySerial, ComesBack) {
+    for (long long day = -150000; day < 150000; day += 37) {
+        const DateTime d = fromDaySerial(day);
+        ASSERT_EQ(daySerial(d), day);
+        ASSERT_TRUE(d.month >= 1 && d.month <= 12 && d.day >= 1 && d.day <= 31);
+        ASSERT_EQ(d.hour + d.minute, 0);
+    }
+}
+
+TEST(Weekday, StartsOnSunday) {
+    EXPECT_EQ(weekday(date(2002, 6, 15)), 6);
+    EXPECT_EQ(weekday(date(2002, 6, 16)), 0);
+    EXPECT_EQ(weekday(date(1899, 12, 30)), 6);
+    EXPECT_EQ(weekday(date(1899, 12, 24)), 0);
+    EXPECT_EQ(weekday(date(1850, 1, 1)), 2);
+}
+
+class PlainLocale : public Locale {
+public:
+    [[nodiscard]] std::string text(LocaleKey) const override { return "."; }
+};
+
+TEST(LocaleDates, AreWrittenLongAndShort) {
+    EXPECT_EQ(PlainLocale().longDate(date(2002, 6, 15)), "Saturday, June 15, 2002");
+    EXPECT_EQ(PlainLocale().shortDate(date(2002, 6, 15)), "6/15/2002");
+}
+
+} // namespace
+} // namespace gatewise

@@ -1,0 +1,150 @@
+#include "platform/Files.h"
+
+#include "platform/Text.h"
+#include "support/TempFolder.h"
+
+#include <fstream>
+#include <gtest/gtest.h>
+
+namespace gatewise {
+namespace {
+
+using test::TempFolder;
+
+TEST(Paths, BothSlashesAndAnyCaseFindAFile) {
+    const TempFolder folder;
+    folder.write("/Data/Index.gt1", "x");
+    EXPECT_TRUE(files::fileExists(folder.path("\\data\\INDEX.GT1")));
+    EXPECT_TRUE(files::fileExists(folder.path("/DATA\\index.gt1")));
+    EXPECT_TRUE(files::folderExists(folder.path("\\dATA\\")));
+    EXPECT_FALSE(files::fileExists(folder.path("\\data")));
+    EXPECT_FALSE(files::folderExists(folder.path("\\data\\index.gt1")));
+    EXPECT_FALSE(files::fileExists(folder.path("\\data\\index.gt")));
+}
+
+TEST(Paths, TheExactCaseComesFirst) {
+    const TempFolder folder;
+    for (const auto* name : {"/a.txt", "/A.TXT", "/A.txt"}) std::ofstream(folder.path(name)) << name;
+    for (const auto* name : {"/a.txt", "/A.TXT", "/A.txt"}) EXPECT_EQ(folder.read(name), name);
+    EXPECT_NE(folder.read("/a.TXT"), "(no such file)");
+}
+
+TEST(Paths, WhatDoesNotExistIsCreatedAsWritten) {
+    const TempFolder folder;
+    folder.write("/Flights/MyFlts/x", "x");
+    ASSERT_FALSE(files::replace(folder.path("\\flights\\MYFLTS\\New Plan.PLN"), std::string_view("plan")));
+    EXPECT_TRUE(std::filesystem::exists(folder.path("/Flights/MyFlts/New Plan.PLN")));
+    EXPECT_EQ(files::foundName(folder.path("\\flights\\myflts\\new plan.pln")), "New Plan.PLN");
+    EXPECT_EQ(files::foundName(folder.path("\\flights\\myflts")), "");
+    EXPECT_EQ(files::foundName(folder.path("\\flights\\none")), "");
+}
+
+TEST(Paths, DotsAndDoubledSlashes) {
+    const TempFolder folder;
+    folder.write("/a/b.txt", "x");
+    EXPECT_TRUE(files::fileExists(folder.path("\\a\\\\b.txt")));
+    EXPECT_TRUE(files::fileExists(folder.path("\\a\\.\\..\\a\\b.txt")));
+    EXPECT_EQ(files::resolve("/../..").string(), "/");
+}
+
+TEST(Paths, NamesOfThePageAreUtf8OnTheDisk) {
+    const TempFolder folder;
+    folder.write("/Gen\xE8ve.txt", "x");
+    EXPECT_TRUE(std::filesystem::exists(folder.path("/Gen\xC3\xA8ve.txt")));
+    EXPECT_TRUE(files::fileExists(folder.path("\\GEN\xC8VE.TXT")));
+    EXPECT_EQ(files::list(folder.path()).at(0).name, "Gen\xE8ve.txt");
+}
+
+TEST(Paths, NamesOutsideThePageStillWork) {
+    const TempFolder folder;
+    std::filesystem::create_directory(folder.path("/\xC5\x81\xC3\xB3"
+                                                  "d\xC5\xBA"));
+    const std::string name = files::list(folder.path()).at(0).name;
+    EXPECT_TRUE(files::folderExists(folder.path("/" + name)));
+    folder.write("/" + name + "/x.txt", "x");
+    EXPECT_EQ(folder.read("/" + name + "/X.TXT"), "x");
+}
+
+TEST(ReadAll, TellsWhyItFailed) {
+    const TempFolder folder;
+    std::error_code error;
+    EXPECT_FALSE(files::readAll(folder.path("/none"), &error));
+    EXPECT_EQ(error, std::errc::no_such_file_or_directory);
+    EXPECT_FALSE(files::readAll(folder.path(), &error));
+    EXPECT_EQ(error, std::errc::is_a_directory);
+    folder.write("/empty", "");
+    EXPECT_EQ(files::readAll(folder.path("/empty"))->size(), 0U);
+}
+
+TEST(Remove, ToleratesAMissingFile) {
+    const TempFolder folder;
+    folder.write("/A.txt", "x");
+    EXPECT_FALSE(files::remove(folder.path("\\a.TXT")));
+    EXPECT_FALSE(files::fileExists(folder.path("/A.txt")));
+    EXPECT_FALSE(files::remove(folder.path("\\a.TXT")));
+}
+
+TEST(Copy, CopiesOrSaysWhyNot) {
+    const TempFolder folder;
+    folder.write("/a", "content");
+    EXPECT_FALSE(files::copy(folder.path("/a"), folder.path("/b")));
+    EXPECT_EQ(folder.read("/b"), "content");
+    EXPECT_EQ(files::copy(folder.path("/none"), folder.path("/c")), std::errc::no_such_file_or_directory);
+}
+
+TEST(List, OfAMissingFolderIsEmpty) {
+    EXPECT_TRUE(files::list("/nowhere/at/all").empty());
+}
+
+struct Pair {
+    FixedText<3> text;
+    std::int16_t number = 0;
+    static constexpr void fields(auto& r, auto&& f) { f("text", r.text), f("number", r.number); }
+};
+
+TEST(RecordFile, ReadsInsideTheFileOnly) {
+    const TempFolder folder;
+    folder.write("/p", "abc\x01\x02"
+                       "def\xFF\xFF");
+    const files::RecordFile file(folder.path("/P"));
+    ASSERT_TRUE(file.isOpen());
+    EXPECT_EQ(file.length(), 10);
+    EXPECT_EQ(file.record<Pair>(5)->number, -1);
+    EXPECT_EQ(file.record<Pair>(5)->text.view(), "def");
+    EXPECT_EQ(file.number<std::int16_t>(3), 0x0201);
+    EXPECT_EQ(file.records<Pair>(0, 2)->size(), 2U);
+    EXPECT_EQ(file.records<Pair>(10, 0)->size(), 0U);
+    for (const long long offset : {-1LL, 6LL, 10LL, 11LL, 1LL << 40U})
+        EXPECT_FALSE(file.record<Pair>(offset));
+    EXPECT_FALSE(file.records<Pair>(0, 3));
+    EXPECT_FALSE(file.records<Pair>(0, -1));
+    EXPECT_FALSE(file.records<Pair>(0, 1LL << 62U));
+    EXPECT_FALSE(file.records<Pair>(-5, 1));
+}
+
+TEST(RecordFile, AMissingFileOrAFolderIsNotOpen) {
+    const TempFolder folder;
+    EXPECT_FALSE(files::RecordFile(folder.path("/none")).isOpen());
+    const files::RecordFile file(folder.path());
+    EXPECT_FALSE(file.isOpen());
+    EXPECT_FALSE(file.number<std::int32_t>(0));
+}
+
+TEST(Binary, RecordsAreLittleEndianAndPacked) {
+    Bytes bytes;
+    appendRecord(bytes, Pair{"ab", 0x1234});
+    EXPECT_EQ(bytes, (Bytes{'a', 'b', ' ', 0x34, 0x12}));
+    EXPECT_EQ(recordAt<Pair>(bytes, 0)->number, 0x1234);
+    EXPECT_FALSE(recordAt<Pair>(bytes, 1));
+    EXPECT_FALSE(recordAt<Pair>(bytes, static_cast<std::size_t>(-1)));
+    Bytes number;
+    appendField(number, -1.5F);
+    EXPECT_EQ(number, (Bytes{0, 0, 0xC0, 0xBF}));
+    EXPECT_EQ(numberAt<float>(number, 0), -1.5F);
+    EXPECT_FALSE(numberAt<float>(number, 1));
+    appendField(number, 0.1);
+    EXPECT_EQ(numberAt<double>(number, 4), 0.1);
+}
+
+} // namespace
+} // namespace gatewise

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/Files.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <string>
+#include <string_view>
+#include <unistd.h>
+
+namespace gatewise::test {
+
+/// A folder of its own for one test, gone when the test is over.
+class TempFolder {
+public:
+    TempFolder() {
+        std::string pattern = (std::filesystem::temp_directory_path() / "gatewise-XXXXXX").string();
+        path_ = ::mkdtemp(pattern.data());
+    }
+    ~TempFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(path_, ignored);
+    }
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    [[nodiscard]] std::string path(std::string_view tail = {}) const { return path_ + std::string(tail); }
+
+    void write(std::string_view tail, std::string_view text) const { write(tail, viewOf(text)); }
+    void write(std::string_view tail, ByteView bytes) const {
+        const std::filesystem::path native = files::resolve(path(tail));
+        std::filesystem::create_directories(native.parent_path());
+        ASSERT_FALSE(files::replace(path(tail), bytes));
+    }
+    [[nodiscard]] std::string read(std::string_view tail) const {
+        const auto bytes = files::readAll(path(tail));
+        return bytes ? std::string(bytes->begin(), bytes->end()) : std::string("(no such file)");
+    }
+
+private:
+    std::string path_;
+};
+
+} // namespace gatewise::test
