@@ -1,0 +1,182 @@
+#include "gt1/Compile.h"
+
+#include "gt1/Plans.h"
+#include "gt1/Tables.h"
+
+#include <algorithm>
+#include <numeric>
+#include <unordered_map>
+
+namespace gatewise::gt1 {
+
+namespace {
+
+using Numbers = std::unordered_map<std::string, int>;
+
+/// The line of each key, with an error for each key that stands twice.
+template<class Row, class Key>
+Numbers uniqueKeys(const Table<Row>& table, std::string_view column, Key key, Report& report) {
+    Numbers lines;
+    for (const auto& [line, row] : table.lines) {
+        const auto [first, isNew] = lines.try_emplace(key(row), line);
+        if (!isNew)
+            report.error(table.place(line, column), "each " + std::string(column) + " once",
+                         inQuotes(utf8FromText(trimmed(key(row)))) + " again, first in line " +
+                             std::to_string(first->second));
+    }
+    return lines;
+}
+
+/// The index of each row by its key; the first row wins.
+template<class Row, class Key> Numbers indexBy(const Table<Row>& table, Key key) {
+    Numbers out;
+    for (std::size_t i = 0; i < table.lines.size(); ++i)
+        out.try_emplace(key(table.lines[i].row), static_cast<int>(i));
+    return out;
+}
+
+/// The index that stands for a code, -1 with an error when there is none.
+template<class Row>
+int known(const Numbers& numbers, const Table<Row>& table, int line, std::string_view column,
+          std::string_view code, std::string_view expected, Report& report) {
+    const auto found = numbers.find(std::string(code));
+    if (found != numbers.end()) return found->second;
+    report.error(table.place(line, column), expected, inQuotes(utf8FromText(trimmed(code))));
+    return -1;
+}
+
+constexpr std::string_view anAirport = "the iata code of an airport in airports.csv";
+
+std::vector<AirportRecord> airportsOf(const Table<AirportRow>& table, Report& report) {
+    uniqueKeys(
+        table, "iata", [](const AirportRow& r) { return r.record.Iata.str(); }, report);
+    uniqueKeys(
+        table, "icao", [](const AirportRow& r) { return r.record.Icao.str(); }, report);
+    constexpr std::size_t most = 32767;
+    if (table.lines.size() > most)
+        report.error({std::string(AirportRow::file), table.lines[most].line, 0, ""},
+                     "at most 32767 airports, which is as far as a flight's airport numbers reach",
+                     std::to_string(table.lines.size()));
+    std::vector<AirportRecord> out;
+    for (const auto& line : table.lines) out.push_back(line.row.record);
+    return out;
+}
+
+std::vector<Facilities> facilitiesOf(const Table<RunwayRow>& runways, const Table<RadioRow>& radios,
+                                     const Table<AirportRow>& airports, const Numbers& byIata,
+                                     Report& report) {
+    uniqueKeys(
+        runways, "runway", [](const RunwayRow& r) { return r.airport.str() + " " + r.record.runwayId.str(); },
+        report);
+    uniqueKeys(
+        radios, "airport", [](const RadioRow& r) { return r.airport.str(); }, report);
+    std::vector<Facilities> out(airports.lines.size());
+    for (const auto& [line, row] : runways.lines) {
+        const int airport = known(byIata, runways, line, "airport", row.airport.view(), anAirport, report);
+        if (airport >= 0) out[static_cast<std::size_t>(airport)].runways.push_back(row.record);
+    }
+    std::vector<bool> hasRadios(out.size());
+    for (const auto& [line, row] : radios.lines) {
+        const int airport = known(byIata, radios, line, "airport", row.airport.view(), anAirport, report);
+        if (airport < 0) continue;
+        out[static_cast<std::size_t>(airport)].radios = row.record;
+        hasRadios[static_cast<std::size_t>(airport)] = true;
+    }
+    for (std::size_t i = 0; i < out.size(); ++i)
+        if (!hasRadios[i])
+            report.error(airports.place(airports.lines[i].line, "iata"),
+                         "a row in radios.csv for each airport",
+                         "none for " + std::string(airports.lines[i].row.record.Iata.trimmed()));
+    return out;
+}
+
+std::vector<AirlineRecord> airlinesOf(const Table<AirlineRow>& table, Report& report) {
+    uniqueKeys(
+        table, "code", [](const AirlineRow& r) { return r.record.Code.str(); }, report);
+    std::vector<AirlineRecord> out;
+    for (const auto& line : table.lines) out.push_back(line.row.record);
+    return out;
+}
+
+struct Codes {
+    Numbers airports, airlines, aircraft;
+};
+
+/// Fills in the airports' numbers and checks every code.
+void linkFlights(Table<FlightRow>& table, const Codes& codes, Report& report) {
+    const auto find = [&](const Numbers& numbers, int line, const char* column, std::string_view code,
+                          std::string_view expected) {
+        return known(numbers, table, line, column, code, expected, report);
+    };
+    for (auto& [line, row] : table.lines) {
+        FlightRecord& f = row.record;
+        f.OriginIndex =
+            static_cast<std::int16_t>(find(codes.airports, line, "origin", f.OriginIata.view(), anAirport));
+        f.DestIndex = static_cast<std::int16_t>(
+            find(codes.airports, line, "destination", f.DestinationIata.view(), anAirport));
+        find(codes.airlines, line, "airline", f.AirlineCode.view(), "the code of an airline in airlines.csv");
+        find(codes.aircraft, line, "aircraft", f.AircraftCode.view(),
+             "the code of an aircraft in aircraft.csv");
+    }
+}
+
+std::vector<FlightRecord> groupedByOrigin(const Table<FlightRow>& table) {
+    std::vector<FlightRecord> out;
+    for (const auto& line : table.lines) out.push_back(line.row.record);
+    std::stable_sort(out.begin(), out.end(), [](const FlightRecord& a, const FlightRecord& b) {
+        return a.OriginIndex < b.OriginIndex;
+    });
+    return out;
+}
+
+template<class Row> auto recordsOf(const Table<Row>& table) {
+    std::vector<decltype(Row::record)> out;
+    for (const auto& line : table.lines) out.push_back(line.row.record);
+    return out;
+}
+
+Numbers aircraftCodes(const World& world) {
+    Numbers out;
+    for (std::size_t i = 0; i < world.aircraft.size(); ++i)
+        out.try_emplace(world.aircraft[i].Code.str(), static_cast<int>(i));
+    return out;
+}
+
+} // namespace
+
+World readWorld(const std::filesystem::path& folder, Report& report) {
+    const auto aircraft = readTable<AircraftRow>(folder, report);
+    uniqueKeys(
+        aircraft, "code", [](const AircraftRow& r) { return r.record.Code.str(); }, report);
+    World world;
+    world.aircraft = recordsOf(aircraft);
+    for (const auto& line : readTable<VorRow>(folder, report).lines) world.vor.push_back(line.row.record);
+    for (const auto& line : readTable<NdbRow>(folder, report).lines) world.ndb.push_back(line.row.record);
+    world.fixes = recordsOf(readTable<FixRow>(folder, report));
+    world.jets = recordsOf(readTable<JetRow>(folder, report));
+    return world;
+}
+
+DataSet readDataSet(const std::filesystem::path& folder, const World& world, Report& report) {
+    DataSet set;
+    const auto airports = readTable<AirportRow>(folder, report);
+    const auto runways = readTable<RunwayRow>(folder, report);
+    const auto radios = readTable<RadioRow>(folder, report);
+    const auto airlines = readTable<AirlineRow>(folder, report);
+    auto flights = readTable<FlightRow>(folder, report);
+    const auto plans = readTable<PlanRow>(folder, report);
+    if (report.anyUnreadable()) return set; // each reference to a missing table would be one more error
+
+    Codes codes{indexBy(airports, [](const AirportRow& r) { return r.record.Iata.str(); }),
+                indexBy(airlines, [](const AirlineRow& r) { return r.record.Code.str(); }),
+                aircraftCodes(world)};
+    set.airports = airportsOf(airports, report);
+    set.facilities = facilitiesOf(runways, radios, airports, codes.airports, report);
+    set.airlines = airlinesOf(airlines, report);
+    linkFlights(flights, codes, report);
+    set.plans = linkPlans(plans, flights, world, report);
+    set.flights = groupedByOrigin(flights);
+    return set;
+}
+
+} // namespace gatewise::gt1

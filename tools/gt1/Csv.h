@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace gatewise::gt1 {
+
+struct CsvRow {
+    int line = 0; // where the row begins, from 1
+    std::vector<std::string> cells;
+};
+
+struct CsvFile {
+    std::vector<CsvRow> rows; // the header is the first; empty lines are left out
+    int badLine = 0;          // line of the first quote out of place, 0 when the file is well formed
+    std::string expected;     // what should have stood there
+};
+
+/// Comma-separated values: fields with commas, quotes or line ends in double quotes, quotes inside doubled;
+/// LF or CR LF; a byte-order mark is skipped.
+CsvFile parseCsv(std::string_view text);
+
+/// One line with its LF.
+std::string csvLine(const std::vector<std::string>& cells);
+
+} // namespace gatewise::gt1

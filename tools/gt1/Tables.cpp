@@ -1,0 +1,67 @@
+#include "gt1/Tables.h"
+
+#include "platform/Files.h"
+
+#include <algorithm>
+
+namespace gatewise::gt1 {
+
+namespace {
+
+/// Every name once, and no other.
+bool headerFits(const CsvRow& header, std::string_view file, const std::vector<std::string>& names,
+                std::vector<std::size_t>& order, Report& report) {
+    bool good = true;
+    for (std::size_t i = 0; i < header.cells.size(); ++i) {
+        const std::string& name = header.cells[i];
+        const bool known = std::find(names.begin(), names.end(), name) != names.end();
+        const bool again = std::find(header.cells.begin(), header.cells.begin() + static_cast<long>(i),
+                                     name) != header.cells.begin() + static_cast<long>(i);
+        if (known && !again) continue;
+        report.unreadable({std::string(file), header.line, static_cast<int>(i) + 1, name},
+                          again ? "each column once" : "a column of this table", inQuotes(name));
+        good = false;
+    }
+    for (const std::string& name : names) {
+        const auto cell = std::find(header.cells.begin(), header.cells.end(), name);
+        order.push_back(static_cast<std::size_t>(cell - header.cells.begin()));
+        if (cell != header.cells.end()) continue;
+        report.unreadable({std::string(file), header.line, 0, ""}, "a column " + name, "none in the header");
+        good = false;
+    }
+    return good;
+}
+
+} // namespace
+
+std::optional<CsvFile> readCsv(const std::filesystem::path& folder, std::string_view file,
+                               const std::vector<std::string>& names, std::vector<std::size_t>& order,
+                               Report& report) {
+    const Place whole{std::string(file), 0, 0, ""};
+    std::error_code error;
+    const auto bytes = files::readAll(files::textOf(folder / file), &error);
+    if (!bytes) {
+        report.unreadable(whole, "this table in " + folder.string(), error.message());
+        return std::nullopt;
+    }
+    CsvFile csv = parseCsv({reinterpret_cast<const char*>(bytes->data()), bytes->size()});
+    if (csv.badLine != 0) {
+        report.unreadable({std::string(file), csv.badLine, 0, ""}, csv.expected, "none");
+        return std::nullopt;
+    }
+    if (csv.rows.empty()) {
+        report.unreadable(whole, "a header line", "an empty file");
+        return std::nullopt;
+    }
+    if (!headerFits(csv.rows[0], file, names, order, report)) return std::nullopt;
+    return csv;
+}
+
+bool fullLine(const CsvRow& line, std::size_t columns, std::string_view file, Report& report) {
+    if (line.cells.size() == columns) return true;
+    report.error({std::string(file), line.line, 0, ""}, std::to_string(columns) + " columns",
+                 std::to_string(line.cells.size()));
+    return false;
+}
+
+} // namespace gatewise::gt1
