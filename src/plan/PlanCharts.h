@@ -1,0 +1,18 @@
+#pragma once
+
+#include "plan/PlanTable.h"
+#include "platform/Drawing.h"
+
+// Pictures of the live plan, drawn from its table alone. They show; they never change the plan.
+
+namespace gatewise {
+
+/// Altitude over distance from departure: the flown profile with its tops and steps. Empty for a plan without
+/// length.
+Drawing profileDrawing(const Plan& plan);
+
+/// The route on a map around its middle, distances from there true in every direction, north up: legs as
+/// great circles, fixes, tops and steps over a grid of degrees. Empty for a plan without length.
+Drawing mapDrawing(const Plan& plan);
+
+} // namespace gatewise
