@@ -1,0 +1,191 @@
+#include "simulator/AircraftScan.h"
+
+#include "platform/Files.h"
+#include "platform/Text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <filesystem>
+#include <fstream>
+#include <optional>
+
+namespace gatewise {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::size_t kVariations = 100;
+constexpr std::size_t kChunk = 65536;   // bytes of one read
+constexpr std::size_t kTextLimit = 254; // a buffer of 255 characters holds one terminator
+constexpr std::string_view kSection = "fltsim.";
+constexpr std::string_view kMissingTitle = "title";
+
+std::string_view stripped(std::string_view text) {
+    const auto from = text.find_first_not_of(" \t");
+    if (from == std::string_view::npos) return {};
+    return text.substr(from, text.find_last_not_of(" \t") - from + 1);
+}
+
+/// Number of the variation whose section a line opens, without regard to case and without leading zeros.
+std::optional<std::size_t> variationNumber(std::string_view line) {
+    const std::string_view name = stripped(line.substr(1, line.find(']') - 1));
+    if (name.size() <= kSection.size() || !equalNoCase(name.substr(0, kSection.size()), kSection)) return {};
+    const std::string_view digits = name.substr(kSection.size());
+    if (digits.size() > 1 && digits.front() == '0') return {};
+    std::size_t number = 0;
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (error != std::errc() || end != digits.data() + digits.size() || number >= kVariations) return {};
+    return number;
+}
+
+/// Cuts off what stands before the first `end`, which goes as well.
+std::string_view takeUpTo(char end, std::string_view& text) {
+    const auto at = text.find(end);
+    const std::string_view out = text.substr(0, at);
+    text.remove_prefix(at == std::string_view::npos ? text.size() : at + 1);
+    return out;
+}
+
+std::string_view unquoted(std::string_view text) {
+    const bool quoted =
+        text.size() >= 2 && (text.front() == '"' || text.front() == '\'') && text.back() == text.front();
+    return quoted ? text.substr(1, text.size() - 2) : text;
+}
+
+/// What one section says. The first line of a key counts.
+struct Section {
+    bool seen = false;
+    std::optional<std::string_view> title, sim;
+};
+
+/// One pass over the file instead of two profile reads for each variation: there are thousands of files.
+class SectionReader {
+public:
+    void line(std::string_view text) {
+        text = stripped(text.substr(0, text.find_last_not_of('\x1A') + 1));
+        if (text.empty() || text.front() == ';') return;
+        if (text.front() == '[') {
+            open(text);
+        } else if (current_ != nullptr) {
+            key(text);
+        }
+    }
+
+    [[nodiscard]] const Section& section(std::size_t number) const { return sections_[number]; }
+
+private:
+    void open(std::string_view text) {
+        current_ = nullptr;
+        const auto number = variationNumber(text);
+        // The first section of a name counts, a second one is never reached.
+        if (!number || sections_[*number].seen) return;
+        current_ = &sections_[*number];
+        current_->seen = true;
+    }
+
+    void key(std::string_view text) {
+        const auto equals = text.find('=');
+        if (equals == std::string_view::npos) return;
+        const std::string_view name = stripped(text.substr(0, equals));
+        auto& value = equalNoCase(name, "title") ? current_->title : current_->sim;
+        if (value || (&value == &current_->sim && !equalNoCase(name, "sim"))) return;
+        value = unquoted(stripped(text.substr(equals + 1)));
+    }
+
+    std::array<Section, kVariations> sections_;
+    Section* current_ = nullptr;
+};
+
+std::string held(const std::optional<std::string_view>& value, std::string_view missing) {
+    return std::string(value.value_or(missing).substr(0, kTextLimit));
+}
+
+/// A value as text: NUL characters count as blanks, blanks around it go.
+std::string shown(std::string value) {
+    std::replace(value.begin(), value.end(), '\0', ' ');
+    return std::string(trimmed(value));
+}
+
+/// The bytes of a folder's aircraft.cfg in `buffer`; nothing without one. The usual spelling is tried first:
+/// looking for any other means reading the folder.
+std::optional<std::string_view> readConfig(const fs::path& folder, std::string& buffer) {
+    std::ifstream file(folder / "aircraft.cfg", std::ios::binary);
+    if (!file.is_open()) {
+        const auto bytes = files::readAll(files::textOf(folder) + "\\aircraft.cfg");
+        if (!bytes) return std::nullopt;
+        buffer.assign(bytes->begin(), bytes->end());
+        return buffer;
+    }
+    std::size_t size = 0;
+    while (file) {
+        if (buffer.size() < size + kChunk) buffer.resize(size + kChunk);
+        file.read(buffer.data() + size, static_cast<std::streamsize>(buffer.size() - size));
+        size += static_cast<std::size_t>(file.gcount());
+    }
+    if (file.bad()) return std::nullopt;
+    return std::string_view(buffer).substr(0, size);
+}
+
+bool hasPanel(const fs::path& folder) {
+    std::error_code error;
+    return fs::is_directory(folder / "panel", error) ||
+           files::folderExists(files::textOf(folder) + "\\panel");
+}
+
+/// Adds the aircraft of one folder, which `name` names in paths; false when the table is full.
+bool addFolder(std::vector<ScannedAircraft>& out, const fs::path& folder, const std::string& name,
+               std::string& buffer) {
+    const auto content = readConfig(folder, buffer);
+    if (!content) return true;
+    const auto variations = variationsOf(*content);
+    if (variations.empty() || !hasPanel(folder)) return true;
+    const std::string notes = name + "\\" + shown(variations.front().sim) + "_NOTES";
+    for (const AircraftVariation& variation : variations) {
+        const std::string title = shown(variation.title);
+        if (title.empty()) continue;
+        if (out.size() == kAircraftLimit) return false;
+        out.push_back({title, notes});
+    }
+    return true;
+}
+
+} // namespace
+
+std::vector<AircraftVariation> variationsOf(std::string_view content) {
+    SectionReader reader;
+    while (!content.empty()) {
+        std::string_view line = takeUpTo('\n', content);
+        while (!line.empty()) reader.line(takeUpTo('\r', line));
+    }
+    std::vector<AircraftVariation> out;
+    for (std::size_t j = 0; j < kVariations; ++j) {
+        const Section& section = reader.section(j);
+        const std::string title = held(section.title, kMissingTitle);
+        if (title.empty() || title.front() == '\0') break;
+        if (equalNoCase(std::string_view(title).substr(0, kMissingTitle.size()), kMissingTitle)) break;
+        out.push_back({title, held(section.sim, "sim")});
+    }
+    return out;
+}
+
+std::vector<ScannedAircraft> FilesSearch(std::string_view path) {
+    std::string root(path);
+    if (!root.ends_with('\\')) root += '\\';
+    std::vector<ScannedAircraft> out;
+    std::string buffer;
+    std::size_t folders = 0;
+    std::error_code error;
+    // The root is looked up once and its folders go by their native paths: each step of a path costs.
+    for (fs::directory_iterator it(files::resolve(root), error), end; !error && it != end;
+         it.increment(error)) {
+        std::error_code ignored;
+        if (!it->is_directory(ignored)) continue;
+        if (++folders > kAircraftLimit) break;
+        if (!addFolder(out, it->path(), root + files::textOf(it->path().filename()), buffer)) break;
+    }
+    return out;
+}
+
+} // namespace gatewise
