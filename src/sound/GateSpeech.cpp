@@ -1,0 +1,46 @@
+#include "sound/GateSpeech.h"
+
+#include "platform/Files.h"
+#include "platform/Numbers.h"
+#include "platform/Text.h"
+
+#include <cstdint>
+#include <limits>
+
+namespace gatewise {
+
+namespace {
+
+constexpr std::size_t kAirlineWidth = 3;
+
+std::string keyRecording(const std::string& folder, const std::string& key) {
+    return folder + lowerCase(trimmed(key)) + ".wav";
+}
+
+} // namespace
+
+std::optional<SpokenFlight> splitFlight(const std::string& flightKey) {
+    if (flightKey.size() <= kAirlineWidth) return std::nullopt;
+    int number = 0;
+    if (!parseInteger(std::string_view(flightKey).substr(kAirlineWidth), number)) return std::nullopt;
+    using Limits = std::numeric_limits<std::int16_t>;
+    if (number < Limits::min() || number > Limits::max()) return std::nullopt;
+    const std::string text = formatInteger("0000", number);
+    int first = 0;
+    if (!parseInteger(text.substr(0, 2), first)) return std::nullopt;
+    return SpokenFlight{flightKey.substr(0, kAirlineWidth), std::to_string(first),
+                        text.substr(text.size() - 2)};
+}
+
+std::string airlineRecording(const std::string& folder, const std::string& airline) {
+    const std::string own = keyRecording(folder + "Airlines\\", airline);
+    return files::fileExists(own) ? own : folder + "ann2.wav";
+}
+
+SpokenCity cityRecordings(const std::string& folder, const std::string& link, const std::string& city) {
+    const std::string own = keyRecording(folder + "Cities\\", city);
+    if (files::fileExists(own)) return {folder + link, own};
+    return {folder + "0.wav", folder + "0.wav"};
+}
+
+} // namespace gatewise

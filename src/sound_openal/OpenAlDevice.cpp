@@ -1,0 +1,173 @@
+#include "sound_openal/OpenAlDevice.h"
+
+#include "platform/Files.h"
+
+#include <utility>
+
+namespace gatewise {
+
+namespace {
+
+// Long enough for every loudspeaker that is there, too short to be felt at start-up.
+constexpr std::chrono::milliseconds kPatience{400};
+
+} // namespace
+
+OpenAlDevice::~OpenAlDevice() {
+    close();
+}
+
+OpenAlVoice* OpenAlDevice::find(SoundBuffer buffer) {
+    const auto found = voices_.find(buffer);
+    return found != voices_.end() ? &found->second : nullptr;
+}
+
+const OpenAlVoice* OpenAlDevice::find(SoundBuffer buffer) const {
+    const auto found = voices_.find(buffer);
+    return found != voices_.end() ? &found->second : nullptr;
+}
+
+SoundBuffer OpenAlDevice::add(OpenAlVoice voice) {
+    catchUp();
+    const auto buffer = static_cast<SoundBuffer>(++last_);
+    OpenAlVoice& kept = voices_.emplace(buffer, std::move(voice)).first->second;
+    if (output_.ready()) attach(kept);
+    return buffer;
+}
+
+void OpenAlDevice::catchUp() {
+    if (!output_.takeOver()) return;
+    const auto now = std::chrono::steady_clock::now();
+    for (auto& [buffer, voice] : voices_) {
+        attach(voice);
+        if (const auto frame = frameNow(voice, now); frame >= 0) startSources(voice, frame);
+    }
+}
+
+void OpenAlDevice::dropOutput() {
+    if (output_.ready()) {
+        for (auto& [buffer, voice] : voices_) stopSources(voice);
+        for (auto& [buffer, voice] : voices_) {
+            if (voice.sources[0] != 0) alDeleteSources(2, voice.sources.data());
+            voice.sources = {};
+        }
+        for (auto& [buffer, voice] : voices_) {
+            if (voice.sound->buffers[0] != 0) alDeleteBuffers(2, voice.sound->buffers.data());
+            voice.sound->buffers = {};
+        }
+    }
+    output_.close();
+}
+
+bool OpenAlDevice::open() {
+    if (output_.lost()) dropOutput();
+    output_.begin();
+    if (!std::exchange(waited_, true)) output_.settle(kPatience);
+    catchUp();
+    return true;
+}
+
+void OpenAlDevice::close() {
+    dropOutput();
+    voices_.clear();
+    click_ = SoundBuffer::None;
+}
+
+SoundBuffer OpenAlDevice::load(const std::string& path) {
+    const auto file = files::readAll(path);
+    if (!file) return SoundBuffer::None;
+    auto wave = readWave(*file);
+    if (!wave) return SoundBuffer::None;
+    OpenAlVoice voice;
+    voice.frequency = wave->rate;
+    voice.sound = std::make_shared<OpenAlSound>();
+    voice.sound->wave = std::move(*wave);
+    return add(std::move(voice));
+}
+
+SoundBuffer OpenAlDevice::duplicate(SoundBuffer buffer) {
+    const OpenAlVoice* voice = find(buffer);
+    if (voice == nullptr) return SoundBuffer::None;
+    OpenAlVoice copy = *voice;
+    copy.playing = false;
+    copy.sources = {};
+    return add(std::move(copy));
+}
+
+void OpenAlDevice::release(SoundBuffer buffer) {
+    catchUp();
+    if (OpenAlVoice* voice = find(buffer); voice != nullptr) {
+        if (output_.ready()) detach(*voice);
+        voices_.erase(buffer);
+    }
+}
+
+void OpenAlDevice::play(SoundBuffer buffer, bool loop) {
+    catchUp();
+    OpenAlVoice* voice = find(buffer);
+    if (voice == nullptr) return;
+    voice->playing = true;
+    voice->loop = loop;
+    voice->started = std::chrono::steady_clock::now();
+    startSources(*voice, 0);
+}
+
+void OpenAlDevice::stop(SoundBuffer buffer) {
+    catchUp();
+    OpenAlVoice* voice = find(buffer);
+    if (voice == nullptr) return;
+    voice->playing = false;
+    stopSources(*voice);
+}
+
+void OpenAlDevice::setVolume(SoundBuffer buffer, std::int32_t volume) {
+    catchUp();
+    OpenAlVoice* voice = find(buffer);
+    if (voice == nullptr || volume < kLowestVolume || volume > kHighestVolume) return;
+    voice->volume = volume;
+    applySettings(*voice);
+}
+
+void OpenAlDevice::setPan(SoundBuffer buffer, std::int32_t pan) {
+    catchUp();
+    OpenAlVoice* voice = find(buffer);
+    if (voice == nullptr || pan < -kFarthestPan || pan > kFarthestPan) return;
+    voice->pan = pan;
+    applySettings(*voice);
+}
+
+void OpenAlDevice::setFrequency(SoundBuffer buffer, std::int32_t frequency) {
+    catchUp();
+    OpenAlVoice* voice = find(buffer);
+    if (voice == nullptr || frequency < kLowestFrequency || frequency > kHighestFrequency) return;
+    voice->frequency = frequency;
+    applySettings(*voice);
+}
+
+std::optional<std::int32_t> OpenAlDevice::volume(SoundBuffer buffer) const {
+    const OpenAlVoice* voice = find(buffer);
+    return voice != nullptr ? std::optional(voice->volume) : std::nullopt;
+}
+
+std::optional<std::int32_t> OpenAlDevice::pan(SoundBuffer buffer) const {
+    const OpenAlVoice* voice = find(buffer);
+    return voice != nullptr ? std::optional(voice->pan) : std::nullopt;
+}
+
+std::optional<std::int32_t> OpenAlDevice::frequency(SoundBuffer buffer) const {
+    const OpenAlVoice* voice = find(buffer);
+    return voice != nullptr ? std::optional(voice->frequency) : std::nullopt;
+}
+
+void OpenAlDevice::playOnce(const std::string& path) {
+    open();
+    release(std::exchange(click_, SoundBuffer::None));
+    click_ = load(path);
+    play(click_, false);
+}
+
+std::unique_ptr<SoundDevice> makeOpenAlDevice() {
+    return std::make_unique<OpenAlDevice>();
+}
+
+} // namespace gatewise

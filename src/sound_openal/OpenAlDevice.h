@@ -1,0 +1,60 @@
+#pragma once
+
+#include "sound/Device.h"
+#include "sound_openal/OpenAlOutput.h"
+#include "sound_openal/OpenAlVoice.h"
+
+#include <map>
+#include <memory>
+
+namespace gatewise {
+
+/// The sound device over OpenAL Soft. It keeps every buffer with its settings itself and gives it to the
+/// library when that is ready: a sound that was started meanwhile, or before the loudspeakers were unplugged
+/// and plugged in again, comes in at the place where it would be. Without a device it pretends.
+class OpenAlDevice : public SoundDevice {
+public:
+    explicit OpenAlDevice(OpenAlRoad road = {}) : output_(std::move(road)) {}
+    ~OpenAlDevice() override;
+
+    /// Waits for the loudspeakers a fraction of a second at most. Always true.
+    bool open() override;
+    void close() override;
+    SoundBuffer load(const std::string& path) override;
+    SoundBuffer duplicate(SoundBuffer buffer) override;
+    void release(SoundBuffer buffer) override;
+    void play(SoundBuffer buffer, bool loop) override;
+    void stop(SoundBuffer buffer) override;
+    void setVolume(SoundBuffer buffer, std::int32_t volume) override;
+    void setPan(SoundBuffer buffer, std::int32_t pan) override;
+    void setFrequency(SoundBuffer buffer, std::int32_t frequency) override;
+    [[nodiscard]] std::optional<std::int32_t> volume(SoundBuffer buffer) const override;
+    [[nodiscard]] std::optional<std::int32_t> pan(SoundBuffer buffer) const override;
+    [[nodiscard]] std::optional<std::int32_t> frequency(SoundBuffer buffer) const override;
+    void setSpeakers(std::int32_t value) override { speakers_ = value; }
+    [[nodiscard]] std::int32_t speakers() const override { return speakers_; }
+    void playOnce(const std::string& path) override;
+
+    /// The outside, for tests that render it.
+    [[nodiscard]] const OpenAlOutput& output() const { return output_; }
+
+private:
+    OpenAlVoice* find(SoundBuffer buffer);
+    [[nodiscard]] const OpenAlVoice* find(SoundBuffer buffer) const;
+    SoundBuffer add(OpenAlVoice voice);
+    /// Hands all voices to an output that has become ready since.
+    void catchUp();
+    void dropOutput();
+
+    OpenAlOutput output_;
+    std::map<SoundBuffer, OpenAlVoice> voices_;
+    std::uint32_t last_ = 0;
+    SoundBuffer click_ = SoundBuffer::None;
+    std::int32_t speakers_ = 0;
+    bool waited_ = false;
+};
+
+/// The device of the program proper.
+std::unique_ptr<SoundDevice> makeOpenAlDevice();
+
+} // namespace gatewise

@@ -1,0 +1,138 @@
+#include "sound_openal/OpenAlVoice.h"
+
+#include <AL/alc.h>
+#include <AL/alext.h>
+
+#include <algorithm>
+#include <cmath>
+
+// Newer than the oldest headers that this is built with.
+#ifndef AL_REMIX_UNMATCHED_SOFT
+#define AL_REMIX_UNMATCHED_SOFT 0x0002
+#endif
+
+namespace gatewise {
+
+namespace {
+
+constexpr std::uint8_t kSilence8 = 0x80;
+
+bool hasSources(const OpenAlVoice& voice) {
+    return voice.sources[0] != 0;
+}
+
+bool makeBuffers(OpenAlSound& sound) {
+    if (sound.buffers[0] != 0) return true;
+    alGetError();
+    alGenBuffers(2, sound.buffers.data());
+    if (alGetError() != AL_NO_ERROR) {
+        sound.buffers = {};
+        return false;
+    }
+    const ALenum format = sound.wave.bits == 8 ? AL_FORMAT_STEREO8 : AL_FORMAT_STEREO16;
+    for (const Side side : {Side::Left, Side::Right}) {
+        const Bytes frames = oneSided(sound.wave, side);
+        alBufferData(sound.buffers[static_cast<std::size_t>(side)], format, frames.data(),
+                     static_cast<ALsizei>(frames.size()), sound.wave.rate);
+    }
+    if (alGetError() == AL_NO_ERROR) return true;
+    alDeleteBuffers(2, sound.buffers.data());
+    sound.buffers = {};
+    return false;
+}
+
+/// Each side straight to its loudspeaker, and the best conversion of rates that the library has: it is speech
+/// of 8000 Hz on a device of 48000.
+void tune(ALuint source) {
+    if (alIsExtensionPresent("AL_SOFT_direct_channels_remix") == AL_TRUE)
+        alSourcei(source, AL_DIRECT_CHANNELS_SOFT, AL_REMIX_UNMATCHED_SOFT);
+    else if (alIsExtensionPresent("AL_SOFT_direct_channels") == AL_TRUE)
+        alSourcei(source, AL_DIRECT_CHANNELS_SOFT, AL_TRUE);
+    if (alIsExtensionPresent("AL_SOFT_source_resampler") == AL_TRUE)
+        alSourcei(source, AL_SOURCE_RESAMPLER_SOFT, alGetInteger(AL_NUM_RESAMPLERS_SOFT) - 1);
+}
+
+} // namespace
+
+Bytes oneSided(const WaveSound& wave, Side side) {
+    const std::size_t width = wave.bits / 8U;
+    const std::size_t frame = width * wave.channels;
+    const std::size_t frames = wave.samples.size() / frame;
+    const std::size_t right = side == Side::Right ? 1 : 0;
+    const std::size_t taken = wave.channels == 2 ? right * width : 0;
+    Bytes out(frames * 2 * width, wave.bits == 8 ? kSilence8 : std::uint8_t{0});
+    for (std::size_t i = 0; i < frames; ++i)
+        std::copy_n(wave.samples.data() + i * frame + taken, width, out.data() + (i * 2 + right) * width);
+    return out;
+}
+
+float sideGain(Side side, std::int32_t volume, std::int32_t pan) {
+    const std::int32_t lowered = side == Side::Left ? std::max(pan, 0) : std::max(-pan, 0);
+    return static_cast<float>(std::pow(10.0, (volume - lowered) / 2000.0));
+}
+
+void attach(OpenAlVoice& voice) {
+    if (hasSources(voice) || !makeBuffers(*voice.sound)) return;
+    alGetError();
+    alGenSources(2, voice.sources.data());
+    if (alGetError() != AL_NO_ERROR) {
+        voice.sources = {};
+        return;
+    }
+    for (std::size_t side = 0; side < 2; ++side) {
+        tune(voice.sources[side]);
+        alSourcei(voice.sources[side], AL_BUFFER, static_cast<ALint>(voice.sound->buffers[side]));
+    }
+    applySettings(voice);
+}
+
+void detach(OpenAlVoice& voice) {
+    if (hasSources(voice)) {
+        alSourceStopv(2, voice.sources.data());
+        alDeleteSources(2, voice.sources.data());
+        voice.sources = {};
+    }
+    if (voice.sound.use_count() == 1 && voice.sound->buffers[0] != 0) {
+        alDeleteBuffers(2, voice.sound->buffers.data());
+        voice.sound->buffers = {};
+    }
+}
+
+void applySettings(const OpenAlVoice& voice) {
+    if (!hasSources(voice)) return;
+    // Both sides change in the same mix, so that they never drift apart.
+    alcSuspendContext(alcGetCurrentContext());
+    for (const Side side : {Side::Left, Side::Right}) {
+        const ALuint source = voice.sources[static_cast<std::size_t>(side)];
+        alSourcef(source, AL_GAIN, sideGain(side, voice.volume, voice.pan));
+        alSourcef(source, AL_PITCH,
+                  static_cast<float>(voice.frequency) / static_cast<float>(voice.sound->wave.rate));
+    }
+    alcProcessContext(alcGetCurrentContext());
+}
+
+void startSources(const OpenAlVoice& voice, std::int64_t frame) {
+    if (!hasSources(voice)) return;
+    alSourceStopv(2, voice.sources.data());
+    for (const ALuint source : voice.sources) {
+        alSourcei(source, AL_LOOPING, voice.loop ? AL_TRUE : AL_FALSE);
+        alSourcei(source, AL_SAMPLE_OFFSET, static_cast<ALint>(frame));
+    }
+    alSourcePlayv(2, voice.sources.data());
+}
+
+void stopSources(const OpenAlVoice& voice) {
+    if (hasSources(voice)) alSourceStopv(2, voice.sources.data());
+}
+
+std::int64_t frameNow(const OpenAlVoice& voice, std::chrono::steady_clock::time_point now) {
+    if (!voice.playing) return -1;
+    const std::size_t frameSize = std::size_t{voice.sound->wave.channels} * voice.sound->wave.bits / 8;
+    const auto length = static_cast<std::int64_t>(voice.sound->wave.samples.size() / frameSize);
+    const double seconds = std::chrono::duration<double>(now - voice.started).count();
+    const auto frame = static_cast<std::int64_t>(seconds * voice.frequency);
+    if (voice.loop) return frame % length;
+    return frame < length ? frame : -1;
+}
+
+} // namespace gatewise

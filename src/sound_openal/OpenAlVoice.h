@@ -1,0 +1,57 @@
+#pragma once
+
+#include "sound/WaveFile.h"
+
+#include <AL/al.h>
+
+#include <array>
+#include <chrono>
+#include <cstdint>
+#include <memory>
+
+// A voice is one sound as it plays: two sources, one for each ear, each with a gain of its own. The position
+// of a source in space would let one side leak into the other; this way the far side is lowered exactly.
+
+namespace gatewise {
+
+enum class Side : std::uint8_t { Left, Right };
+
+/// A wave file's sound, shared by a channel and its echoes, with the library's buffers once they are needed.
+struct OpenAlSound {
+    WaveSound wave;
+    std::array<ALuint, 2> buffers{}; // by side, 0: none
+};
+
+struct OpenAlVoice {
+    std::shared_ptr<OpenAlSound> sound;
+    std::int32_t volume = 0;
+    std::int32_t pan = 0;
+    std::int32_t frequency = 8000;
+    bool playing = false; // was started and not stopped; it may have run out
+    bool loop = false;
+    std::chrono::steady_clock::time_point started{};
+    std::array<ALuint, 2> sources{}; // by side, 0: none
+};
+
+/// Frames of left and right samples with one side silent; a mono sound stands on the given side.
+Bytes oneSided(const WaveSound& wave, Side side);
+
+/// Gain of a side under a volume and a pan in hundredths of a decibel.
+float sideGain(Side side, std::int32_t volume, std::int32_t pan);
+
+/// Gives the voice sources of the current context. Where the library has none to give, it stays silent.
+void attach(OpenAlVoice& voice);
+/// Takes the sources away, and the buffers when no other voice shares the sound.
+void detach(OpenAlVoice& voice);
+
+/// Hands gains and rate to the sources.
+void applySettings(const OpenAlVoice& voice);
+/// Starts both sides in the same instant, `frame` frames into the sound.
+void startSources(const OpenAlVoice& voice, std::int64_t frame);
+void stopSources(const OpenAlVoice& voice);
+
+/// The frame at which a voice that was started stands by the clock; negative when it has run out or is
+/// stopped.
+std::int64_t frameNow(const OpenAlVoice& voice, std::chrono::steady_clock::time_point now);
+
+} // namespace gatewise

@@ -1,0 +1,139 @@
+#pragma once
+
+#include "platform/Binary.h"
+#include "platform/Machine.h"
+#include "sound/Device.h"
+#include "sound/SilentDevice.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+namespace gatewise::sound_test {
+
+using Shorts = std::initializer_list<std::int16_t>;
+
+/// A folder of its own for each test, gone afterwards.
+class TemporaryFolder {
+public:
+    TemporaryFolder() {
+        const auto* info = testing::UnitTest::GetInstance()->current_test_info();
+        folder_ = std::filesystem::temp_directory_path() /
+                  (std::string("gatewise-") + info->test_suite_name() + "-" + info->name() + "-" +
+                   std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()));
+        std::filesystem::remove_all(folder_);
+        std::filesystem::create_directories(folder_);
+    }
+    ~TemporaryFolder() {
+        std::error_code ignored;
+        std::filesystem::remove_all(folder_, ignored);
+    }
+    TemporaryFolder(const TemporaryFolder&) = delete;
+    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+
+    [[nodiscard]] std::string path() const { return folder_.string(); }
+    [[nodiscard]] std::filesystem::path operator/(const std::string& tail) const { return folder_ / tail; }
+
+    void write(const std::string& tail, const Bytes& bytes) const {
+        std::filesystem::create_directories((folder_ / tail).parent_path());
+        std::ofstream file(folder_ / tail, std::ios::binary);
+        file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    }
+    [[nodiscard]] Bytes read(const std::string& tail) const {
+        std::ifstream file(folder_ / tail, std::ios::binary);
+        return Bytes(std::istreambuf_iterator<char>(file), {});
+    }
+    [[nodiscard]] bool has(const std::string& tail) const { return std::filesystem::exists(folder_ / tail); }
+
+private:
+    std::filesystem::path folder_;
+};
+
+/// A wave file with the common 44-byte header around `data`.
+inline Bytes waveOf(const Bytes& data, std::uint16_t channels = 1, std::uint32_t rate = 8000,
+                    std::uint16_t bits = 8) {
+    Bytes file;
+    appendText(file, "RIFF");
+    appendField(file, static_cast<std::uint32_t>(data.size() + 36));
+    appendText(file, "WAVEfmt ");
+    appendField(file, std::uint32_t{16});
+    appendField(file, std::uint16_t{1});
+    appendField(file, channels);
+    appendField(file, rate);
+    appendField(file, rate * channels * bits / 8U);
+    appendField(file, static_cast<std::uint16_t>(channels * bits / 8U));
+    appendField(file, bits);
+    appendText(file, "data");
+    appendField(file, static_cast<std::uint32_t>(data.size()));
+    file.insert(file.end(), data.begin(), data.end());
+    return file;
+}
+
+/// Writes down the waits and lets a test act in them.
+class ScriptedLoop : public EventLoop {
+public:
+    void runModal(std::string_view, const std::function<bool()>&) override {}
+    void wait(std::int64_t milliseconds) override {
+        waits.push_back(milliseconds);
+        if (inWait) inWait();
+    }
+    std::vector<std::int64_t> waits;
+    std::function<void()> inWait;
+};
+
+/// Operations as lines: `SetVolume 8 -9000`.
+class Listener : public SoundLog {
+public:
+    void operation(std::string_view name, std::span<const SoundArgument> arguments) override {
+        std::string line(name);
+        for (const SoundArgument& argument : arguments) {
+            line += ' ';
+            if (const auto* number = std::get_if<std::int32_t>(&argument)) line += std::to_string(*number);
+            if (const auto* flag = std::get_if<bool>(&argument)) line += *flag ? "true" : "false";
+            if (const auto* text = std::get_if<std::string>(&argument)) line += shortened(*text);
+        }
+        lines.push_back(line);
+    }
+    std::vector<std::string> lines;
+    std::string folder; // left out of paths
+
+private:
+    [[nodiscard]] std::string shortened(const std::string& text) const {
+        return !folder.empty() && text.starts_with(folder) ? text.substr(folder.size()) : text;
+    }
+};
+
+/// A silent device that writes down what reaches it.
+class WatchedDevice : public SilentDevice {
+public:
+    bool open() override {
+        ++opened;
+        return opens;
+    }
+    void close() override {
+        ++closed;
+        SilentDevice::close();
+    }
+    SoundBuffer duplicate(SoundBuffer buffer) override {
+        const SoundBuffer made = SilentDevice::duplicate(buffer);
+        if (made != SoundBuffer::None) ++duplicates;
+        return made;
+    }
+    void play(SoundBuffer buffer, bool loop) override { played.emplace_back(buffer, loop); }
+    void stop(SoundBuffer buffer) override { stopped.push_back(buffer); }
+    void playOnce(const std::string& path) override { clicks.push_back(path); }
+
+    bool opens = true;
+    int opened = 0, closed = 0, duplicates = 0;
+    std::vector<std::pair<SoundBuffer, bool>> played;
+    std::vector<SoundBuffer> stopped;
+    std::vector<std::string> clicks;
+};
+
+} // namespace gatewise::sound_test
