@@ -1,0 +1,37 @@
+#pragma once
+
+#include "forms/Forms.h"
+
+#include <string>
+
+// What a person does at a control, in the one order in which the program sees it. The window and the text
+// driver turn their input into these calls and into nothing else. A disabled control takes nothing but the
+// mouse moving over it, and says nothing. Refusing input to screens that a modal one blocks is theirs.
+
+namespace gatewise::user {
+
+void click(Control& control);   // press, release, click
+void clicked(Control& control); // the click alone, after a press and a release that were told before
+void doubleClick(Control& control);
+void press(Control& control, int x = 0, int y = 0);
+void release(Control& control, int x = 0, int y = 0);
+void rightPress(Control& control);
+void move(Control& control, int x = 0, int y = 0, bool left = false);
+void focus(Control& control);
+void enter(Control& control);
+void space(Control& control);
+
+/// Replaces the text as typing would; longer texts are cut where the box has a limit.
+void type(TextBox& box, std::string text);
+/// An item of a combo or list box, or a row of a list view. False when there is no such place.
+bool choose(Control& control, int place);
+void check(Control& control, int value); // check or option box
+void slide(RangeControl& control, int value);
+void column(ListView& list, int column);
+/// Moves a drive or folder list.
+void path(PathList& list, std::string path);
+
+/// What a timer does when it falls due; a timer never ticks inside its own tick.
+void tick(Timer& timer);
+
+} // namespace gatewise::user
