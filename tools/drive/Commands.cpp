@@ -1,0 +1,65 @@
+#include "drive/Commands.h"
+
+#include "drive/Controls.h"
+#include "screens/UserEvents.h"
+
+namespace gatewise::drive {
+
+namespace {
+
+Outcome start(Session& session, std::string_view) {
+    if (session.started()) return "already started";
+    session.start();
+    return kDone;
+}
+
+Outcome advance(Session& session, std::string_view rest) {
+    const auto milliseconds = integerArgument(rest);
+    if (!milliseconds || *milliseconds < 0) return "expected a number of milliseconds";
+    session.machine().loop.advance(*milliseconds);
+    return kDone;
+}
+
+Outcome tick(Session& session, std::string_view rest) {
+    Timer* timer = controlAs<Timer>(session.program().forms.control(rest));
+    if (timer == nullptr) return "no timer " + std::string(rest);
+    user::tick(*timer);
+    return kDone;
+}
+
+Outcome quit(Session& session, std::string_view) {
+    session.quit();
+}
+
+constexpr Command kRunCommands[] = {
+    {"start", start, true},
+    {"advance", advance},
+    {"tick", tick},
+    {"quit", quit, true},
+};
+
+const Command* findCommand(std::string_view name) {
+    for (const auto commands :
+         {machineCommands(), runCommands(), eventCommands(), lookCommands(), callCommands()}) {
+        for (const Command& command : commands) {
+            if (command.name == name) return &command;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace
+
+std::span<const Command> runCommands() {
+    return kRunCommands;
+}
+
+Outcome runCommand(Session& session, std::string_view line) {
+    const std::string_view name = takeWord(line);
+    const Command* command = findCommand(name);
+    if (command == nullptr) return "unknown command " + std::string(name);
+    if (!command->beforeStart && !session.started()) return "not started";
+    return command->run(session, line);
+}
+
+} // namespace gatewise::drive

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "drive/Arguments.h"
+#include "drive/Session.h"
+
+#include <span>
+
+namespace gatewise::drive {
+
+/// Why a command was refused; nothing when it was carried out.
+using Outcome = std::optional<std::string>;
+inline constexpr std::nullopt_t kDone = std::nullopt;
+
+/// A command's word and what carries it out, given the rest of the line.
+struct Command {
+    const char* name;
+    Outcome (*run)(Session& session, std::string_view rest);
+    bool beforeStart = false; // can be given before the program was started
+};
+
+/// The commands by subject.
+std::span<const Command> machineCommands();
+std::span<const Command> runCommands();
+std::span<const Command> eventCommands();
+std::span<const Command> lookCommands();
+std::span<const Command> callCommands();
+
+/// Carries out one line.
+Outcome runCommand(Session& session, std::string_view line);
+
+} // namespace gatewise::drive
