@@ -1,0 +1,152 @@
+#include "window/Buttons.h"
+
+#include "screens/UserEvents.h"
+#include "window/Drawing.h"
+#include "window/LabelText.h"
+#include "window/QtText.h"
+#include "window/Skin.h"
+
+#include <QKeyEvent>
+
+namespace gatewise::window {
+
+namespace {
+
+const char* folderOf(Kind kind) {
+    switch (kind) {
+    case Kind::FlatButton:
+        return "\\Images\\Menu\\";
+    case Kind::FormButton:
+        return "\\Images\\Main\\";
+    case Kind::boardButton:
+        return "\\Images\\Status\\";
+    default:
+        return "\\Images\\Buttons\\";
+    }
+}
+
+bool isEnter(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+} // namespace
+
+void drawKey(QPainter& painter, const QRect& box, const QString& caption, const Skin& skin, bool lit,
+             bool usable) {
+    const QColor face = lit ? QColor(0x24, 0x44, 0x4D) : QColor(0x28, 0x30, 0x39);
+    const QColor rim = lit ? QColor(0x00, 0xB4, 0xBE) : QColor(0x3E, 0x4A, 0x55);
+    drawBox(painter, box, face, kSocket, 5);
+    drawBox(painter, box.adjusted(1, 1, -1, -1), QColor(), rim, 4);
+    TextStyle style = skin.text("section");
+    style.color = usable ? QColor(0xE3, 0xEA, 0xF0) : QColor(0x77, 0x85, 0x92);
+    style.align = Qt::AlignHCenter;
+    style.ellipsis = Ellipsis::Right;
+    style.pad = 3;
+    drawText(painter, box, caption, style);
+}
+
+ButtonView::ButtonView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent)
+    : PaintedView(actor, control, place, parent) {
+    setFocusPolicy(Qt::TabFocus);
+}
+
+std::string ButtonView::pictureTail() const {
+    return folderOf(control->kind) + button().picture + ".bmp";
+}
+
+void ButtonView::sync() {
+    syncCommon();
+    if (button().picture == shown_ && button().State == shownState_) return;
+    if (button().State != shownState_) {
+        QAccessible::State changed;
+        changed.disabled = true;
+        QAccessibleStateChangeEvent event(this, changed);
+        QAccessible::updateAccessibility(&event);
+    }
+    shown_ = button().picture;
+    shownState_ = button().State;
+    update();
+}
+
+QString ButtonView::spokenName() const {
+    const QString caption = actor_.skin().caption(pictureTail());
+    return caption.isEmpty() ? View::spokenName() : caption;
+}
+
+bool ButtonView::usable() const {
+    return View::usable() && (!button().hasState() || button().State == 1);
+}
+
+void ButtonView::byKey(const std::function<void()>& what) {
+    actor_.act([&] {
+        what();
+        // A press lights the picture as under the mouse; without a mouse there, the ground puts it out.
+        Control* ground = control->screen->find(place.container);
+        if (!underMouse() && ground != nullptr && control->screen->visible) user::move(*ground);
+    });
+}
+
+void ButtonView::activate() {
+    byKey([&] {
+        if (control->handles(Event::Enter))
+            user::enter(*control);
+        else
+            user::click(*control);
+    });
+}
+
+void ButtonView::keyPressEvent(QKeyEvent* event) {
+    if (isEnter(*event) && usable()) {
+        if (!event->isAutoRepeat()) activate();
+    } else if (event->key() == Qt::Key_Space && usable()) {
+        byKey([&] { user::click(*control); });
+    } else {
+        event->ignore();
+    }
+}
+
+void ButtonView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QPixmap picture = actor_.skin().picture(pictureTail(), devicePixelRatioF());
+    if (picture.isNull()) {
+        drawKey(painter, rect(), spokenName(), actor_.skin(), shown_.ends_with("_mouse"), usable());
+        return;
+    }
+    drawPicture(painter, rect(), picture);
+}
+
+PushButtonView::PushButtonView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent)
+    : QPushButton(parent), View(actor, control, place) {
+    setMouseTracking(true);
+    connect(this, &QPushButton::clicked, this,
+            [this] { actor_.act([this] { user::click(*this->control); }); });
+}
+
+void PushButtonView::sync() {
+    syncCommon();
+    setEnabled(control->enabled);
+    const QString text = toQt(static_cast<const PushButton&>(*control).text);
+    if (text != this->text()) setText(text);
+}
+
+QString PushButtonView::spokenName() const {
+    return toQt(static_cast<const PushButton&>(*control).text);
+}
+
+void PushButtonView::activate() {
+    click();
+}
+
+void PushButtonView::keyPressEvent(QKeyEvent* event) {
+    if (isEnter(*event))
+        activate();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+void PushButtonView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawKey(painter, rect(), text(), actor_.skin(), underMouse() || isDown(), isEnabled());
+}
+
+} // namespace gatewise::window

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "window/View.h"
+
+#include <QPushButton>
+
+namespace gatewise::window {
+
+/// A button of one of the five picture classes.
+class ButtonView : public PaintedView {
+    Q_OBJECT
+public:
+    ButtonView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
+    void sync() override;
+    [[nodiscard]] QString spokenName() const override;
+    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Button; }
+    [[nodiscard]] bool usable() const override;
+    [[nodiscard]] bool takesFocus() const override { return usable(); }
+    void activate() override;
+
+    /// File of the picture below the program folder.
+    [[nodiscard]] std::string pictureTail() const;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    [[nodiscard]] SkinnedButton& button() const { return static_cast<SkinnedButton&>(*control); }
+    void byKey(const std::function<void()>& what);
+    std::string shown_;
+    int shownState_ = 1;
+};
+
+/// A standard push button, drawn like a key.
+class PushButtonView : public QPushButton, public View {
+    Q_OBJECT
+public:
+    PushButtonView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
+    QWidget* widget() override { return this; }
+    void sync() override;
+    [[nodiscard]] QString spokenName() const override;
+    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Button; }
+    [[nodiscard]] bool takesFocus() const override { return usable(); }
+    void activate() override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+/// A key without a picture.
+void drawKey(QPainter& painter, const QRect& box, const QString& caption, const Skin& skin, bool lit,
+             bool usable);
+
+} // namespace gatewise::window

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "forms/Forms.h"
+#include "window/ScreenWindow.h"
+#include "window/Skin.h"
+
+#include <QLabel>
+
+#include <map>
+#include <memory>
+
+namespace gatewise::window {
+
+/// All windows of the program. After each event, timer and paint it compares them with the forms.
+class Desk : public QObject, public Actor {
+    Q_OBJECT
+public:
+    Desk(Forms& forms, const Skin& skin);
+    ~Desk() override;
+
+    void act(const std::function<void()>& what) override;
+    [[nodiscard]] const Skin& skin() const override { return skin_; }
+
+    /// Brings the forms onto the screen.
+    void sync();
+    /// Paints at once what differs; the mouse, the keyboard and the timers wait.
+    void paint();
+    [[nodiscard]] bool painting() const { return painting_; }
+
+    [[nodiscard]] ScreenWindow& window(const Screen& screen) const { return *windows_.at(&screen); }
+    /// The window in front, null when none is up.
+    [[nodiscard]] ScreenWindow* front() const;
+    [[nodiscard]] ScreenWindow& mainWindow() const { return window(forms_.MainForm); }
+
+    /// A note at the foot of the window in front, which goes away by itself or by a click.
+    void showNote(const QString& text);
+    [[nodiscard]] QString note() const;
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override;
+
+private:
+    void syncOnce();
+    void showWindow(ScreenWindow& window);
+    Forms& forms_;
+    const Skin& skin_;
+    std::map<const Screen*, std::unique_ptr<ScreenWindow>> windows_;
+    QLabel* note_ = nullptr;
+    bool syncing_ = false;
+    bool again_ = false;
+    bool painting_ = false;
+};
+
+} // namespace gatewise::window

@@ -1,0 +1,211 @@
+#include "window/Fields.h"
+
+#include "screens/UserEvents.h"
+#include "window/Drawing.h"
+#include "window/LabelText.h"
+#include "window/QtText.h"
+#include "window/Skin.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QListView>
+#include <QTimer>
+
+namespace gatewise::window {
+
+namespace {
+
+QPalette fieldPalette(const Skin& skin, const QPalette& base) {
+    QPalette palette = base;
+    const auto set = [&](QPalette::ColorGroup group, QPalette::ColorRole role, const char* key) {
+        palette.setColor(group, role, skin.style(key));
+    };
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+        set(group, QPalette::Text, "textbox.text");
+        set(group, QPalette::Highlight, "textbox.select");
+        set(group, QPalette::HighlightedText, "textbox.selectText");
+    }
+    // A selection shows where the keyboard is; elsewhere the text stands plain.
+    palette.setColor(QPalette::Inactive, QPalette::Highlight, Qt::transparent);
+    set(QPalette::Inactive, QPalette::HighlightedText, "textbox.text");
+    set(QPalette::Disabled, QPalette::Text, "textbox.disabledText");
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        palette.setColor(group, QPalette::Base, Qt::transparent);
+    }
+    return palette;
+}
+
+bool isEnter(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+constexpr int kArrowField = 22; // of a combo box, at its right end
+
+} // namespace
+
+LineView::LineView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent)
+    : QLineEdit(parent), View(actor, control, place) {
+    const Skin& skin = actor.skin();
+    setFrame(false);
+    setFont(skin.font(place.font));
+    setPalette(fieldPalette(skin, palette()));
+    setAlignment(place.align | Qt::AlignVCenter);
+    setTextMargins(4, 0, 4, 0);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setFocusPolicy(box().readOnly ? Qt::NoFocus : Qt::StrongFocus);
+    connect(this, &QLineEdit::textEdited, this,
+            [this](const QString& text) { actor_.act([&] { user::type(box(), fromQt(text)); }); });
+}
+
+bool LineView::takesFocus() const {
+    return usable() && !box().readOnly;
+}
+
+void LineView::sync() {
+    syncCommon();
+    if (isEnabled() != box().enabled) setEnabled(box().enabled);
+    if (isReadOnly() != box().readOnly) setReadOnly(box().readOnly);
+    const QString now = toQt(box().text);
+    if (text() != now) {
+        const int at = cursorPosition();
+        setText(now);
+        setCursorPosition(hasFocus() ? at : 0);
+    }
+    if (box().selectAll) {
+        box().selectAll = false;
+        selectLater_ = byMouse_;
+        selectAll();
+    }
+}
+
+void LineView::focusInEvent(QFocusEvent* event) {
+    byMouse_ = event->reason() == Qt::MouseFocusReason;
+    QLineEdit::focusInEvent(event);
+}
+
+void LineView::mouseReleaseEvent(QMouseEvent* event) {
+    QLineEdit::mouseReleaseEvent(event);
+    byMouse_ = false;
+    if (selectLater_ && !hasSelectedText()) selectAll();
+    selectLater_ = false;
+}
+
+void LineView::keyPressEvent(QKeyEvent* event) {
+    if (isEnter(*event)) {
+        actor_.act([this] { user::enter(*control); });
+        return;
+    }
+    QLineEdit::keyPressEvent(event);
+}
+
+void LineView::paintEvent(QPaintEvent* event) {
+    const Skin& skin = actor_.skin();
+    {
+        QPainter painter(this);
+        drawField(painter, rect(), skin.style(isEnabled() ? "textbox.back" : "textbox.disabledBack"),
+                  skin.style("textbox.border"));
+    }
+    QLineEdit::paintEvent(event);
+}
+
+NotesView::NotesView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent)
+    : QPlainTextEdit(parent), View(actor, control, place) {
+    const Skin& skin = actor.skin();
+    setFrameShape(QFrame::NoFrame);
+    setFont(skin.font(place.font));
+    setPalette(fieldPalette(skin, palette()));
+    viewport()->setAutoFillBackground(false);
+    setTabChangesFocus(true);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    document()->setDocumentMargin(5);
+    connect(this, &QPlainTextEdit::textChanged, this, [this] { typed(); });
+}
+
+void NotesView::typed() {
+    if (syncing_) return;
+    actor_.act([this] { user::type(box(), fromQt(toPlainText())); });
+}
+
+void NotesView::sync() {
+    syncCommon();
+    if (isEnabled() != box().enabled) setEnabled(box().enabled);
+    if (isReadOnly() != box().readOnly) setReadOnly(box().readOnly);
+    const QString now = toQt(box().text).replace("\r\n", "\n");
+    if (toPlainText() == now) return;
+    syncing_ = true;
+    const int at = textCursor().position();
+    setPlainText(now);
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(std::min(at, static_cast<int>(now.size())));
+    setTextCursor(cursor);
+    syncing_ = false;
+}
+
+void NotesView::paintEvent(QPaintEvent* event) {
+    const Skin& skin = actor_.skin();
+    {
+        QPainter painter(viewport());
+        painter.translate(-viewport()->pos());
+        drawField(painter, rect(), skin.style(isEnabled() ? "textbox.back" : "textbox.disabledBack"),
+                  skin.style("textbox.border"));
+    }
+    QPlainTextEdit::paintEvent(event);
+}
+
+ComboView::ComboView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent)
+    : QComboBox(parent), View(actor, control, place) {
+    const Skin& skin = actor.skin();
+    setFont(skin.font(place.font));
+    setView(new QListView(this));
+    setMaxVisibleItems(12);
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    setMinimumContentsLength(1);
+    view()->setTextElideMode(Qt::ElideRight);
+    view()->setStyleSheet(QString("QListView{background:%1;color:%2;border:1px solid %3;outline:0}"
+                                  "QListView::item{height:20px;padding-left:5px}"
+                                  "QListView::item:selected{background:%4;color:%5}")
+                              .arg(skin.style("combo.popupBack").name(), skin.style("combo.text").name(),
+                                   skin.style("combo.border").name(), skin.style("combo.popupSelect").name(),
+                                   skin.style("combo.popupSelectText").name()));
+    connect(this, &QComboBox::activated, this, [this](int at) {
+        actor_.act([&] {
+            if (!list().locked) user::choose(*this->control, at);
+        });
+    });
+}
+
+void ComboView::sync() {
+    syncCommon();
+    const bool open = list().enabled && !list().locked;
+    if (isEnabled() != open) setEnabled(open);
+    const QSignalBlocker quiet(this);
+    if (shown_ != list().items) {
+        shown_ = list().items;
+        clear();
+        for (const auto& item : shown_) addItem(toQt(item));
+    }
+    if (currentIndex() != list().picked) setCurrentIndex(list().picked);
+}
+
+void ComboView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const Skin& skin = actor_.skin();
+    QColor back = skin.style("combo.back");
+    if (control->kind == Kind::Combo) back = toQt(static_cast<const Combo&>(*control).back);
+    if (!isEnabled()) back = skin.style("combo.disabledBack");
+    drawField(painter, rect(), back, skin.style("combo.border"));
+    const QRect arrow(width() - kArrowField, 1, kArrowField - 1, height() - 2);
+    drawBox(painter, arrow, isEnabled() ? skin.style("combo.arrowField") : back, QColor(), 1);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(skin.style("combo.arrow"), 2));
+    const double x = width() - 16;
+    const double y = height() / 2.0 - 2;
+    const QPointF tip[] = {{x, y}, {x + 4.5, y + 5}, {x + 9, y}};
+    painter.drawPolyline(tip, 3);
+    TextStyle style = skin.text(place.font);
+    style.color = skin.style(isEnabled() ? "combo.text" : "combo.disabledText");
+    style.ellipsis = Ellipsis::Right;
+    drawText(painter, QRectF(8, 0, width() - 8 - kArrowField - 4, height()), currentText(), style);
+}
+
+} // namespace gatewise::window

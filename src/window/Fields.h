@@ -1,0 +1,71 @@
+#pragma once
+
+#include "window/View.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+namespace gatewise::window {
+
+/// A line to type in.
+class LineView : public QLineEdit, public View {
+    Q_OBJECT
+public:
+    LineView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
+    QWidget* widget() override { return this; }
+    void sync() override;
+    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::EditableText; }
+    [[nodiscard]] bool takesFocus() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    [[nodiscard]] TextBox& box() const { return static_cast<TextBox&>(*control); }
+    bool byMouse_ = false; // the focus came with a mouse press that has not ended
+    bool selectLater_ = false;
+};
+
+/// Several lines to type in.
+class NotesView : public QPlainTextEdit, public View {
+    Q_OBJECT
+public:
+    NotesView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
+    QWidget* widget() override { return this; }
+    void sync() override;
+    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::EditableText; }
+    [[nodiscard]] bool takesFocus() const override { return usable(); }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    [[nodiscard]] TextBox& box() const { return static_cast<TextBox&>(*control); }
+    void typed();
+    bool syncing_ = false;
+};
+
+/// Combo boxes and drive lists.
+class ComboView : public QComboBox, public View {
+    Q_OBJECT
+public:
+    ComboView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
+    QWidget* widget() override { return this; }
+    void sync() override;
+    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::ComboBox; }
+    [[nodiscard]] bool takesFocus() const override { return usable() && !list().locked; }
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+private:
+    [[nodiscard]] ItemControl& list() const { return static_cast<ItemControl&>(*control); }
+    std::vector<std::string> shown_;
+};
+
+} // namespace gatewise::window

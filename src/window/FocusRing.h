@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QWidget>
+
+namespace gatewise::window {
+
+/// The one ring that shows where the keyboard is, above everything in its window.
+class FocusRing : public QWidget {
+    Q_OBJECT
+public:
+    explicit FocusRing(QWidget* window);
+    /// Lies around a box of the window; an empty box takes it away.
+    void surround(const QRect& box);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QRect box_;
+};
+
+} // namespace gatewise::window

@@ -1,0 +1,198 @@
+#include "window/PaintedViews.h"
+
+#include "screens/UserEvents.h"
+#include "window/Drawing.h"
+#include "window/LabelText.h"
+#include "window/QtText.h"
+#include "window/Skin.h"
+
+#include <QPaintEvent>
+
+namespace gatewise::window {
+
+namespace {
+
+constexpr Color kNoColor{255, 255, 255}; // a label that the program has not coloured
+constexpr int kHeadingRise = 8;          // of a frame's heading above its line
+
+bool rowHandles(const Control& control) {
+    return control.handles(Event::DoubleClick) || control.handles(Event::RightPress) ||
+           control.handles(Event::Click);
+}
+
+/// Enter on something clickable that is no button: what a double click does, else a click.
+void open(Actor& actor, Control& control) {
+    actor.act([&] {
+        if (control.handles(Event::DoubleClick))
+            user::doubleClick(control);
+        else
+            user::click(control);
+    });
+}
+
+} // namespace
+
+GroundView::GroundView(Actor& actor, Control* control, const ControlLayout& place, std::string picture,
+                       QWidget* parent)
+    : PaintedView(actor, control, place, parent), picture_(std::move(picture)) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void GroundView::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    const QPixmap picture = actor_.skin().picture(picture_, devicePixelRatioF());
+    if (picture.isNull()) {
+        painter.fillRect(event->rect(), kPanel);
+        return;
+    }
+    drawPicture(painter, rect(), picture);
+}
+
+void LabelView::putAt(QPoint corner) {
+    // A well has a light line below its box.
+    setGeometry(QRect(corner, place.box.size()).adjusted(0, 0, 0, place.back.isValid() ? 1 : 0));
+}
+
+TextStyle LabelView::style() const {
+    const Skin& skin = actor_.skin();
+    TextStyle style = skin.text(place.font);
+    style.color = label().color == kNoColor ? place.color : toQt(label().color);
+    if (!label().enabled) style.color = place.disabled.isValid() ? place.disabled : kDisabledText;
+    style.align = place.align;
+    style.top = place.top;
+    style.wrap = place.wrap;
+    style.lines = place.lines;
+    style.ellipsis = place.ellipsis;
+    style.pad = place.back.isValid() && place.align != Qt::AlignHCenter ? 8 : 0;
+    return style;
+}
+
+void LabelView::sync() {
+    syncCommon();
+    const Label& now = label();
+    if (now.text == shownText_ && now.color == shownColor_ && now.enabled == shownEnabled_ &&
+        now.highlighted == shownMark_) {
+        return;
+    }
+    if (now.text != shownText_) {
+        QAccessibleEvent event(this, QAccessible::NameChanged);
+        QAccessible::updateAccessibility(&event);
+    }
+    shownText_ = now.text;
+    shownColor_ = now.color;
+    shownEnabled_ = now.enabled;
+    shownMark_ = now.highlighted;
+    update();
+}
+
+QString LabelView::spokenName() const {
+    if (wordsOfRow && takesFocus()) return wordsOfRow();
+    const QString text = toQt(label().text).simplified();
+    if (!place.hit || captionNearby.isEmpty()) return text;
+    return captionNearby + ": " + text;
+}
+
+QAccessible::Role LabelView::role() const {
+    if (place.family > 0 && rowHandles(*control)) return QAccessible::ListItem;
+    return takesFocus() ? QAccessible::Button : QAccessible::StaticText;
+}
+
+bool LabelView::takesFocus() const {
+    if (!usable() || !rowHandles(*control)) return false;
+    return place.family == 0 || !toQt(label().text).trimmed().isEmpty();
+}
+
+void LabelView::activate() {
+    open(actor_, *control);
+}
+
+void LabelView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QRect box(QPoint(0, 0), place.box.size());
+    if (place.back.isValid())
+        drawWell(painter, box, place.back, place.border, actor_.skin().style("well.rim"));
+    if (place.highlight.isValid() && label().highlighted) {
+        QColor fill = place.highlight;
+        fill.setAlphaF(0.75F);
+        painter.fillRect(box, fill);
+        painter.fillRect(QRect(0, 0, 3, box.height()), kMarkEdge);
+    }
+    if (!place.font.empty()) drawText(painter, box, toQt(label().text), style());
+}
+
+QString HitAreaView::spokenName() const {
+    return wordsOfRow ? wordsOfRow() : View::spokenName();
+}
+
+QAccessible::Role HitAreaView::role() const {
+    return wordsOfRow ? QAccessible::ListItem : QAccessible::Grouping;
+}
+
+bool HitAreaView::takesFocus() const {
+    return usable() && rowHandles(*control);
+}
+
+void HitAreaView::activate() {
+    open(actor_, *control);
+}
+
+void PictureView::sync() {
+    syncCommon();
+    const auto& now = static_cast<const Picture&>(*control).picture;
+    if (now == shown_) return;
+    shown_ = now;
+    update();
+}
+
+QString PictureView::spokenName() const {
+    const QString caption = actor_.skin().caption(static_cast<const Picture&>(*control).picture);
+    return caption.isEmpty() ? View::spokenName() : caption;
+}
+
+void PictureView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const QPixmap picture = actor_.skin().picture(shown_, devicePixelRatioF());
+    if (!picture.isNull()) {
+        drawPicture(painter, rect(), picture);
+        return;
+    }
+    TextStyle style = actor_.skin().text("section");
+    style.color = actor_.skin().style("frame.text");
+    style.align = Qt::AlignHCenter;
+    drawText(painter, rect(), spokenName(), style);
+}
+
+void FrameView::putAt(QPoint corner) {
+    setGeometry(QRect(corner, place.box.size()).adjusted(0, -kHeadingRise, 0, 0));
+}
+
+QRect FrameView::frame() const {
+    return {QPoint(0, kHeadingRise), place.box.size()};
+}
+
+QString FrameView::spokenName() const {
+    return toQt(static_cast<const Frame&>(*control).text).trimmed();
+}
+
+void FrameView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    const Skin& skin = actor_.skin();
+    TextStyle style = skin.text(place.font);
+    style.color = place.color;
+    const QString text = toQt(static_cast<const Frame&>(*control).text);
+    const double width = advance(text, style);
+    drawFrame(painter, frame(), width, skin.style("frame.border"));
+    drawText(painter, QRectF(13, 0, width + 2, 2 * kHeadingRise), text, style);
+}
+
+ShapeView::ShapeView(Actor& actor, const ControlLayout& place, QWidget* parent)
+    : PaintedView(actor, nullptr, place, parent) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void ShapeView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    drawBox(painter, rect(), place.back, place.border, 5);
+}
+
+} // namespace gatewise::window

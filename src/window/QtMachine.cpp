@@ -1,0 +1,120 @@
+#include "window/QtMachine.h"
+
+#include "platform/Files.h"
+#include "platform/Text.h"
+#include "screens/UserEvents.h"
+#include "window/Desk.h"
+#include "window/QtText.h"
+
+#include <QApplication>
+#include <QDeadlineTimer>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QUrl>
+
+namespace gatewise::window {
+
+namespace {
+
+constexpr const char* kFirstPage = "gt_gt.htm";
+
+/// "file::/topic" names a page of the help folder.
+std::string topicOf(const std::string& page) {
+    const auto colons = page.rfind("::");
+    std::string topic = colons == std::string::npos ? std::string() : page.substr(colons + 2);
+    topic.erase(0, topic.find_last_of("/\\") + 1);
+    return topic;
+}
+
+} // namespace
+
+void QtDesktop::setPointer(bool busy) {
+    if (busy == busy_) return;
+    busy_ = busy;
+    if (busy)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+std::optional<std::string> QtDesktop::askSavePath(const std::string& title, const std::string& proposal) {
+    const QString name = QFileDialog::getSaveFileName(QApplication::activeWindow(), toQt(title),
+                                                      toQt(files::resolve(proposal).string()));
+    return name.isEmpty() ? std::nullopt : std::optional(files::textOf(name.toStdString()));
+}
+
+void QtDesktop::paint() {
+    if (desk_ != nullptr) desk_->paint();
+}
+
+void QtDesktop::minimise() {
+    if (desk_ != nullptr) desk_->mainWindow().showMinimized();
+}
+
+void QtDesktop::showHelp(const std::string& page) {
+    std::string file = folder_ + "\\help\\" + topicOf(page);
+    if (topicOf(page).empty() || !files::fileExists(file)) file = folder_ + "\\help\\" + kFirstPage;
+    const QString native = nativePath(file);
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(native))) {
+        notify("The help could not be opened. It lies at " + fromQt(native));
+    }
+}
+
+void QtDesktop::notify(const std::string& text) {
+    if (desk_ != nullptr) desk_->showNote(toQt(text));
+}
+
+void QtLoop::runModal(std::string_view, const std::function<bool()>& done) {
+    if (desk_ == nullptr) return;
+    desk_->sync();
+    // The program may be busy behind the screen, but the screen waits for the pilot.
+    const bool busy = QApplication::overrideCursor() != nullptr;
+    if (busy) QApplication::changeOverrideCursor(Qt::ArrowCursor);
+    while (!done()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    if (busy && QApplication::overrideCursor() != nullptr) QApplication::changeOverrideCursor(Qt::WaitCursor);
+    desk_->sync();
+}
+
+void QtLoop::wait(std::int64_t milliseconds) {
+    if (desk_ != nullptr) desk_->sync();
+    const QDeadlineTimer end(milliseconds);
+    QTimer wake;
+    wake.setSingleShot(true);
+    wake.setTimerType(Qt::PreciseTimer);
+    wake.start(static_cast<int>(milliseconds));
+    while (!end.hasExpired()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+}
+
+void QtTimers::arm(Timer& timer) {
+    QTimer*& clock = running_[&timer];
+    if (clock == nullptr) {
+        clock = new QTimer(this);
+        clock->setTimerType(Qt::PreciseTimer);
+        connect(clock, &QTimer::timeout, this, [this, &timer] { due(timer); });
+    }
+    if (timer.interval() > 0)
+        clock->start(timer.interval());
+    else
+        clock->stop();
+}
+
+void QtTimers::disarm(Timer& timer) {
+    late_.erase(&timer);
+    const auto at = running_.find(&timer);
+    if (at != running_.end()) at->second->stop();
+}
+
+void QtTimers::due(Timer& timer) {
+    if (desk_ == nullptr) return;
+    if (!desk_->painting()) {
+        desk_->act([&] { user::tick(timer); });
+        return;
+    }
+    // A paint in the middle of work must not run other work: the tick comes right after.
+    if (!late_.insert(&timer).second) return;
+    QTimer::singleShot(1, this, [this, &timer] {
+        if (late_.erase(&timer) > 0 && timer.enabled) due(timer);
+    });
+}
+
+} // namespace gatewise::window

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "forms/Control.h"
+#include "platform/Machine.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <map>
+#include <set>
+#include <string>
+
+namespace gatewise::window {
+
+class Desk;
+
+/// The toolkit's part of the machine. Each is made before the desk, which needs the program, which needs the
+/// machine; `attach` closes the ring. Without a desk they do nothing.
+
+class QtDesktop : public Desktop {
+public:
+    /// `programFolder` holds the help pages.
+    explicit QtDesktop(std::string programFolder) : folder_(std::move(programFolder)) {}
+    void attach(Desk* desk) { desk_ = desk; }
+
+    /// Screens are laid out in pixels of 96 to the inch; the toolkit scales them to the real ones.
+    [[nodiscard]] int dpi() const override { return 96; }
+    void setPointer(bool busy) override;
+    void paint() override;
+    void minimise() override;
+    void showHelp(const std::string& page) override;
+    std::optional<std::string> askSavePath(const std::string& title, const std::string& proposal) override;
+    void notify(const std::string& text) override;
+
+private:
+    std::string folder_;
+    Desk* desk_ = nullptr;
+    bool busy_ = false;
+};
+
+class QtLoop : public EventLoop {
+public:
+    void attach(Desk* desk) { desk_ = desk; }
+    void runModal(std::string_view screen, const std::function<bool()>& done) override;
+    void wait(std::int64_t milliseconds) override;
+
+private:
+    Desk* desk_ = nullptr;
+};
+
+/// Runs the timers of the forms between events.
+class QtTimers : public QObject, public TimerHost {
+    Q_OBJECT
+public:
+    void attach(Desk* desk) { desk_ = desk; }
+    void arm(Timer& timer) override;
+    void disarm(Timer& timer) override;
+
+private:
+    void due(Timer& timer);
+    std::map<Timer*, QTimer*> running_;
+    std::set<Timer*> late_; // fell due during a paint
+    Desk* desk_ = nullptr;
+};
+
+/// Prints on the default printer. Where there is none, the pages go into the folder "Printouts" below the
+/// program's data, as PDF and as text, and the pilot is told.
+class QtPrinter : public Printer {
+public:
+    QtPrinter(std::string folder, Desktop& desktop) : folder_(std::move(folder)), desktop_(desktop) {}
+    std::error_code print(const std::string& font, int size, const std::string& text,
+                          const std::vector<Drawing>& drawings) override;
+
+private:
+    std::string folder_;
+    Desktop& desktop_;
+};
+
+} // namespace gatewise::window

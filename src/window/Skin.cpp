@@ -1,0 +1,137 @@
+#include "window/Skin.h"
+
+#include "platform/Files.h"
+#include "platform/Text.h"
+#include "window/QtText.h"
+
+#include <QFile>
+#include <QFontDatabase>
+
+#include <cmath>
+
+// A static library must name its resources once, outside of any namespace.
+static void takeResources() {
+    Q_INIT_RESOURCE(looks);
+}
+
+namespace gatewise::window {
+
+namespace {
+
+QByteArray resource(const char* name) {
+    takeResources();
+    QFile file(QString(":/gatewise/") + name);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QPixmap load(const std::string& path) {
+    QPixmap picture;
+    picture.load(nativePath(path));
+    return picture;
+}
+
+QString captionKey(const std::string& tail) {
+    QString key = toQt(tail).toLower();
+    const auto dot = key.lastIndexOf('.');
+    return dot > key.lastIndexOf('\\') ? key.left(dot) : key;
+}
+
+} // namespace
+
+Skin::Skin(std::string programFolder)
+    : folder_(std::move(programFolder)), layout_(Layout::fromJson(resource("layout.json"))) {
+    loadFonts();
+    loadCaptions();
+}
+
+void Skin::loadFonts() {
+    for (const auto& entry : files::list(folder_ + "\\Fonts")) {
+        const std::string name = lowerCase(entry.name);
+        if (name.ends_with(".ttf") || name.ends_with(".otf")) {
+            typefaces_.push_back(nativePath(folder_ + "\\Fonts\\" + entry.name));
+            QFontDatabase::addApplicationFont(typefaces_.back());
+        }
+    }
+}
+
+void Skin::loadCaptions() {
+    const QStringList lines = QString::fromUtf8(resource("buttons.csv")).split('\n', Qt::SkipEmptyParts);
+    if (lines.isEmpty()) return;
+    const auto caption = lines[0].trimmed().split(',').indexOf("caption");
+    for (const QString& line : lines) {
+        const QStringList cells = line.trimmed().split(',');
+        if (caption > 1 && cells.size() > caption) {
+            captions_.insert((cells[0] + cells[1]).toLower(), cells[caption]);
+        }
+    }
+}
+
+QFont Skin::font(const std::string& name) const {
+    const FontRole& role = layout_.role(name);
+    QFont font(role.family);
+    font.setStyleHint(role.family.startsWith("OCR") ? QFont::Monospace : QFont::SansSerif);
+    font.setPixelSize(qRound(role.size));
+    font.setWeight(static_cast<QFont::Weight>(role.weight));
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(
+        static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
+    return font;
+}
+
+/// The face of a role from the program folder, invalid when it is not there.
+QRawFont Skin::shipped(const FontRole& role) const {
+    for (const QString& file : typefaces_) {
+        QRawFont face(file, role.size, QFont::PreferNoHinting);
+        if (face.isValid() && face.familyName() == role.family && face.weight() == role.weight) return face;
+    }
+    return {};
+}
+
+TextStyle Skin::text(const std::string& name) const {
+    const auto known = styles_.find(name);
+    if (known != styles_.end()) return known->second;
+    TextStyle style;
+    style.role = layout_.role(name);
+    style.font = font(name);
+    // Other faces of the same family name on the computer can hide the program's own; their widths tell.
+    TextStyle own = style;
+    own.face = shipped(style.role);
+    constexpr double kNear = 0.02;
+    const QString sample = "iiiiMMMM";
+    const double width = advance(sample, style);
+    if (own.face.isValid() && std::abs(advance(sample, own) - width) > kNear * width) style = own;
+    styles_[name] = style;
+    return style;
+}
+
+QIcon Skin::icon() const {
+    QIcon icon;
+    for (const char* size : {"16", "32", "48", "64", "128", "256"}) {
+        const QPixmap picture = load(folder_ + "\\Images\\icon_" + size + ".png");
+        if (!picture.isNull()) icon.addPixmap(picture);
+    }
+    return icon;
+}
+
+QPixmap Skin::picture(const std::string& tail, double ratio) const {
+    if (tail.empty()) return {};
+    const bool fine = ratio > 1.25;
+    const QString key = toQt(tail) + (fine ? "@2" : "@1");
+    const auto known = pictures_.constFind(key);
+    if (known != pictures_.constEnd()) return *known;
+    QPixmap picture;
+    const auto dot = tail.rfind('.');
+    if (fine && dot != std::string::npos) {
+        picture = load(folder_ + tail.substr(0, dot) + "@2x" + tail.substr(dot));
+        picture.setDevicePixelRatio(2);
+    }
+    if (picture.isNull()) picture = load(folder_ + tail);
+    pictures_.insert(key, picture);
+    return picture;
+}
+
+QString Skin::caption(const std::string& tail) const {
+    return captions_.value(captionKey(tail));
+}
+
+} // namespace gatewise::window

@@ -1,0 +1,102 @@
+#include "window/View.h"
+
+#include "screens/UserEvents.h"
+#include "window/QtText.h"
+
+#include <QMouseEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace gatewise::window {
+
+QString View::spokenName() const {
+    if (!place.says.isEmpty()) return place.says;
+    if (!captionNearby.isEmpty()) return captionNearby;
+    if (control != nullptr && !control->toolTip.empty()) return toQt(control->toolTip);
+    return control != nullptr ? toQt(control->screen->caption) : QString();
+}
+
+bool View::usable() const {
+    return control != nullptr && control->enabled && control->visible;
+}
+
+void View::syncCommon() {
+    if (control == nullptr) return;
+    if (control->visible == widget()->isHidden()) widget()->setVisible(control->visible);
+    if (shownTip_ != control->toolTip) {
+        shownTip_ = control->toolTip;
+        widget()->setToolTip(toQt(shownTip_));
+        widget()->setAccessibleDescription(toQt(shownTip_));
+    }
+}
+
+PaintedView::PaintedView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent)
+    : QWidget(parent), View(actor, control, place) {
+    setMouseTracking(true);
+}
+
+bool PaintedView::handlesAny(std::initializer_list<Event> events) const {
+    return control != nullptr && control->enabled &&
+           std::any_of(events.begin(), events.end(), [&](Event e) { return control->handles(e); });
+}
+
+QPoint groundPosition(const Screen& screen, const QMouseEvent& event) {
+    const QPointF at = event.globalPosition();
+    return {static_cast<int>(std::lround(at.x() - screen.left)),
+            static_cast<int>(std::lround(at.y() - screen.top))};
+}
+
+void PaintedView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton &&
+        handlesAny({Event::Press, Event::Release, Event::Click, Event::DoubleClick})) {
+        const QPoint at = groundPosition(*control->screen, *event);
+        held_ = true;
+        actor_.act([&] { user::press(*control, at.x(), at.y()); });
+    } else if (event->button() == Qt::RightButton && handlesAny({Event::RightPress})) {
+        actor_.act([&] { user::rightPress(*control); });
+    } else {
+        event->ignore();
+    }
+}
+
+void PaintedView::mouseReleaseEvent(QMouseEvent* event) {
+    if (!held_ || event->button() != Qt::LeftButton) {
+        event->ignore();
+        return;
+    }
+    held_ = false;
+    const QPoint at = groundPosition(*control->screen, *event);
+    const bool inside = rect().contains(event->position().toPoint());
+    actor_.act([&] {
+        user::release(*control, at.x(), at.y());
+        if (inside && control->enabled) user::clicked(*control);
+    });
+}
+
+void PaintedView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && handlesAny({Event::DoubleClick})) {
+        actor_.act([&] { user::doubleClick(*control); });
+        return;
+    }
+    mousePressEvent(event); // a quick second click
+}
+
+void PaintedView::mouseMoveEvent(QMouseEvent* event) {
+    if (!handlesAny({Event::Move})) {
+        event->ignore();
+        return;
+    }
+    const QPoint at = groundPosition(*control->screen, *event);
+    const bool left = event->buttons().testFlag(Qt::LeftButton);
+    actor_.act([&] { user::move(*control, at.x(), at.y(), left); });
+}
+
+View* viewOf(QObject* object) {
+    for (; object != nullptr; object = object->parent()) {
+        if (auto* view = dynamic_cast<View*>(object)) return view;
+    }
+    return nullptr;
+}
+
+} // namespace gatewise::window

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "forms/Control.h"
+#include "window/Layout.h"
+
+#include <QAccessible>
+#include <QWidget>
+
+#include <functional>
+
+namespace gatewise::window {
+
+class Skin;
+
+/// Runs what an event does and brings the forms onto the screen afterwards.
+class Actor {
+public:
+    virtual ~Actor() = default;
+    virtual void act(const std::function<void()>& what) = 0;
+    [[nodiscard]] virtual const Skin& skin() const = 0;
+};
+
+/// Shows one control of a form and turns what a person does there into the calls of screens/UserEvents.h.
+/// There is one class for each kind of control and none for a single control.
+class View {
+public:
+    View(Actor& actor, Control* control, const ControlLayout& place)
+        : control(control), place(place), actor_(actor) {}
+    virtual ~View() = default;
+    View(const View&) = delete;
+    View& operator=(const View&) = delete;
+
+    virtual QWidget* widget() = 0;
+    /// Compares what it shows with the form and repaints what differs.
+    virtual void sync() = 0;
+
+    /// What a screen reader says: name, kind, value.
+    [[nodiscard]] virtual QString spokenName() const;
+    [[nodiscard]] virtual QAccessible::Role role() const { return QAccessible::StaticText; }
+    /// Whether it can be used now.
+    [[nodiscard]] virtual bool usable() const;
+    /// Whether the Tab key stops here.
+    [[nodiscard]] virtual bool takesFocus() const { return false; }
+    /// What Enter or a screen reader's press does.
+    virtual void activate() {}
+    /// Puts the box of the layout onto the screen; some kinds draw beyond it.
+    virtual void putAt(QPoint corner) { widget()->setGeometry(QRect(corner, place.box.size())); }
+    /// The box of the layout inside the widget; what is inside of it starts from there.
+    [[nodiscard]] virtual QRect frame() const { return {QPoint(0, 0), place.box.size()}; }
+
+    Control* const control; // null for decoration that no form knows
+    const ControlLayout& place;
+    QString captionNearby;               // words that stand beside or above a field
+    std::function<QString()> wordsOfRow; // of the line of a table that this view stands for, else empty
+
+protected:
+    /// Visible, tool tip: the same for all.
+    void syncCommon();
+
+    Actor& actor_;
+
+private:
+    std::string shownTip_;
+};
+
+/// A view that paints itself and hands the mouse to its control. What its control does not care about goes on
+/// to the ground below.
+class PaintedView : public QWidget, public View {
+    Q_OBJECT
+public:
+    PaintedView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
+    QWidget* widget() override { return this; }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+
+private:
+    [[nodiscard]] bool handlesAny(std::initializer_list<Event> events) const;
+    bool held_ = false;
+};
+
+/// Mouse position in pixels of a screen's ground.
+QPoint groundPosition(const Screen& screen, const QMouseEvent& event);
+
+/// The view of a widget or of the nearest widget around it, null when there is none.
+View* viewOf(QObject* object);
+
+} // namespace gatewise::window

@@ -1,0 +1,59 @@
+#include "window/WindowProgram.h"
+
+#include "app/StartUp.h"
+#include "screens/Screens.h"
+
+#include <QApplication>
+#include <QStyleFactory>
+#include <QToolTip>
+
+namespace gatewise::window {
+
+void dressApplication(const Skin& skin) {
+    QApplication::setApplicationName("Gatewise Terminal");
+    QApplication::setQuitOnLastWindowClosed(false);
+    // One style everywhere: what the skin does not draw itself looks alike on every desktop.
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setWindowIcon(skin.icon());
+    QPalette tips = QToolTip::palette();
+    for (const auto role : {QPalette::ToolTipBase, QPalette::Window})
+        tips.setColor(role, skin.style("tooltip.back"));
+    for (const auto role : {QPalette::ToolTipText, QPalette::WindowText}) {
+        tips.setColor(role, skin.style("tooltip.text"));
+    }
+    QToolTip::setPalette(tips);
+    QToolTip::setFont(skin.font("body"));
+}
+
+WindowProgram::WindowProgram(const Services& s, const std::string& appDir)
+    : desktop(appDir), ownPrinter_(appDir, desktop), loop_(s.loop != nullptr ? *s.loop : ownLoop_),
+      machine_{
+          s.clock,    s.locale,    desktop,
+          s.registry, s.processes, s.printer != nullptr ? *s.printer : static_cast<Printer&>(ownPrinter_),
+          s.random,   loop_,       s.sound},
+      program(machine_, appDir), skin(appDir), desk(program.forms, skin) {
+    dressApplication(skin);
+    desktop.attach(&desk);
+    loop_.attach(&desk);
+    ownTimers_.attach(&desk);
+    bindScreens(program);
+    program.forms.attachTimers(s.timers != nullptr ? s.timers : &ownTimers_);
+}
+
+WindowProgram::~WindowProgram() {
+    program.forms.attachTimers(nullptr);
+    desktop.attach(nullptr);
+    loop_.attach(nullptr);
+    ownTimers_.attach(nullptr);
+}
+
+void WindowProgram::run() {
+    startUp(program);
+    desk.sync();
+    while (!program.ending && !program.ended) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    desk.sync();
+}
+
+} // namespace gatewise::window

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "state/Program.h"
+#include "window/Desk.h"
+#include "window/QtMachine.h"
+#include "window/Skin.h"
+
+namespace gatewise::window {
+
+/// The application object with what the whole program shares: style, tool tips, icon.
+void dressApplication(const Skin& skin);
+
+/// The program with its windows over services of a machine. One instance in a process that has a
+/// QApplication.
+class WindowProgram {
+public:
+    /// What the toolkit does not bring itself.
+    struct Services {
+        Clock& clock;
+        Locale& locale;
+        Registry& registry;
+        Processes& processes;
+        Random& random;
+        SoundDevice& sound;
+        Printer* printer = nullptr;  // null: the computer's own
+        TimerHost* timers = nullptr; // null: the toolkit's
+        QtLoop* loop = nullptr;      // null: the plain one
+    };
+
+    /// `appDir` is a text of the program.
+    WindowProgram(const Services& services, const std::string& appDir);
+    ~WindowProgram();
+
+    /// Start-up, then events until the program has ended.
+    void run();
+
+    QtDesktop desktop;
+
+private:
+    QtLoop ownLoop_;
+    QtTimers ownTimers_;
+    QtPrinter ownPrinter_;
+    QtLoop& loop_;
+    Machine machine_;
+
+public:
+    Program program;
+    Skin skin;
+    Desk desk;
+};
+
+} // namespace gatewise::window

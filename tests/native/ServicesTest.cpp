@@ -1,0 +1,198 @@
+#include "platform/AppFolder.h"
+#include "platform/Files.h"
+#include "platform/Native.h"
+#include "platform/simulated/SimulatedClock.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <thread>
+#include <unistd.h>
+
+namespace gatewise::native {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct Services : ::testing::Test {
+    Services() { fs::create_directories(folder); }
+    ~Services() override { fs::remove_all(folder); }
+
+    static void write(const fs::path& file, const std::string& text) {
+        fs::create_directories(file.parent_path());
+        std::ofstream(file, std::ios::binary) << text;
+    }
+    static std::string read(const fs::path& file) {
+        std::ostringstream out;
+        out << std::ifstream(file, std::ios::binary).rdbuf();
+        return out.str();
+    }
+    /// Waits for what another process does.
+    static bool soon(const std::function<bool()>& done) {
+        for (int i = 0; i < 200; ++i) {
+            if (done()) return true;
+            std::this_thread::sleep_for(std::chrono::milliseconds(25));
+        }
+        return false;
+    }
+
+    fs::path folder =
+        fs::temp_directory_path() / ("gatewise-native-" + std::to_string(getpid()) + "-" +
+                                     ::testing::UnitTest::GetInstance()->current_test_info()->name());
+};
+
+} // namespace
+
+TEST(PosixClock, BiasIsThatOfStandardTime) {
+    setenv("TZ", "EST5EDT,M3.2.0,M11.1.0", 1);
+    EXPECT_EQ(systemClock()->bias(), 300);
+    setenv("TZ", "IST-5:30", 1);
+    EXPECT_EQ(systemClock()->bias(), -330);
+    setenv("TZ", "UTC0", 1);
+    EXPECT_EQ(systemClock()->bias(), 0);
+    const DateTime now = systemClock()->now();
+    EXPECT_GE(now.year, 2024);
+    EXPECT_LE(now.second, 59);
+}
+
+TEST(PosixLocale, TheNeutralLocaleHasAPointAndNoMonetarySign) {
+    setenv("LC_ALL", "C", 1);
+    const auto locale = userLocale();
+    EXPECT_EQ(locale->text(LocaleKey::MoneyDecimal), "");
+    EXPECT_EQ(locale->text(LocaleKey::Decimal), ".");
+    EXPECT_EQ(locale->text(LocaleKey::Time), ":");
+    EXPECT_EQ(locale->text(LocaleKey::List), ",");
+    EXPECT_EQ(locale->longDate({2002, 6, 15}), "Saturday, June 15, 2002");
+}
+
+TEST(SystemRandom, DrawsLieInTheUnitInterval) {
+    const auto random = systemRandom();
+    bool differs = false;
+    const double first = random->draw();
+    for (int i = 0; i < 1000; ++i) {
+        const double draw = random->draw();
+        ASSERT_GE(draw, 0);
+        ASSERT_LT(draw, 1);
+        differs = differs || draw != first;
+    }
+    EXPECT_TRUE(differs);
+}
+
+TEST_F(Services, PrintsIntoFilesThatNeverReplaceEachOther) {
+    const simulated::SimulatedClock clock;
+    std::vector<std::string> told;
+    const auto printer = filePrinter((folder / "Printouts").string(), clock,
+                                     [&](const std::string& text) { told.push_back(text); });
+    EXPECT_FALSE(printer->print("Courier New", 10, "one", {}));
+    EXPECT_FALSE(printer->print("Courier New", 10, "two", {}));
+    EXPECT_EQ(read(folder / "Printouts" / "Printout 2002-06-15 083000.txt"), "one");
+    EXPECT_EQ(read(folder / "Printouts" / "Printout 2002-06-15 083000 2.txt"), "two");
+    ASSERT_EQ(told.size(), 2U);
+    EXPECT_NE(told[1].find("Printout 2002-06-15 083000 2.txt"), std::string::npos);
+}
+
+TEST_F(Services, AProgramStartsInItsFolderWithItsArguments) {
+    write(folder / "Helper", "#!/bin/sh\npwd > where.tmp\necho \"$1 $2\" >> where.tmp\nmv where.tmp where\n");
+    fs::permissions(folder / "Helper", fs::perms::owner_all);
+    fs::create_directories(folder / "work");
+    const auto processes = systemProcesses({});
+    const int process = processes->start((folder / "helper").string(), "/gt now", (folder / "work").string());
+    ASSERT_GT(process, 0);
+    EXPECT_TRUE(soon([&] { return processes->ended(process); }));
+    EXPECT_EQ(read(folder / "work" / "where"), (folder / "work").string() + "\n/gt now\n");
+}
+
+TEST_F(Services, WithoutWineThePilotHearsWhatIsMissing) {
+    write(folder / "FS2002.EXE", "MZ");
+    fs::create_directories(folder / "wine"); // a folder of that name is no program
+    const std::string path = getenv("PATH");
+    setenv("PATH", folder.c_str(), 1);
+    std::vector<std::string> told;
+    const auto processes = systemProcesses([&](const std::string& text) { told.push_back(text); });
+    EXPECT_LT(processes->start("fs2002.exe", "", folder.string()), 0);
+    ASSERT_EQ(told.size(), 1U);
+    EXPECT_NE(told[0].find("Wine"), std::string::npos);
+    EXPECT_LT(processes->start("missing.exe", "", folder.string()), 0);
+    setenv("PATH", path.c_str(), 1);
+}
+
+TEST_F(Services, WineGetsTheProgramAndThePrefixThatHoldsIt) {
+    const fs::path game = folder / "prefix/drive_c/FS2002";
+    write(game / "fs2002.exe", "MZ");
+    write(folder / "bin/wine",
+          "#!/bin/sh\necho \"$WINEPREFIX\" > said.tmp\necho \"$1\" >> said.tmp\n/bin/mv said.tmp said\n");
+    fs::permissions(folder / "bin/wine", fs::perms::owner_all);
+    const std::string path = getenv("PATH");
+    setenv("PATH", (folder / "bin").c_str(), 1);
+    const auto processes = systemProcesses({});
+    const int process = processes->start("FS2002.exe", "", game.string());
+    setenv("PATH", path.c_str(), 1);
+    ASSERT_GT(process, 0);
+    EXPECT_TRUE(soon([&] { return processes->ended(process); }));
+    EXPECT_EQ(read(game / "said"),
+              (folder / "prefix").string() + "\n" + (game / "fs2002.exe").string() + "\n");
+}
+
+TEST_F(Services, ARunningSimulatorIsFoundByItsProcess) {
+    write(folder / "fs2002.exe", "#!/bin/sh\nread line\n");
+    const auto processes = systemProcesses({});
+    EXPECT_FALSE(processes->simulatorRunning());
+    fs::permissions(folder / "fs2002.exe", fs::perms::owner_all);
+    FILE* pipe = popen(("'" + (folder / "fs2002.exe").string() + "'").c_str(), "w");
+    ASSERT_NE(pipe, nullptr);
+    EXPECT_TRUE(soon([&] { return processes->simulatorRunning(); }));
+    std::fputs("\n", pipe);
+    pclose(pipe);
+    EXPECT_TRUE(soon([&] { return !processes->simulatorRunning(); }));
+}
+
+TEST_F(Services, AWritableProgramFolderIsTheOneThatIsUsed) {
+    std::error_code error;
+    EXPECT_EQ(chooseAppDir(folder, folder / "user", error), folder.string());
+    EXPECT_FALSE(error);
+    EXPECT_FALSE(fs::exists(folder / "user"));
+    EXPECT_TRUE(fs::is_empty(folder));
+}
+
+TEST_F(Services, AnInstalledProgramWorksOnACopyOfItsOwnData) {
+    // A folder that is none cannot be written, not even by an administrator.
+    const fs::path program = folder / "program";
+    const fs::path own = folder / "user" / "Gatewise Terminal";
+    write(own / "GT.cfg", "mine");
+    std::error_code error;
+    EXPECT_EQ(chooseAppDir(program, folder / "user", error), own.string());
+    EXPECT_FALSE(error);
+    EXPECT_EQ(read(own / "GT.cfg"), "mine");
+
+    fs::remove_all(own);
+    EXPECT_EQ(chooseAppDir(program, folder / "user", error), program.string());
+    EXPECT_TRUE(error);
+    EXPECT_FALSE(fs::exists(own));
+}
+
+TEST_F(Services, TheFirstStartFillsTheUsersFolder) {
+    // An administrator can write everywhere, so somebody else does it.
+    const uid_t before = geteuid();
+    fs::permissions(folder, fs::perms::all);
+    if (before == 0) {
+        ASSERT_EQ(seteuid(65534), 0);
+    }
+    const fs::path program = folder / "program";
+    write(program / "Data" / "index.gt1", "bytes");
+    fs::permissions(program / "Data" / "index.gt1", fs::perms::owner_read);
+    fs::permissions(program, fs::perms::owner_read | fs::perms::owner_exec);
+    std::error_code error;
+    const std::string dir = chooseAppDir(program, folder / "user", error);
+    fs::permissions(program, fs::perms::owner_all);
+    EXPECT_EQ(dir, (folder / "user" / "Gatewise Terminal").string());
+    EXPECT_EQ(read(fs::path(dir) / "Data" / "index.gt1"), "bytes");
+    write(fs::path(dir) / "Data" / "index.gt1", "changed");
+    EXPECT_EQ(read(fs::path(dir) / "Data" / "index.gt1"), "changed");
+    EXPECT_EQ(seteuid(before), 0);
+}
+
+} // namespace gatewise::native

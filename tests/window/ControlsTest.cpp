@@ -1,0 +1,242 @@
+#include "window/StageTest.h"
+
+#include "screens/Screens.h"
+#include "screens/UserEvents.h"
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QApplication>
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QScreen>
+#include <QTest>
+#include <QTreeView>
+
+// What a person does at single controls, and what is seen of it.
+
+namespace gatewise::test {
+
+namespace {
+
+class Controls : public StageTest {
+protected:
+    void SetUp() override {
+        if (!dataIsThere()) GTEST_SKIP() << "built without data sets";
+        StageTest::SetUp();
+    }
+    forms::MainForm& main() { return forms().MainForm; }
+    void open(Screen& screen) {
+        stage().desk().act([&] { showScreen(stage().window.program, screen); });
+    }
+};
+
+} // namespace
+
+TEST_F(Controls, HoverLightsOneButtonAtATime) {
+    then([&] {
+        stage().hover(main().switchButton(0));
+        EXPECT_EQ(main().switchButton(0).picture, "airline_mouse");
+        stage().hover(main().switchButton(2));
+        EXPECT_EQ(main().switchButton(0).picture, "airline_regular");
+        EXPECT_EQ(main().switchButton(2).picture, "options_mouse");
+        QEvent leave(QEvent::Leave);
+        QApplication::sendEvent(&stage().desk().mainWindow(), &leave);
+        EXPECT_EQ(main().switchButton(2).picture, "options_regular");
+    });
+    play();
+}
+
+TEST_F(Controls, AHeldButtonRepeats) {
+    then([&] {
+        const int before = stage().window.program.g.HourOffset;
+        const QPoint at =
+            stage().widget(main().gt_hrupButton).mapTo(&stage().desk().mainWindow(), QPoint(8, 8));
+        QWindow* window = stage().desk().mainWindow().windowHandle();
+        QTest::mousePress(window, Qt::LeftButton, {}, at);
+        EXPECT_EQ(main().gt_hrupButton.picture, "plus_down");
+        stage().advance(650); // every 200 ms
+        QTest::mouseRelease(window, Qt::LeftButton, {}, at);
+        EXPECT_EQ(stage().window.program.g.HourOffset, before + 4);
+        stage().advance(1000);
+        EXPECT_EQ(stage().window.program.g.HourOffset, before + 4);
+    });
+    play();
+}
+
+TEST_F(Controls, TheGroundDragsTheWindow) {
+    then([&] {
+        auto& window = stage().desk().mainWindow();
+        const QPoint from = window.pos();
+        const QPoint grip(400, 16);
+        QTest::mousePress(window.windowHandle(), Qt::LeftButton, {}, grip);
+        QTest::mouseMove(window.windowHandle(), grip + QPoint(30, 20));
+        EXPECT_EQ(window.pos(), from + QPoint(30, 20));
+        QTest::mouseRelease(window.windowHandle(), Qt::LeftButton, {}, grip);
+        EXPECT_EQ(main().left, from.x() + 30);
+    });
+    play();
+}
+
+TEST_F(Controls, AModalScreenHoldsTheKeyboard) {
+    then([&] { stage().rightClick(main().city_LABEL(0)); });
+    then([&] {
+        ASSERT_TRUE(forms().InfoForm.visible);
+        EXPECT_EQ(QApplication::activeModalWidget(), &stage().desk().window(forms().InfoForm));
+        for (int i = 0; i < 5; ++i) {
+            stage().key(Qt::Key_Tab);
+            ASSERT_NE(stage().focused(), nullptr);
+            EXPECT_EQ(stage().focused()->screen, &forms().InfoForm);
+        }
+        stage().key(Qt::Key_Escape);
+    });
+    then([&] { EXPECT_FALSE(forms().InfoForm.visible); });
+    play();
+}
+
+TEST_F(Controls, EscapeLeavesTheMainScreenAlone) {
+    then([&] { stage().key(Qt::Key_Escape); });
+    then([&] {
+        EXPECT_FALSE(stage().window.program.ending);
+        EXPECT_TRUE(stage().desk().mainWindow().isVisible());
+    });
+    play();
+}
+
+TEST_F(Controls, TextBoxesKeepToThePage) {
+    then([&] {
+        stage().click(main().main_LABEL);
+        stage().click(main().arrSearch);
+        auto& line = dynamic_cast<QLineEdit&>(stage().widget(main().arrSearch));
+        line.insert(QString::fromUtf8("Z\u00fcrich \u4e2d"));
+        EXPECT_EQ(main().arrSearch.text, "Z\xfcrich ?");
+        EXPECT_EQ(line.text(), QString::fromUtf8("Z\u00fcrich ?"));
+    });
+    play();
+}
+
+TEST_F(Controls, ChecksAndOptionsFollowTheForm) {
+    then([&] { open(forms().OptionsForm); });
+    then([&] {
+        auto& f = forms().OptionsForm;
+        const int before = f.d2_CHECK.value;
+        stage().click(f.d2_CHECK);
+        EXPECT_EQ(f.d2_CHECK.value, before == 0 ? 1 : 0);
+        EXPECT_EQ(dynamic_cast<QCheckBox&>(stage().widget(f.d2_CHECK)).isChecked(), f.d2_CHECK.value == 1);
+        stage().click(f.cityOption);
+        EXPECT_TRUE(f.cityOption.value);
+        EXPECT_FALSE(f.timeOption.value);
+        ASSERT_TRUE(stage().tabTo(f.cityOption));
+        stage().key(Qt::Key_Up);
+        EXPECT_TRUE(f.timeOption.value);
+        EXPECT_FALSE(f.cityOption.value);
+        stage().key(Qt::Key_Escape);
+    });
+    play();
+}
+
+TEST_F(Controls, ADisabledButtonIsNoTabStopAndSaysSo) {
+    then([&] { stage().click(main().main_LABEL); });
+    then([&] {
+        ASSERT_EQ(main().viewButton.State, 0);
+        QAccessibleInterface* access =
+            QAccessible::queryAccessibleInterface(&stage().widget(main().viewButton));
+        EXPECT_EQ(access->text(QAccessible::Name), "View Flight Plan");
+        EXPECT_TRUE(access->state().disabled);
+        EXPECT_FALSE(stage().tabTo(main().viewButton));
+    });
+    play();
+}
+
+TEST_F(Controls, ARowSpeaksAsASentence) {
+    then([&] {
+        QAccessibleInterface* access =
+            QAccessible::queryAccessibleInterface(&stage().widget(main().fltnum_LABEL(0)));
+        const QString words = access->text(QAccessible::Name);
+        EXPECT_EQ(words.count(", "), 3) << words.toStdString();
+        EXPECT_EQ(access->role(), QAccessible::ListItem);
+        EXPECT_TRUE(access->state().focusable);
+    });
+    play();
+}
+
+TEST_F(Controls, AScreenReaderCanPressAButton) {
+    then([&] {
+        QAccessibleInterface* access =
+            QAccessible::queryAccessibleInterface(&stage().widget(main().switchButton(2)));
+        access->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    });
+    then([&] {
+        EXPECT_TRUE(forms().OptionsForm.visible);
+        stage().key(Qt::Key_Escape);
+    });
+    play();
+}
+
+TEST_F(Controls, ListsShowTheFormsRowsAndPick) {
+    then([&] { stage().click(main().switchButton(0)); });
+    then([&] {
+        auto& list = forms().SelectForm.List1;
+        auto* table = stage().widget(list).findChild<QAbstractItemView*>();
+        ASSERT_NE(table, nullptr);
+        EXPECT_EQ(table->model()->rowCount(), list.count());
+        ASSERT_GT(list.count(), 2);
+        const QRect row = table->visualRect(table->model()->index(1, 0));
+        QTest::mouseClick(table->viewport(), Qt::LeftButton, {}, row.center());
+        EXPECT_EQ(list.picked, 1);
+        stage().key(Qt::Key_Down);
+        EXPECT_EQ(list.picked, 2);
+        stage().key(Qt::Key_Escape);
+    });
+    then([&] { EXPECT_FALSE(forms().SelectForm.visible); });
+    play();
+}
+
+TEST_F(Controls, ANoteWaitsForNobodyAndGoesByAClick) {
+    then([&] {
+        stage().window.desktop.notify("There is no printer.");
+        EXPECT_EQ(stage().desk().note(), "There is no printer.");
+        auto* note = stage().desk().mainWindow().findChild<QLabel*>();
+        ASSERT_NE(note, nullptr);
+        QTest::mouseClick(note, Qt::LeftButton);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    });
+    then([&] { EXPECT_EQ(stage().desk().note(), ""); });
+    play();
+}
+
+TEST_F(Controls, AWindowOutsideOfTheDeskComesBack) {
+    then([&] {
+        main().left = 5000;
+        main().top = -300;
+        stage().desk().sync();
+        const QRect desk = QGuiApplication::primaryScreen()->availableGeometry();
+        EXPECT_TRUE(desk.contains(stage().desk().mainWindow().frameGeometry()));
+        EXPECT_EQ(main().left, stage().desk().mainWindow().x());
+    });
+    play();
+}
+
+TEST_F(Controls, ADraggedColumnIsResetByItsHead) {
+    then([&] { stage().doubleClick(main().city_LABEL(3)); });
+    then([&] { stage().click(main().viewButton); });
+    then([&] {
+        auto& list = forms().ViewPlan.PlanList;
+        auto* table = stage().widget(list).findChild<QTreeView*>();
+        ASSERT_NE(table, nullptr);
+        const double before = list.columns[1].width;
+        EXPECT_EQ(table->header()->sectionSize(1), static_cast<int>(before));
+        table->header()->resizeSection(1, 60);
+        EXPECT_EQ(list.columns[1].width, 60);
+        const QPoint head(table->header()->sectionViewportPosition(1) + 20, 10);
+        QTest::mouseClick(table->header()->viewport(), Qt::LeftButton, {}, head);
+        EXPECT_EQ(list.columns[1].width, before);
+        EXPECT_EQ(table->header()->sectionSize(1), static_cast<int>(before));
+        stage().key(Qt::Key_Escape);
+    });
+    then([&] { EXPECT_FALSE(forms().ViewPlan.visible); });
+    play();
+}
+
+} // namespace gatewise::test

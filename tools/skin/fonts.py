@@ -1,0 +1,159 @@
+"""The typefaces of the skin: asks fontconfig for them, reads their widths, copies them beside the program."""
+import functools
+import os
+import re
+import shutil
+import struct
+import subprocess
+import xml.etree.ElementTree as ElementTree
+
+WEIGHTS = {'regular': 400, 'medium': 500, 'bold': 700}
+FONTCONFIG_WEIGHT = {400: 80, 500: 100, 700: 200}
+WEIGHT_NAME = {number: name for name, number in WEIGHTS.items()}
+
+# Where each family comes from, and the licence text that its package only refers to.
+PACKAGES = {
+    'B612': ('fonts-b612', None),
+    'Roboto Condensed': ('fonts-roboto-unhinted', 'Apache-2.0'),
+    'DSEG7 Classic': ('fonts-dseg', None),
+    'OCR B': ('fonts-ocr-b', None),
+}
+LICENCES = '/usr/share/common-licenses'
+DOCUMENTS = '/usr/share/doc'
+
+
+class FontMissing(Exception):
+    """A typeface is not installed; the text says which one and where it comes from."""
+
+
+@functools.lru_cache(None)
+def find(family, weight):
+    """File of a typeface, weight 400, 500 or 700. Raises FontMissing when fontconfig would
+    fall back to another one or thicken a lighter one."""
+    query = '%s:slant=0:weight=%d' % (family, FONTCONFIG_WEIGHT[weight])
+    answer = '%{family}\n%{weight}\n%{embolden}\n%{file}'
+    try:
+        run = subprocess.run(['fc-match', '-f', answer, query], stdout=subprocess.PIPE, check=True)
+    except FileNotFoundError:
+        raise FontMissing('fc-match is missing (package fontconfig)') from None
+    families, found, thickened, path = run.stdout.decode().split('\n')
+    exact = int(float(found)) == FONTCONFIG_WEIGHT[weight] and thickened != 'True'
+    if family not in families.split(',') or not exact:
+        package = PACKAGES.get(family, ('unknown', None))[0]
+        raise FontMissing('font missing: %s %s (Debian package %s); found only %s' %
+                          (family, WEIGHT_NAME[weight], package, os.path.basename(path)))
+    return path
+
+
+def used_in_svg(text):
+    """Set of the (family, weight) that the texts of an SVG file ask for."""
+    used = set()
+
+    def walk(node, family, weight):
+        family = node.get('font-family', family)
+        weight = int(node.get('font-weight', weight))
+        if node.tag.endswith('}text') and family:
+            used.add((family, weight))
+        for child in node:
+            walk(child, family, weight)
+
+    walk(ElementTree.fromstring(text), None, 400)
+    return used
+
+
+def used_in_layout(layout):
+    """Set of the (family, weight) of all roles of the layout: those that the program itself draws with."""
+    return {(role['family'], WEIGHTS[role['weight']]) for role in layout['fonts'].values()}
+
+
+def copy_to(folder, layout):
+    """Copies the typefaces that the program draws with, and their licences, into `folder`."""
+    os.makedirs(folder, exist_ok=True)
+    for family, weight in sorted(used_in_layout(layout)):
+        path = find(family, weight)
+        refresh(path, os.path.join(folder, os.path.basename(path)))
+        package, licence = PACKAGES[family]
+        refresh(os.path.join(DOCUMENTS, package, 'copyright'), os.path.join(folder, package + '-licence.txt'))
+        if licence:
+            refresh(os.path.join(LICENCES, licence), os.path.join(folder, licence + '.txt'))
+
+
+def refresh(source, target):
+    """Copies a file unless the target is as long and not older."""
+    if not os.path.isfile(source):
+        raise FontMissing('licence or font file missing: ' + source)
+    if os.path.isfile(target):
+        old, new = os.stat(target), os.stat(source)
+        if old.st_size == new.st_size and old.st_mtime >= new.st_mtime:
+            return
+    shutil.copyfile(source, target)
+
+
+class Metrics:
+    """Advance widths of one TrueType or OpenType file."""
+
+    def __init__(self, path):
+        with open(path, 'rb') as file:
+            data = file.read()
+        tables = {}
+        for i in range(struct.unpack_from('>H', data, 4)[0]):
+            tag, _, at, _ = struct.unpack_from('>4sIII', data, 12 + 16 * i)
+            tables[tag] = at
+        self.units = struct.unpack_from('>H', data, tables[b'head'] + 18)[0]
+        count = struct.unpack_from('>H', data, tables[b'hhea'] + 34)[0]
+        self.advance = [struct.unpack_from('>H', data, tables[b'hmtx'] + 4 * i)[0] for i in range(count)]
+        self.glyph = {}
+        start = tables[b'cmap']
+        for i in range(struct.unpack_from('>H', data, start + 2)[0]):
+            at = start + struct.unpack_from('>I', data, start + 8 + 8 * i)[0]
+            if struct.unpack_from('>H', data, at)[0] == 4:
+                self._read_map(data, at)
+
+    def _read_map(self, data, at):
+        """Adds a segment map (format 4); the end of the last segment is no character."""
+        n = struct.unpack_from('>H', data, at + 6)[0] // 2
+        ends, starts = (struct.unpack_from('>%dH' % n, data, at + o) for o in (14, 16 + 2 * n))
+        shifts = struct.unpack_from('>%dh' % n, data, at + 16 + 4 * n)
+        offsets = struct.unpack_from('>%dH' % n, data, at + 16 + 6 * n)
+        for k in range(n):
+            for char in range(starts[k], min(ends[k], 0xFFFE) + 1):
+                if offsets[k]:
+                    place = at + 16 + 6 * n + 2 * k + offsets[k] + 2 * (char - starts[k])
+                    glyph = struct.unpack_from('>H', data, place)[0]
+                    glyph = (glyph + shifts[k]) & 0xFFFF if glyph else 0
+                else:
+                    glyph = (char + shifts[k]) & 0xFFFF
+                if glyph:
+                    self.glyph.setdefault(char, glyph)
+
+    def width(self, text, size):
+        """Width of a text in pixels when set in `size` pixels. A character that the face lacks counts as its box."""
+        last = len(self.advance) - 1
+        return sum(self.advance[min(self.glyph.get(ord(c), 0), last)] for c in text) * size / self.units
+
+
+@functools.lru_cache(None)
+def metrics(family, weight):
+    return Metrics(find(family, weight))
+
+
+def text_width(layout, role, text):
+    """Width in pixels of one line in a font role of the layout."""
+    font = layout['fonts'][role]
+    return metrics(font['family'], WEIGHTS[font['weight']]).width(text, font['size'])
+
+
+def wrap(layout, role, text, width):
+    """Lines of a text that breaks at blanks, as a wrapping label shows it."""
+    lines = []
+    for paragraph in re.split('\r\n|\n', text):
+        line = ''
+        for word in paragraph.split(' '):
+            longer = line + ' ' + word if line else word
+            if line and text_width(layout, role, longer) > width:
+                lines.append(line)
+                line = word
+            else:
+                line = longer
+        lines.append(line)
+    return lines
