@@ -1,0 +1,7 @@
+find_package(SQLite3 QUIET)
+if(SQLite3_FOUND)
+  add_executable(bench_board board.cpp)
+  target_link_libraries(bench_board PRIVATE gatewise_warnings gatewise_board benchmark::benchmark_main SQLite::SQLite3)
+else()
+  message(STATUS "SQLite is missing: no benchmark of board beside it")
+endif()

@@ -1,0 +1,7 @@
+find_package(SQLite3 QUIET)
+if(SQLite3_FOUND)
+  add_executable(bench_logbook logbook.cpp)
+  target_link_libraries(bench_logbook PRIVATE gatewise_warnings gatewise_logbook benchmark::benchmark_main SQLite::SQLite3)
+else()
+  message(STATUS "SQLite is missing: no benchmark of the log book beside it")
+endif()

@@ -1,0 +1,7 @@
+find_package(SQLite3 QUIET)
+if(SQLite3_FOUND)
+  add_executable(bench_schedule schedule.cpp)
+  target_link_libraries(bench_schedule PRIVATE gatewise_warnings gatewise_schedule benchmark::benchmark_main SQLite::SQLite3)
+else()
+  message(STATUS "SQLite is missing: no benchmark of schedule beside it")
+endif()

@@ -1,0 +1,2 @@
+add_executable(bench_selection selection.cpp)
+target_link_libraries(bench_selection PRIVATE gatewise_warnings gatewise_selection benchmark::benchmark_main)

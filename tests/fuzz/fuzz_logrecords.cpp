@@ -1,0 +1,11 @@
+#include "logbook/LogExchange.h"
+
+#include <cstddef>
+#include <cstdint>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    std::vector<gatewise::LogRecord> entries(12);
+    gatewise::mergeExchange({data, size}, entries);
+    const auto written = gatewise::exchangeBytes(entries, {data, size});
+    return written.size() >= size ? 0 : -1;
+}

@@ -1,0 +1,200 @@
+#include "tour/Tour.h"
+
+#include "screens/Screens.h"
+#include "screens/UserEvents.h"
+#include "window/QtText.h"
+
+#include <algorithm>
+
+namespace gatewise::tour {
+
+namespace {
+
+/// Pictures that are taken for fine screens too.
+constexpr const char* kFine[] = {"board", "pass", "settings", "plan", "log"};
+
+} // namespace
+
+Tour::Tour(stage::Stage& stage, std::string folder, bool fine)
+    : stage_(stage), f_(stage.forms()), folder_(std::move(folder)), fine_(fine) {}
+
+void Tour::play() {
+    board();
+    boardDialogs();
+    search();
+    pass();
+    plan();
+    flying();
+    exports();
+    logBook();
+    settings();
+    notices();
+    stage_.play();
+}
+
+void Tour::take(const char* name) {
+    const auto wanted = [&](const char* one) { return std::string_view(one) == name; };
+    if (fine_ && std::none_of(std::begin(kFine), std::end(kFine), wanted)) return;
+    const std::string file = folder_ + "/" + name + (fine_ ? "@2x" : "") + ".png";
+    if (stage_.picture().save(QString::fromStdString(file)))
+        pictures_.push_back(file);
+    else
+        complaints_.push_back("could not write " + file);
+}
+
+void Tour::takeLater(const char* name) {
+    then([this, name] { take(name); });
+}
+
+void Tour::expect(const Screen& screen) {
+    if (!screen.visible) complaints_.push_back(screen.name + " did not come up");
+}
+
+void Tour::close() {
+    if (!f_.front.empty() && f_.front.front() != &f_.MainForm) stage_.key(Qt::Key_Escape);
+}
+
+void Tour::visit(const char* name, Screen& screen, stage::Stage::Step there, stage::Stage::Step back) {
+    then(std::move(there));
+    then([this, name, &screen] {
+        expect(screen);
+        take(name);
+    });
+    then(std::move(back));
+}
+
+void Tour::board() {
+    then([this] { stage_.advance(500); });
+    takeLater("board");
+    then([this] { stage_.click(f_.MainForm.boardButton(1)); });
+    takeLater("board-page-2");
+    then([this] { stage_.click(f_.MainForm.boardButton(0)); });
+    then([this] { stage_.click(f_.MainForm.switchButton(1)); });
+    takeLater("board-arrivals");
+    then([this] { stage_.click(f_.MainForm.switchButton(1)); });
+}
+
+void Tour::boardDialogs() {
+    visit(
+        "options", f_.OptionsForm, [this] { stage_.click(f_.MainForm.switchButton(2)); },
+        [this] { close(); });
+    visit(
+        "airlines", f_.SelectForm, [this] { stage_.click(f_.MainForm.switchButton(0)); },
+        [this] { close(); });
+    visit(
+        "information", f_.InfoForm, [this] { stage_.rightClick(f_.MainForm.city_LABEL(2)); },
+        [this] { close(); });
+}
+
+/// A departure airport by its city, a destination, the flights between them.
+void Tour::search() {
+    then([this] { stage_.click(f_.MainForm.main_LABEL); });
+    takeLater("main-empty");
+    then([this] { stage_.tabTo(f_.MainForm.departureText); });
+    then([this] {
+        stage_.key(Qt::Key_A, Qt::ControlModifier);
+        stage_.type("atlanta");
+    });
+    visit(
+        "picker", f_.SelectForm, [this] { stage_.key(Qt::Key_Return); },
+        [this] {
+            stage_.key(Qt::Key_Home);
+            stage_.click(f_.SelectForm.selectButton);
+        });
+    then([this] {
+        stage_.click(f_.MainForm.arrSearch);
+        stage_.type("miami");
+    });
+    then([this] { stage_.click(f_.MainForm.arrivalButton); });
+    then([this] {
+        expect(f_.SelectForm);
+        stage_.key(Qt::Key_Home);
+        stage_.key(Qt::Key_Return);
+    });
+    visit(
+        "flights", f_.FlightForm, [] {},
+        [this] {
+            stage_.key(Qt::Key_Home);
+            stage_.key(Qt::Key_Return);
+        });
+}
+
+void Tour::pass() {
+    then([this] {
+        if (f_.MainForm.seatLABEL_1.text.empty()) complaints_.push_back("no flight came onto the pass");
+    });
+    takeLater("pass");
+}
+
+void Tour::plan() {
+    visit(
+        "plan", f_.ViewPlan, [this] { stage_.click(f_.MainForm.viewButton); },
+        [this] { stage_.click(f_.ViewPlan.printButton); });
+    visit(
+        "charts", f_.PlanCharts, [this] { stage_.click(f_.ViewPlan.chartsButton); }, [this] { close(); });
+    then([this] { stage_.click(f_.ViewPlan.continueButton); });
+}
+
+void Tour::flying() {
+    then([this] { stage_.click(f_.MainForm.FlatButton(3)); });
+    then([this] { stage_.key(Qt::Key_Down); }); // the first aircraft
+    visit(
+        "fly", f_.FlyForm, [] {}, [this] { stage_.click(f_.FlyForm.continueButton); });
+    visit(
+        "message-fly", f_.MsgForm, [] {}, [this] { close(); });
+}
+
+void Tour::exports() {
+    visit(
+        "export", f_.ExportForm, [this] { stage_.click(f_.MainForm.export_LABEL); },
+        [this] { stage_.click(f_.ExportForm.exportButton(1)); });
+    visit(
+        "export-file", f_.DirExportForm, [] {}, [this] { stage_.click(f_.DirExportForm.selectButton); });
+    visit(
+        "message-export", f_.MsgForm, [] {}, [this] { stage_.key(Qt::Key_Return); });
+    then([this] { close(); });
+    then([this] { close(); });
+}
+
+void Tour::logBook() {
+    visit(
+        "message-log", f_.MsgForm, [this] { stage_.click(f_.MainForm.sendlogButton); },
+        [this] { stage_.key(Qt::Key_Return); });
+    then([this] { stage_.click(f_.MainForm.log_LABEL); });
+    then([this] { stage_.click(f_.MainForm.log_press(0)); });
+    takeLater("log");
+    visit(
+        "log-entry", f_.LogEntry, [this] { stage_.click(f_.MainForm.logButton(0)); },
+        [this] { stage_.click(f_.LogEntry.ACTdepttime_LABEL); });
+    visit(
+        "clock", f_.ClockForm, [] {}, [this] { close(); });
+    then([this] { close(); });
+}
+
+void Tour::settings() {
+    visit(
+        "settings", f_.SettingsForm, [this] { stage_.click(f_.MainForm.FlatButton(1)); },
+        [this] { stage_.click(f_.SettingsForm.pathButton); });
+    visit(
+        "folder", f_.DirForm, [] {}, [this] { close(); });
+    then([this] { close(); });
+}
+
+/// Screens that are only up for a moment of work, or that nothing on this road brings up.
+void Tour::notices() {
+    const auto briefly = [this](const char* name, Screen& screen) {
+        then([this, &screen] { stage_.desk().act([&] { showScreen(stage_.window.program, screen); }); });
+        takeLater(name);
+        then([this, &screen] { stage_.desk().act([&] { hideScreen(stage_.window.program, screen); }); });
+    };
+    briefly("wait", f_.WaitForm);
+    then([this] { f_.MsgBox.text.text = "You may not remove the Departure or Destination Airport"; });
+    briefly("message-box", f_.MsgBox);
+    briefly("splash", f_.SplashForm);
+    then([this] {
+        stage_.window.desktop.notify("There is no printer. The plan has been printed to a file.");
+    });
+    takeLater("note");
+}
+
+} // namespace gatewise::tour

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "tour/Stage.h"
+
+#include <string>
+#include <vector>
+
+namespace gatewise::tour {
+
+/// Plays the road of one flight and every screen beside it on a stage, and takes pictures.
+class Tour {
+public:
+    /// `folder` takes the pictures; `fine`: only a few of them, for a screen with small pixels.
+    Tour(stage::Stage& stage, std::string folder, bool fine);
+    void play();
+    [[nodiscard]] const std::vector<std::string>& pictures() const { return pictures_; }
+    [[nodiscard]] const std::vector<std::string>& complaints() const { return complaints_; }
+
+private:
+    void board();
+    void boardDialogs();
+    void search();
+    void pass();
+    void plan();
+    void flying();
+    void exports();
+    void logBook();
+    void settings();
+    void notices();
+
+    /// A step that leads to a screen, then its picture, then the way back.
+    void visit(const char* name, Screen& screen, stage::Stage::Step there, stage::Stage::Step back);
+    void then(stage::Stage::Step step) { stage_.then(std::move(step)); }
+    void take(const char* name);
+    void takeLater(const char* name);
+    void expect(const Screen& screen);
+    /// Enter, Escape or a click on the key that closes the screen in front.
+    void close();
+
+    stage::Stage& stage_;
+    Forms& f_;
+    std::string folder_;
+    bool fine_;
+    std::vector<std::string> pictures_;
+    std::vector<std::string> complaints_;
+};
+
+} // namespace gatewise::tour
