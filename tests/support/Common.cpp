@@ -1,0 +1,1 @@
+// Carries the headers that the test programs share precompiled.
