@@ -10,7 +10,7 @@ namespace gatewise {
 
 namespace {
 
-constexpr std::size_t kRecord = recordSize<LogExchangeRecord>();
+constexpr std::size_t kExchangeRecord = recordSize<LogExchangeRecord>();
 
 LogExchangeRecord exchangeRecord(const LogRecord& entry, std::size_t index) {
     LogExchangeRecord out;
@@ -31,7 +31,7 @@ LogExchangeRecord exchangeRecord(const LogRecord& entry, std::size_t index) {
 
 Bytes exchangeBytes(const std::vector<LogRecord>& entries, ByteView old) {
     Bytes out;
-    out.reserve(std::max(entries.size() * kRecord, old.size()));
+    out.reserve(std::max(entries.size() * kExchangeRecord, old.size()));
     for (std::size_t i = 0; i < entries.size(); ++i) appendRecord(out, exchangeRecord(entries[i], i));
     if (old.size() > out.size())
         out.insert(out.end(), old.begin() + static_cast<std::ptrdiff_t>(out.size()), old.end());
@@ -39,12 +39,12 @@ Bytes exchangeBytes(const std::vector<LogRecord>& entries, ByteView old) {
 }
 
 void mergeExchange(ByteView bytes, std::vector<LogRecord>& entries) {
-    const std::size_t count = bytes.size() / kRecord;
+    const std::size_t count = bytes.size() / kExchangeRecord;
     if (count > kLogEntries) return;
     std::unordered_map<int, LogExchangeRecord> first; // of each index
     for (std::size_t k = 0; k < count; ++k) {
         LogExchangeRecord record;
-        loadRecord(record, bytes.data() + k * kRecord);
+        loadRecord(record, bytes.data() + k * kExchangeRecord);
         first.emplace(record.index, record);
     }
     for (std::size_t j = 0; j < entries.size(); ++j) {

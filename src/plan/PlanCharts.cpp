@@ -5,13 +5,13 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <numbers>
 
 namespace gatewise {
 
 namespace {
 
-constexpr double kPi = 3.14159265358979;
-constexpr double kDegree = kPi / 180;
+constexpr double kDegree = std::numbers::pi / 180;
 
 // Room around the drawn part of the sheet.
 constexpr double kLeft = 0.09, kRight = 0.97, kTop = 0.08, kBottom = 0.88;

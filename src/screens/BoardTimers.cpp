@@ -10,7 +10,6 @@ namespace gatewise {
 
 namespace {
 
-constexpr std::int16_t kAmbienceChannel = 8;
 constexpr int kMinute = 60000;
 
 /// A row that is boarding or arriving blinks.

@@ -99,7 +99,7 @@ void activateExportForm(Program& p) {
     }
 }
 
-void activatePicker(Program& p) {
+void activateDirExport(Program& p) {
     auto& f = p.forms.DirExportForm;
     CenterOnMain(p, f);
     restorePictures(f);
@@ -200,7 +200,7 @@ void bindExportScreens(Program& p) {
         fillDrives(p.forms.DirExportForm.Drive1);
         setDrive(p.forms.DirExportForm.Drive1, "C:");
     };
-    picker.activate = [&p] { activatePicker(p); };
+    picker.activate = [&p] { activateDirExport(p); };
     bindFolderLists(pickerLists(p));
     picker.File1.on(Event::Click, [&p] { pickFile(p); });
     picker.BG.on(Event::Move, [&picker] { restorePictures(picker); });

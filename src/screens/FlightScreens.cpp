@@ -11,8 +11,6 @@ namespace gatewise {
 
 namespace {
 
-constexpr int kSubscriptOutOfRange = 9;
-
 void setButtonStates(forms::FlightForm& f, int state) {
     f.infoButton.State = f.flightButton.State = state;
 }

@@ -13,8 +13,6 @@ namespace gatewise {
 
 namespace {
 
-constexpr int kSubscriptOutOfRange = 9;
-
 std::string bookPath(const Program& p) {
     return p.appPath("\\Data\\LogBook.gt1");
 }
@@ -94,7 +92,7 @@ void LoadLogBook(Program& p) {
 void AddLogEntry(Program& p) {
     const std::size_t index = p.g.LogEntries.size();
     if (index >= kLogEntries) {
-        ShowFailure(p, kSubscriptOutOfRange, "Subscript out of range ", "AddLogEntry");
+        ShowFailure(p, kSubscriptOutOfRange, "Subscript out of range", "AddLogEntry");
         return;
     }
     const long long today = daySerial(p.machine.clock.now());

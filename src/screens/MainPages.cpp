@@ -8,7 +8,7 @@
 #include "screens/LogScreens.h"
 #include "screens/Screens.h"
 #include "screens/SkinnedButtons.h"
-#include "sound/DS_Engine.h"
+#include "sound/Announcements.h"
 #include "state/ConfigFile.h"
 
 namespace gatewise {
@@ -18,7 +18,6 @@ namespace {
 constexpr const char* kBoardTitle = "Departures and Arrivals Status Board ";
 constexpr const char* kLogTitle = "Gatewise Terminal - Pilot's Log Book ";
 constexpr const char* kMainTitle = "Gatewise Terminal - Main Interface ";
-constexpr std::int16_t kAmbienceChannel = 8;
 
 constexpr const char* kHelpTexts[] = {
     "Select the airport you would like to depart from by entering the name, iata code, or icao code in the "

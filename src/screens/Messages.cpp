@@ -90,7 +90,7 @@ struct ModeButtons {
     bool cancel;
 };
 
-constexpr ModeButtons kModes[] = {
+constexpr ModeButtons kMessageModes[] = {
     {"del_log", "ok", true},
     {"path", "ok", true},
     {"fly_now", "fly", true},
@@ -105,7 +105,7 @@ void regularPictures(forms::MsgForm& f) {
 void setButtons(Program& p) {
     auto& f = p.forms.MsgForm;
     CenterOnMain(p, f);
-    for (const auto& row : kModes) {
+    for (const auto& row : kMessageModes) {
         if (p.g.MessageMode != row.mode) continue;
         f.okButton.button_type = row.okType;
         f.cancelButton.visible = row.cancel;

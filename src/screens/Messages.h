@@ -10,6 +10,9 @@ namespace gatewise {
 inline constexpr int kInformation = 1;
 inline constexpr int kWarning = 2;
 
+/// The error number of a table that is full.
+inline constexpr int kSubscriptOutOfRange = 9;
+
 /// Says message `id` (1 to 19) on the message screen and returns when it has been answered. Another heading
 /// than 1 or 2 keeps the one that stands; another id keeps text and mode. `errorNumber` is used by message
 /// 14, with ErrorText. When the message screen is up already, only its texts change.

@@ -128,7 +128,7 @@ void acceptHomeAirline(Program& p) {
     hideScreen(p, p.forms.SelectForm);
 }
 
-constexpr PickMode kModes[] = {
+constexpr PickMode kPickModes[] = {
     {"departure", "Select Departure Airport", fillSearched, acceptDeparture},
     {"home", "Select Home Airport", fillSearched, acceptHome},
     {"arrival", "Select Destination Airport", fillDestinations, PickDestination},
@@ -138,7 +138,7 @@ constexpr PickMode kModes[] = {
 };
 
 const PickMode* modeOf(const Program& p) {
-    for (const auto& row : kModes) {
+    for (const auto& row : kPickModes) {
         if (p.g.SelectMode == row.mode) return &row;
     }
     return nullptr;

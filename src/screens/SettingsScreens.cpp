@@ -4,13 +4,12 @@
 #include "screens/Picker.h"
 #include "screens/Screens.h"
 #include "screens/SkinnedButtons.h"
-#include "sound/DS_Engine.h"
+#include "sound/Announcements.h"
 
 namespace gatewise {
 
 namespace {
 
-constexpr std::int16_t kAmbienceChannel = 8;
 constexpr std::int16_t kVolumeStep = 90;
 
 void showVolume(Program& p) {

@@ -11,6 +11,9 @@ namespace gatewise {
 inline constexpr std::int16_t kAnnouncementKinds = 6;
 inline constexpr std::int16_t kWelcomeKind = 99;
 
+/// The hall's own channel; an announcement of kind N speaks on channel N.
+inline constexpr std::int16_t kAmbienceChannel = 8;
+
 /// What a gate announcement is about and how it is to sound.
 struct Announcement {
     std::string flightKey;         // airline code in the first 3 characters, flight number from the fourth
@@ -32,9 +35,8 @@ using AnnouncementFlags = std::array<std::int16_t, kAnnouncementKinds>;
 void PlayAnnouncement(DS_Engine& engine, const std::string& appDir, const Announcement& announcement,
                       AnnouncementFlags& PlayedFlags);
 
-/// Greets the flight `flightKey` to `city` on channel 9 through "\Wavs\tmp.wav"; does nothing unless `kind`
-/// is
-/// 99. Fails silently as above.
+/// Greets the flight `flightKey` to `city` on channel 9 through "\Wavs\tmp.wav". Does nothing for
+/// another `kind` than 99. Fails silently as above.
 void PlayWelcome(DS_Engine& engine, const std::string& appDir, const std::string& flightKey,
                  std::int16_t kind, const std::string& city);
 

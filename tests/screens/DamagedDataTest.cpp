@@ -17,6 +17,10 @@ struct Damage {
     bool served = true; // the home airport still has flights
 };
 
+void PrintTo(const Damage& damage, std::ostream* out) {
+    *out << damage.name;
+}
+
 void cut(const TempFolder& folder, const char* file, std::size_t length) {
     const std::string path = folder.path(std::string("/Data/") + file);
     std::filesystem::resize_file(path, length);
