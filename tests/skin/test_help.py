@@ -9,10 +9,10 @@ import unittest
 HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, os.path.join(HERE, '..', '..', 'tools', 'skin'))
 
-import fonts      # noqa: E402
-import templates  # noqa: E402
+import fonts       # noqa: E402
+import help_pages  # noqa: E402
+import templates   # noqa: E402
 
-HELP = os.path.join(templates.ASSETS, 'help')
 START = 'gt_gt.htm'
 VOID = ('meta', 'link', 'img', 'br')
 
@@ -24,8 +24,7 @@ class Page(html.parser.HTMLParser):
         super().__init__()
         self.links, self.pictures, self.sheets, self.menu = [], [], [], []
         self.open, self.faults, self.current, self.title = [], [], [], ''
-        with open(os.path.join(HELP, name), encoding='utf-8') as file:
-            self.feed(file.read())
+        self.feed(help_pages.page(name))
         self.faults += self.open
 
     def handle_starttag(self, tag, attrs):
@@ -55,7 +54,7 @@ class Page(html.parser.HTMLParser):
 class Help(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.names = sorted(name for name in os.listdir(HELP) if name.endswith('.htm'))
+        cls.names = sorted(name for name in os.listdir(help_pages.TEXTS) if name.endswith('.htm'))
         cls.pages = {name: Page(name) for name in cls.names}
 
     def test_start_page(self):
@@ -89,7 +88,7 @@ class Help(unittest.TestCase):
             self.assertTrue(picture['alt'])
 
     def test_fonts_are_shipped(self):
-        with open(os.path.join(HELP, 'style.css'), encoding='utf-8') as file:
+        with open(os.path.join(help_pages.TEXTS, 'style.css'), encoding='utf-8') as file:
             named = set(re.findall(r'url\("\.\./Fonts/([^"]+)"\)', file.read()))
         shipped = {os.path.basename(fonts.find(*face)) for face in fonts.used_in_layout(templates.layout())}
         self.assertTrue(named)

@@ -6,16 +6,15 @@
 
 Needs rsvg-convert (package librsvg2-bin) and fc-match (package fontconfig)."""
 import argparse
-import filecmp
 import hashlib
 import json
 import multiprocessing
 import os
-import shutil
 import subprocess
 import sys
 
 import fonts
+import help_pages
 import rasters
 import templates
 
@@ -168,21 +167,26 @@ def find_faults(folder):
 
 
 def copy_pages(folder):
-    """Copies the layout and the help pages; a page that is no longer ours goes away."""
-    pages = os.path.join(templates.ASSETS, 'help')
+    """Brings layout and help pages up to date; a page that is no longer ours goes away."""
     target = os.path.join(folder, 'help')
-    names = sorted(os.listdir(pages)) if os.path.isdir(pages) else []
+    pages = {name: help_pages.page(name) for name, _, _ in help_pages.PAGES}
+    pages['style.css'] = help_pages.read('style.css')
     os.makedirs(target, exist_ok=True)
-    for name in set(os.listdir(target)) - set(names):
+    for name in set(os.listdir(target)) - set(pages):
         os.remove(os.path.join(target, name))
-    for name in names:
-        copy_changed(os.path.join(pages, name), os.path.join(target, name))
-    copy_changed(os.path.join(templates.ASSETS, 'layout.json'), os.path.join(folder, 'layout.json'))
+    for name, text in pages.items():
+        write_changed(text, os.path.join(target, name))
+    with open(os.path.join(templates.ASSETS, 'layout.json'), encoding='utf-8') as layout:
+        write_changed(layout.read(), os.path.join(folder, 'layout.json'))
 
 
-def copy_changed(source, target):
-    if not os.path.isfile(target) or not filecmp.cmp(source, target, shallow=False):
-        shutil.copyfile(source, target)
+def write_changed(text, target):
+    if os.path.isfile(target):
+        with open(target, encoding='utf-8', newline='') as file:
+            if file.read() == text:
+                return
+    with open(target, 'w', encoding='utf-8', newline='') as file:
+        file.write(text)
 
 
 def main():
