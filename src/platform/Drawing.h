@@ -9,7 +9,7 @@
 namespace gatewise {
 
 /// What a stroke stands for; the look chooses colours and widths for it.
-enum class Tone { Grid, Route, Climb, Airport, Fix, Top, Step };
+enum class Tone { Grid, Route, Airport, Fix, Top, Step };
 
 struct DrawingPoint {
     double x = 0;

@@ -25,7 +25,6 @@ const ToneLook& look(Tone tone) {
     static const ToneLook kLooks[] = {
         {Tone::Grid, QColor(0x22, 0x2B, 0x33), QColor(0xCC, 0xCC, 0xCC), 1, 0},
         {Tone::Route, QColor(0x00, 0xC8, 0xD2), QColor(0x30, 0x30, 0x30), 2, 0},
-        {Tone::Climb, QColor(0x00, 0xC8, 0xD2), QColor(0x30, 0x30, 0x30), 2, 0},
         {Tone::Airport, QColor(0xFF, 0xC5, 0x31), QColor(0, 0, 0), 2, 5},
         {Tone::Fix, QColor(0xA6, 0xB6, 0xC4), QColor(0x50, 0x50, 0x50), 1, 2.5},
         {Tone::Top, QColor(0x00, 0xFF, 0xFF), QColor(0, 0, 0), 1, 4},
@@ -52,7 +51,7 @@ void drawMark(QPainter& painter, const QPointF& at, const DrawingMark& mark, con
     const QString text = toQt(mark.label);
     const QFontMetricsF metrics(painter.font());
     const double width = metrics.horizontalAdvance(text);
-    const double x = std::clamp(at.x() - width / 2, box.left() + 2, box.right() - width - 2);
+    const double x = std::max(box.left() + 2, std::min(at.x() - width / 2, box.right() - width - 2));
     const double above = at.y() - tone.radius - 3;
     const double y =
         above - metrics.ascent() < box.top() ? at.y() + tone.radius + metrics.ascent() + 1 : above;
@@ -66,12 +65,8 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
                  bool paper) {
     QRectF sheet = box;
     if (drawing.square) {
-        const double side = std::max(box.width(), box.height());
+        const double side = std::min(box.width(), box.height());
         sheet = QRectF(box.center().x() - side / 2, box.center().y() - side / 2, side, side);
-        // The route keeps its proportions; what the longer side leaves over shows more of the grid.
-        const double fit = std::min(box.width(), box.height()) / side;
-        const double scaled = side * std::max(fit, 0.01);
-        sheet = QRectF(box.center().x() - scaled / 2, box.center().y() - scaled / 2, scaled, scaled);
     }
     const auto place = [&](const DrawingPoint& p) {
         return QPointF(sheet.left() + p.x * sheet.width(), sheet.top() + p.y * sheet.height());

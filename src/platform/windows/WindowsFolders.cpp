@@ -5,7 +5,9 @@
 #include <array>
 #include <cstdlib>
 
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <windows.h>
 
 namespace gatewise {

@@ -7,7 +7,9 @@
 #include <array>
 #include <map>
 
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <windows.h>
 
 #include <shellapi.h>
