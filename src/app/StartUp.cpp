@@ -54,11 +54,11 @@ void disableProFlight(Program& p) {
 
 void startUp(Program& p) {
     p.g.StartupDone = kFalse;
-    p.SoundEngine = std::make_unique<DS_Engine>(p.machine.sound, p.machine.loop);
     ReadConfig(p);
     LocateSimulator(p);
     if (p.ending) return;
     DiscoverDataSets(p);
+    p.SoundEngine = std::make_unique<DS_Engine>(p.machine.sound, p.machine.loop);
     p.g.AmbienceLevel = kFadeStart;
     takeTimeZone(p);
     ReadLocale(p);

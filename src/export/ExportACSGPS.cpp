@@ -1,5 +1,6 @@
 #include "export/ExportACSGPS.h"
 
+#include "plan/Coordinates.h"
 #include "platform/Text.h"
 
 #include <charconv>
@@ -11,9 +12,9 @@ namespace {
 
 /// "N 40* 38.42m"
 std::string angleText(char hemisphere, float value, const NumberLocale& numbers) {
-    const double whole = std::trunc(static_cast<double>(value));
-    return std::string(1, hemisphere) + " " + plainDouble(std::fabs(whole)) + "* " +
-           filedNumber(numbers, "00.00", std::fabs((static_cast<double>(value) - whole) * 60)) + "m";
+    const Angle angle = splitAngle(value);
+    return std::string(1, hemisphere) + " " + plainDouble(angle.degrees) + "* " +
+           filedNumber(numbers, "00.00", angle.minutes) + "m";
 }
 
 /// A text that is no number stays as it is.

@@ -131,6 +131,7 @@ struct TextBox : Control {
     std::string text;
     int maxLength = 0; // characters, 0: no limit
     bool readOnly = false;
+    bool multiLine = false; // else what is typed or pasted ends at its first line break
     bool selectAll = false; // set by a handler of Focus: the whole text becomes selected
 };
 

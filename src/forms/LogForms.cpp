@@ -4,6 +4,7 @@ namespace gatewise::forms {
 
 LogEntry::LogEntry()
     : Screen("LogEntry", "Gatewise Terminal - Log Book Entry", 620, 440, "\\Images\\Dispatch_BG.bmp") {
+    notes.multiLine = true;
     notes.maxLength = 151; // a blank and the whole comment
 }
 

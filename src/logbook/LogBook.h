@@ -25,8 +25,10 @@ public:
     /// Bytes of the entries that were read last; a file that has shrunk or grown since is another's work.
     void remember(long long length) { known_ = length; }
 
-    /// Writes a record at its place and leaves all other bytes as they are.
-    std::error_code put(std::string_view path, std::size_t index, const LogRecord& record, long long today);
+    /// Writes a record at its place and leaves all other bytes as they are. Where the file ends before that
+    /// place, what it has lost meanwhile comes back from `entries`, the log book in memory.
+    std::error_code put(std::string_view path, std::size_t index, const LogRecord& record, long long today,
+                        const std::vector<LogRecord>& entries = {});
 
     /// Writes the file anew with these entries alone.
     std::error_code rewrite(std::string_view path, const std::vector<LogRecord>& entries, long long today);
@@ -36,7 +38,7 @@ private:
     std::error_code replace(std::string_view path, const Bytes& bytes);
 
     long long known_ = 0;      // bytes
-    long long backedUpOn_ = 0; // day serial of this run's last backup
+    long long backedUpOn_ = 0; // day serial of the last backup, of this run or by the backup's own time
 };
 
 } // namespace gatewise

@@ -4,26 +4,21 @@
 
 namespace gatewise {
 
-namespace {
-
-struct Angle {
-    double degrees; // whole, toward zero, without sign
-    double minutes; // without sign
-};
-
-Angle split(float value) {
+Angle splitAngle(float value) {
     const double whole = std::trunc(static_cast<double>(value));
     return {std::fabs(whole), std::fabs((static_cast<double>(value) - whole) * 60)};
 }
 
+namespace {
+
 std::string fileText(char hemisphere, float value, const NumberLocale& locale) {
-    const Angle angle = split(value);
+    const Angle angle = splitAngle(value);
     return hemisphere + formatNumber("0", angle.degrees) + "* " +
            locale.filed(locale.format("00.00", angle.minutes)) + "'";
 }
 
 std::string ticket(char hemisphere, const char* degrees, float value, const NumberLocale& locale) {
-    const Angle angle = split(value);
+    const Angle angle = splitAngle(value);
     return hemisphere + formatNumber(degrees, angle.degrees) + " " + locale.format("00.0", angle.minutes);
 }
 

@@ -10,6 +10,13 @@
 
 namespace gatewise {
 
+/// A position's degrees, whole and toward zero, and its minutes; both without sign.
+struct Angle {
+    double degrees;
+    double minutes;
+};
+Angle splitAngle(float value);
+
 /// "N47* 27.00'": degrees without leading zeros, minutes in "00.00". 0 is north and east.
 std::string latitudeText(float latitude, const NumberLocale& locale);
 std::string longitudeText(float longitude, const NumberLocale& locale);

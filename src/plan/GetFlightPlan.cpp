@@ -141,10 +141,8 @@ void loadFlightPlan(Plan& plan, std::int32_t planNumber, const PlanInput& input)
 
 void loadAirportFacilities(Plan& plan, const PlanInput& input) {
     const files::RecordFile file(input.files.APT);
-    for (PlanAirport* airport : {&plan.departureAirport, &plan.destinationAirport, &plan.alternateAirport}) {
+    for (PlanAirport* airport : {&plan.departureAirport, &plan.destinationAirport, &plan.alternateAirport})
         airport->runways.clear();
-        airport->radio = {};
-    }
     readFacilities(plan.departureAirport, file);
     readFacilities(plan.destinationAirport, file);
     if (input.HaveAlternate) readFacilities(plan.alternateAirport, file);

@@ -31,7 +31,6 @@ BoardRequest request(Program& p) {
 
 /// The airlines of a freshly loaded board decide what the filter means.
 void takeBoardAirlines(Program& p) {
-    SetWaitDots(p, 2);
     listBoardAirlines(p);
     pickFavorite(p);
     p.g.BoardAirlineCode = find_airline_code(p, p.g.FavoriteAirlineName);
@@ -47,6 +46,7 @@ bool turnToArrivals(Program& p) {
     }
     auto& f = p.forms.MainForm;
     p.g.BoardMode = "arriving";
+    SetWaitDots(p, 2);
     takeBoardAirlines(p);
     BuildArrivals(p);
     ShowPage(p);

@@ -25,6 +25,7 @@ void flashTick(Program& p) {
 }
 
 void fadeTick(Program& p) {
+    if (!p.SoundEngine) return; // the start is still asking for the simulator's folder
     const FadeStep step = stepFade(p.g.AmbienceLevel, p.g.AmbienceVolume, p.g.FadeDirection);
     p.g.AmbienceLevel = step.level;
     if (step.silence) p.SoundEngine->StopDXSound(kAmbienceChannel);
@@ -84,7 +85,7 @@ void scanAndAnnounce(Program& p, const AnnouncementWindow& window, const Announc
 void playTick(Program& p, const PlayTimer& play) {
     auto& f = p.forms.MainForm;
     Timer& own = f.*play.timer;
-    if (p.g.board.BoardRowCount < 0) return;
+    if (!p.SoundEngine || p.g.board.BoardRowCount < 0) return;
     if (f.waitPlayTimer.enabled) {
         own.setInterval(kPlayHeldBackInterval);
         own.enable(true);

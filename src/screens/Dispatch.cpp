@@ -49,8 +49,8 @@ void setFlightButtons(forms::MainForm& f, int state) {
     }
 }
 
-/// LoadDepartureFlights for the picked airport; false after message 4.
-bool loadDepartureFlights(Program& p, int airport) {
+/// LoadDepartureFlights for the picked airport; one without flights says so, and the old flights stay.
+void loadDepartureFlights(Program& p, int airport) {
     auto& f = p.forms.MainForm;
     p.g.BoardPage = 0;
     f.statusboard_LABEL.enabled = true;
@@ -64,14 +64,13 @@ bool loadDepartureFlights(Program& p, int airport) {
     if (!readDepartures(p, airport, flights)) {
         ShowMessage(p, kWarning, 4);
         hideScreen(p, p.forms.SelectForm);
-        return false;
+        return;
     }
     p.g.DepartureFlights = std::move(flights);
     p.g.BoardAirportIndex = airport;
     hideScreen(p, p.forms.SelectForm);
     SwitchBoard(p, "arriving");
     showDepartureAirport(p);
-    return true;
 }
 
 } // namespace
@@ -102,7 +101,8 @@ void LoadHomeFlights(Program& p) {
 }
 
 void PickDeparture(Program& p) {
-    if (!loadDepartureFlights(p, p.forms.SelectForm.List1.data()) || p.ending) return;
+    loadDepartureFlights(p, p.forms.SelectForm.List1.data());
+    if (p.ending) return;
     enableArrival(p);
     auto& f = p.forms.MainForm;
     if (!f.status_pic.visible) return;
@@ -247,6 +247,7 @@ void SelectFlight(Program& p, const std::string& flightIndex, int source) {
     setFlightButtons(f, 1);
     SetWaitDots(p, 4);
     FindNearestAlternate(p);
+    refreshShownPlan(p);
     RefreshMainButtons(p, " ");
     hideWait(p);
     PlayWelcome(*p.SoundEngine, p.g.AppDir, flight.AirlineCode.str() + std::to_string(flight.FlightNumber),

@@ -25,7 +25,7 @@ MagneticTable magneticTable(const Program& p) {
 /// Message `id` when the file stands, else message 14 with what kept it from standing.
 void sayWritten(Program& p, std::error_code error, int id, const char* routine) {
     if (error) {
-        ShowFailure(p, error.value(), error.message() + " ", routine);
+        ShowFailure(p, error, routine);
         return;
     }
     ShowMessage(p, kInformation, id);

@@ -109,10 +109,6 @@ std::error_code WriteFlightToSimulator(Program& p, const std::string& stem) {
                               situationKeys(situation(p, stem)));
 }
 
-void sayFailure(Program& p, const std::error_code& error, std::string_view function) {
-    ShowFailure(p, error.value(), textFromUtf8(error.message()) + " ", function);
-}
-
 } // namespace
 
 void sendFlight(Program& p) {
@@ -121,7 +117,7 @@ void sendFlight(Program& p) {
     (void)WriteConfig(p);
     // Without a situation file nothing was sent: the options stay open for another try.
     if (const auto error = WriteFlightToSimulator(p, stem)) {
-        sayFailure(p, error, "WriteSituationFile");
+        ShowFailure(p, error, "WriteSituationFile");
         return;
     }
     hideScreen(p, f);
@@ -132,7 +128,7 @@ void sendFlight(Program& p) {
             return;
         }
         // The flight itself has arrived; the pilot picks it by hand.
-        sayFailure(p, error, "SetDefaultFlight");
+        ShowFailure(p, error, "SetDefaultFlight");
     }
     ShowMessage(p, kInformation, 5);
 }

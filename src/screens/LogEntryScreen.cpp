@@ -79,7 +79,6 @@ void bindClockForm(Program& p) {
     f.activate = [&p] {
         auto& clock = p.forms.ClockForm;
         CenterOnMain(p, clock);
-        RefreshClockButtons(p, "");
         clock.Label2.color = kReturn;
         if (const ClockField* field = fieldOf(p)) clock.Label1.text = field->title;
         ShowClockField(p);

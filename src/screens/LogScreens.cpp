@@ -31,7 +31,7 @@ LogRecord& selectedEntry(Program& p) {
 /// Says what kept the log book from being written; true when something did.
 bool failed(Program& p, const std::error_code& error, const char* function) {
     if (!error) return false;
-    ShowFailure(p, error.value(), error.message() + " ", function);
+    ShowFailure(p, error, function);
     return true;
 }
 
@@ -96,7 +96,7 @@ void AddLogEntry(Program& p) {
         return;
     }
     const long long today = daySerial(p.machine.clock.now());
-    if (failed(p, p.g.logStore.put(bookPath(p), index, newEntry(p), today), "AddLogEntry")) return;
+    if (failed(p, p.g.logStore.put(bookPath(p), index, newEntry(p), today, p.g.LogEntries), "AddLogEntry")) return;
     LoadLogBook(p);
     WriteLogRecords(exchangePath(p), p.g.LogEntries);
     ShowMessage(p, kInformation, 2);
@@ -108,7 +108,7 @@ bool SaveLogEntry(Program& p) {
     entry.comments = std::string(entry.comments.trimmed());
     const long long today = daySerial(p.machine.clock.now());
     const auto index = static_cast<std::size_t>(p.g.LogSelected);
-    if (failed(p, p.g.logStore.put(bookPath(p), index, entry, today), "SaveLogEntry")) return false;
+    if (failed(p, p.g.logStore.put(bookPath(p), index, entry, today, p.g.LogEntries), "SaveLogEntry")) return false;
     WriteLogRecords(exchangePath(p), p.g.LogEntries);
     return true;
 }

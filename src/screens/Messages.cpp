@@ -1,5 +1,6 @@
 #include "screens/Messages.h"
 
+#include "platform/Text.h"
 #include "schedule/FlightTexts.h"
 #include "screens/LocaleFix.h"
 #include "screens/Screens.h"
@@ -108,9 +109,9 @@ void setButtons(Program& p) {
     for (const auto& row : kMessageModes) {
         if (p.g.MessageMode != row.mode) continue;
         f.okButton.button_type = row.okType;
+        f.okButton.picture = f.okButton.button_type + "_regular";
         f.cancelButton.visible = row.cancel;
     }
-    regularPictures(f);
     f.okButton.visible = true;
 }
 
@@ -138,6 +139,10 @@ void ShowMessage(Program& p, int heading, int id, int errorNumber) {
 void ShowFailure(Program& p, int errorNumber, std::string_view description, std::string_view function) {
     p.g.ErrorText = std::string(description) + "In Function " + std::string(function) + " ";
     ShowMessage(p, kWarning, 14, errorNumber);
+}
+
+void ShowFailure(Program& p, const std::error_code& error, std::string_view function) {
+    ShowFailure(p, error.value(), textFromUtf8(error.message()) + " ", function);
 }
 
 void ShowMsgBox(Program& p, std::string text) {

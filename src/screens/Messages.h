@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace gatewise {
 
@@ -20,6 +21,9 @@ void ShowMessage(Program& p, int heading, int id, int errorNumber = 0);
 
 /// Message 14 for a failure with its own description.
 void ShowFailure(Program& p, int errorNumber, std::string_view description, std::string_view function);
+
+/// The same for an error of the system, with the system's words.
+void ShowFailure(Program& p, const std::error_code& error, std::string_view function);
 
 /// A plain message box with one button.
 void ShowMsgBox(Program& p, std::string text);

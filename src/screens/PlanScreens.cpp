@@ -54,6 +54,9 @@ void loadViewPlan(Program& p) {
 
 void retrievePlan(Program& p) {
     loadFlightPlan(p.g.plan, p.g.CurrentFlight.PlanNumber, planInput(p));
+}
+
+void refreshShownPlan(Program& p) {
     if (p.forms.ViewPlan.visible) fillPlanList(p);
 }
 
@@ -106,7 +109,7 @@ void printFlightPlan(Program& p) {
     std::vector<Drawing> drawings;
     if (p.forms.PlanCharts.visible) drawings = {profileDrawing(p.g.plan), mapDrawing(p.g.plan)};
     const auto error = p.machine.printer.print(std::string(kPrintFont), kPrintFontSize, text, drawings);
-    if (error) ShowFailure(p, error.value(), error.message() + " ", "printFlightPlan");
+    if (error) ShowFailure(p, error, "printFlightPlan");
 }
 
 void bindPlanScreens(Program& p) {

@@ -7,6 +7,9 @@ namespace gatewise {
 /// Retrieves the plan of CurrentFlight.
 void retrievePlan(Program& p);
 
+/// The list of an open plan screen anew, once flight and alternate are known.
+void refreshShownPlan(Program& p);
+
 /// The two steps before a plan leaves: the airport blocks taken again, then their runways and radios.
 void preparePlan(Program& p);
 

@@ -62,7 +62,7 @@ void bindSettingsForm(Program& p) {
 void stepAmbience(Program& p, std::string_view type) {
     if (type == "vol_dn" && p.g.AmbienceVolume >= -8910) p.g.AmbienceVolume -= kVolumeStep;
     if (type == "vol_up" && p.g.AmbienceVolume <= -90) p.g.AmbienceVolume += kVolumeStep;
-    p.SoundEngine->ChangeVolume(kAmbienceChannel, p.g.AmbienceVolume);
+    if (p.SoundEngine) p.SoundEngine->ChangeVolume(kAmbienceChannel, p.g.AmbienceVolume);
     showVolume(p);
 }
 

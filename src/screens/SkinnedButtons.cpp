@@ -52,7 +52,10 @@ void bindFormButton(Program& p, SkinnedButton& b) {
         b.Timer1->setInterval(repeatInterval(b.button_type));
         b.Timer1->enable(true);
     });
-    b.on(Event::Move, [point] { point("_mouse"); });
+    b.on(Event::Move, [&p, &b, point] {
+        if (b.screen == &p.forms.SettingsForm) restorePictures(*b.screen);
+        point("_mouse");
+    });
     b.on(Event::Release, [&b] {
         b.Timer1->enable(false);
         const char* stem = formStem(b.button_type);
@@ -83,6 +86,7 @@ void bindSwitchButton(Program& p, SkinnedButton& b) {
         RefreshBoardButtons(p, b.button_type);
         RefreshLogButtons(p, b.button_type);
         RefreshExportButtons(p, b.button_type);
+        if (b.screen == &p.forms.SettingsForm) restorePictures(*b.screen);
         const std::string hover = switchHover(b.button_type, b.State);
         if (!hover.empty()) b.picture = hover;
         if (b.button_type == "export") correctExportName(p);

@@ -64,10 +64,10 @@ void space(Control& control) {
 
 void type(TextBox& box, std::string text) {
     if (!box.enabled || box.readOnly) return;
+    if (!box.multiLine) text.resize(std::min(text.size(), text.find_first_of("\r\n")));
     if (box.maxLength > 0 && text.size() > static_cast<std::size_t>(box.maxLength)) {
         text.resize(static_cast<std::size_t>(box.maxLength));
     }
-    if (text == box.text) return;
     box.text = std::move(text);
     box.fire(Event::Change);
 }
@@ -97,10 +97,17 @@ bool choose(Control& control, int place) {
 
 void check(Control& control, int value) {
     if (!control.enabled) return;
+    // A click is a click, also where it finds the value already there.
+    const auto setOrClick = [](auto& box, auto wanted) {
+        if (box.value == wanted)
+            box.fire(Event::Click);
+        else
+            box.set(wanted);
+    };
     if (control.kind == Kind::Check)
-        static_cast<Check&>(control).set(std::clamp(value, 0, 2));
+        setOrClick(static_cast<Check&>(control), std::clamp(value, 0, 2));
     else if (control.kind == Kind::Option)
-        static_cast<Option&>(control).set(value != 0);
+        setOrClick(static_cast<Option&>(control), value != 0);
 }
 
 void slide(RangeControl& control, int value) {

@@ -434,6 +434,7 @@ void ScreenWindow::paintEvent(QPaintEvent*) {
 
 void ScreenWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
+    if (!screen_.enabled) return; // it takes no input now, from the window manager neither
     if (screen_.name != "MainForm") {
         pressClose();
         return;

@@ -13,7 +13,7 @@ TEST(Csv, FieldsAndLines) {
     EXPECT_EQ(file.rows[0].cells, (Cells{"a", "b", "c"}));
     EXPECT_EQ(file.rows[1].cells, (Cells{"1", "", "3"}));
     EXPECT_EQ(file.rows[1].line, 2);
-    EXPECT_EQ(file.badLine, 0);
+    EXPECT_TRUE(file.badQuotes.empty());
 }
 
 TEST(Csv, QuotesHoldCommasQuotesAndLineEnds) {
@@ -42,12 +42,26 @@ TEST(Csv, AnEmptyFieldAtTheEndCounts) {
 
 TEST(Csv, QuotesOutOfPlaceAreFoundWithTheirLine) {
     const auto open = parseCsv("a\n\"never closed\nb\n");
-    EXPECT_EQ(open.badLine, 2);
-    EXPECT_EQ(open.expected, "a closing quote");
+    ASSERT_EQ(open.badQuotes.size(), 1U);
+    EXPECT_EQ(open.badQuotes[0].line, 2);
+    EXPECT_EQ(open.badQuotes[0].expected, "a closing quote");
     const auto behind = parseCsv("a\nb\n\"x\"y,z\n");
-    EXPECT_EQ(behind.badLine, 3);
-    EXPECT_EQ(behind.expected, "a comma or the end of the line behind a closing quote");
-    EXPECT_EQ(parseCsv("a\nb\"c\n").badLine, 2);
+    ASSERT_EQ(behind.badQuotes.size(), 1U);
+    EXPECT_EQ(behind.badQuotes[0].line, 3);
+    EXPECT_EQ(behind.badQuotes[0].expected, "a comma or the end of the line behind a closing quote");
+}
+
+TEST(Csv, ALineWithAQuoteOutOfPlaceHidesNoOther) {
+    const auto file = parseCsv("a,b\n1,x\"y\r\n2,z\n3\"4,w\n5,v\n");
+    ASSERT_EQ(file.badQuotes.size(), 2U);
+    EXPECT_EQ(file.badQuotes[0].line, 2);
+    EXPECT_EQ(file.badQuotes[0].column, 2);
+    EXPECT_EQ(file.badQuotes[1].line, 4);
+    EXPECT_EQ(file.badQuotes[1].column, 1);
+    ASSERT_EQ(file.rows.size(), 3U);
+    EXPECT_EQ(file.rows[1].cells, (Cells{"2", "z"}));
+    EXPECT_EQ(file.rows[2].cells, (Cells{"5", "v"}));
+    EXPECT_EQ(file.rows[2].line, 5);
 }
 
 TEST(Csv, WrittenLinesReadBack) {

@@ -2,6 +2,7 @@
 #include "gt1/Folders.h"
 #include "gt1/Pack.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace gatewise::gt1 {
@@ -116,12 +117,12 @@ TEST_F(CompileErrors, OtherDuplicates) {
         errors(),
         (Lines{
             "aircraft.csv:4: column 1 (code): expected each code once, found \"320\" again, first in line 2",
+            "airlines.csv:4: column 1 (code): expected each code once, found \"X0\" again, first in line "
+            "2",
             "runways.csv:5: column 2 (runway): expected each runway once, found \"AAA 04L\" again, first in "
             "line 2",
             "radios.csv:5: column 1 (airport): expected each airport once, found \"AAA\" again, first in "
-            "line 2",
-            "airlines.csv:4: column 1 (code): expected each code once, found \"X0\" again, first in line "
-            "2"}));
+            "line 2"}));
 }
 
 TEST_F(CompileErrors, APlanOf198PointsFitsOneOf199DoesNot) {
@@ -193,6 +194,26 @@ TEST_F(CompileErrors, NumbersTimesAndMasks) {
             "flights.csv:3: column 8 (number): expected a whole number from 0 to 9999, found \"10000\""}));
 }
 
+TEST_F(CompileErrors, BehindAGapThePlansAreStillChecked) {
+    tables["plans.csv"] += "5,,,0,,,\n6,,,1,Q,1,\n";
+    EXPECT_EQ(errors(),
+              (Lines{"plans.csv:8: column 1 (plan): expected plan 4: the numbers run from 1 without gaps, "
+                     "found 5",
+                     "plans.csv:9: column 5 (kind): expected one of the letters V N I H, found \"Q\""}));
+}
+
+TEST_F(CompileErrors, ATableThatCannotBeReadHidesNoDuplicates) {
+    tables["airports.csv"] += tables["airports.csv"].substr(tables["airports.csv"].find("AAA,"));
+    edit(tables["airlines.csv"], "callsign", "sign");
+    const Lines found = errors();
+    EXPECT_NE(std::find_if(found.begin(), found.end(),
+                           [](const std::string& line) {
+                               return line.find("expected each iata once, found \"AAA\" again") !=
+                                      std::string::npos;
+                           }),
+              found.end());
+}
+
 TEST_F(CompileErrors, TablesThatCannotBeRead) {
     tables.erase("airlines.csv");
     edit(tables["vor.csv"], "ident,name", "ident,title");
@@ -201,7 +222,7 @@ TEST_F(CompileErrors, TablesThatCannotBeRead) {
     const Lines found = errors();
     EXPECT_EQ(found, (Lines{"vor.csv:1: column 2 (title): expected a column of this table, found \"title\"",
                             "vor.csv:1: expected a column name, found none in the header",
-                            "ndb.csv:2: expected a closing quote, found none",
+                            "ndb.csv:2: column 2 (name): expected a closing quote, found none",
                             "jets.csv: expected a header line, found an empty file",
                             "airlines.csv: expected this table in " + source +
                                 ", found No such file or directory"}));
@@ -252,6 +273,27 @@ TEST_F(CompileErrors, AFurtherSetBringsNoSharedTables) {
               "aircraft.csv: expected this table in the main set alone, since all sets share it, "
               "found one in " +
                   (folder.path() / "source").string());
+}
+
+TEST(CompileFolder, WhereOneFileCannotBeReplacedTheOldSetStaysWhole) {
+    const TemporaryFolder folder;
+    const auto source = folder.path() / "source";
+    const auto target = folder.path() / "target";
+    TableTexts tables = tinyWorld();
+    writeFolder(tables, source);
+    Report first;
+    compileFolder(source, target, std::nullopt, first);
+    ASSERT_FALSE(first.failed());
+    const auto before = readFolder(target);
+
+    std::filesystem::permissions(target / "routes.gt1", std::filesystem::perms::owner_read);
+    edit(tables["airlines.csv"], "X0,", "X1,");
+    edit(tables["flights.csv"], "X0,", "X1,");
+    writeFolder(tables, source);
+    Report second;
+    EXPECT_EQ(compileFolder(source, target, std::nullopt, second), "");
+    EXPECT_TRUE(second.failed());
+    EXPECT_EQ(readFolder(target), before);
 }
 
 TEST(Positions, CountFromOneAndEndAtTwoToThe31) {

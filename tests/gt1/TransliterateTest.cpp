@@ -21,6 +21,14 @@ TEST(Transliterate, LettersOutsideThePageLoseTheirMarks) {
     EXPECT_TRUE(text.changed);
 }
 
+TEST(Transliterate, VowelsOfTwoMarksLoseBoth) {
+    // Ha Noi, Hue and a horn, with their marks
+    EXPECT_EQ(converted("H\xC3\xA0 N\xE1\xBB\x99i").text, "H\xE0 Noi");
+    EXPECT_EQ(converted("Hu\xE1\xBA\xBF \xE1\xBA\xA0 \xE1\xBB\xB9").text, "Hue A y");
+    EXPECT_EQ(converted("\xC6\xA0\xC6\xB0").text, "Ou");
+    EXPECT_EQ(converted("\xEF\xAC\x81").text, "fi");
+}
+
 TEST(Transliterate, MarksOfTheirOwnGoAndOtherWritingBecomesQuestionMarks) {
     EXPECT_EQ(converted("e\xCC\x81").text, "e");
     const auto text = converted("\xE6\x9D\xB1\xE4\xBA\xAC");

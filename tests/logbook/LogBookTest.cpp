@@ -117,6 +117,27 @@ TEST_F(LogBook, FirstChangeOfADayKeepsTheOldFile) {
     EXPECT_EQ(read(backup()), bytesOf({entry(1), entry(2), entry(3)}));
 }
 
+TEST_F(LogBook, ALaterRunOfTheDayKeepsTheMorningsCopy) {
+    const Bytes old = bytesOf({entry(1)});
+    files::replace(path(), old);
+    store.put(path(), 1, entry(2), kToday);
+    LogStore later;
+    later.remember(2 * 347);
+    later.put(path(), 2, entry(3), kToday);
+    EXPECT_EQ(read(backup()), old);
+    LogStore tomorrow;
+    tomorrow.remember(3 * 347);
+    tomorrow.put(path(), 3, entry(4), kToday + 1);
+    EXPECT_EQ(read(backup()), bytesOf({entry(1), entry(2), entry(3)}));
+}
+
+TEST_F(LogBook, WhatAShorterFileHasLostComesBackFromMemory) {
+    files::replace(path(), bytesOf({entry(1)}));
+    const std::vector<LogRecord> memory{entry(1), entry(2), entry(3), entry(4)};
+    EXPECT_FALSE(store.put(path(), 3, entry(9), kToday, memory));
+    EXPECT_EQ(read(path()), bytesOf({entry(1), entry(2), entry(3), entry(9)}));
+}
+
 TEST_F(LogBook, FileThatIsNoWholeNumberOfRecordsIsKeptBeforeEveryChange) {
     files::replace(path(), bytesOf({entry(1)}));
     store.put(path(), 0, entry(1), kToday);

@@ -63,6 +63,15 @@ TEST_F(Messages, TheModeOfATextSetsTheButtons) {
     }
 }
 
+TEST_F(Messages, TheCancelButtonKeepsTheMousePictureThatItWasLeftWith) {
+    ShowMessage(p, kWarning, 3);
+    f.cancelButton.picture = "cancel_mouse";
+    f.okButton.picture = "ok_mouse";
+    ShowMessage(p, kWarning, 3);
+    EXPECT_EQ(f.cancelButton.picture, "cancel_mouse");
+    EXPECT_EQ(f.okButton.picture, "ok_regular");
+}
+
 TEST_F(Messages, AFailureIsToldWithItsNumberItsDescriptionAndItsFunction) {
     ShowFailure(p, -9, "Subscript out of range", "find_airline_code");
     EXPECT_TRUE(f.Msg_LABEL.text.starts_with(

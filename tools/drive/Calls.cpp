@@ -37,6 +37,7 @@ bool fromText(std::string_view utf8, Path& value) {
 }
 
 template<class Argument> bool take(std::string_view& rest, Argument& value) {
+    if (rest.empty()) return false; // an empty text is written ""
     const auto utf8 = takeArgument(rest);
     return utf8 && fromText(*utf8, value);
 }
@@ -101,7 +102,8 @@ int day(Program&, int mask, int bit) {
 }
 std::string readableVolume(Program& p, std::int32_t volume) {
     std::string text;
-    if (p.SoundEngine) p.SoundEngine->GetReadableVolume(volume, text);
+    SilentDevice unheard; // a question is no sound operation of the program's
+    DS_Engine(unheard, p.machine.loop).GetReadableVolume(volume, text);
     return text;
 }
 

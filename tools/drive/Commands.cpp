@@ -15,7 +15,9 @@ Outcome start(Session& session, std::string_view) {
 
 Outcome advance(Session& session, std::string_view rest) {
     const auto milliseconds = integerArgument(rest);
-    if (!milliseconds || *milliseconds < 0) return "expected a number of milliseconds";
+    constexpr long long kLongest = 1000LL * 365 * 24 * 60 * 60 * 1000; // a thousand years
+    if (!milliseconds || *milliseconds < 0 || *milliseconds > kLongest)
+        return "expected a number of milliseconds";
     session.machine().loop.advance(*milliseconds);
     return kDone;
 }
@@ -32,10 +34,10 @@ Outcome quit(Session& session, std::string_view) {
 }
 
 constexpr Command kRunCommands[] = {
-    {"start", start, true},
+    {"start", start, true, true},
     {"advance", advance},
     {"tick", tick},
-    {"quit", quit, true},
+    {"quit", quit, true, true},
 };
 
 const Command* findCommand(std::string_view name) {
@@ -50,6 +52,10 @@ const Command* findCommand(std::string_view name) {
 
 } // namespace
 
+std::string unexpected(std::string_view rest) {
+    return "unexpected " + std::string(rest);
+}
+
 std::span<const Command> runCommands() {
     return kRunCommands;
 }
@@ -59,6 +65,7 @@ Outcome runCommand(Session& session, std::string_view line) {
     const Command* command = findCommand(name);
     if (command == nullptr) return "unknown command " + std::string(name);
     if (!command->beforeStart && !session.started()) return "not started";
+    if (command->alone && !line.empty()) return unexpected(line);
     return command->run(session, line);
 }
 

@@ -16,7 +16,11 @@ struct Command {
     const char* name;
     Outcome (*run)(Session& session, std::string_view rest);
     bool beforeStart = false; // can be given before the program was started
+    bool alone = false;       // a word of its own, nothing comes behind it
 };
+
+/// The refusal of words that are too many.
+std::string unexpected(std::string_view rest);
 
 /// The commands by subject.
 std::span<const Command> machineCommands();

@@ -43,6 +43,7 @@ Outcome reach(Session& session, std::string_view& rest, Control*& control) {
 template<void (*Act)(Control&)> Outcome plain(Session& session, std::string_view rest) {
     Control* control = nullptr;
     if (Outcome refused = reach(session, rest, control)) return refused;
+    if (!rest.empty()) return unexpected(rest);
     Act(*control);
     return kDone;
 }
@@ -55,11 +56,8 @@ void release(Control& control) {
     user::release(control);
 }
 
-Outcome move(Session& session, std::string_view rest) {
-    Control* control = nullptr;
-    if (Outcome refused = reach(session, rest, control)) return refused;
-    user::move(*control);
-    return kDone;
+void move(Control& control) {
+    user::move(control);
 }
 
 Outcome drag(Session& session, std::string_view rest) {
@@ -71,8 +69,8 @@ Outcome drag(Session& session, std::string_view rest) {
     if (screen == nullptr) return noSuch("screen", name);
     Control* ground = screen->find("BG");
     if (ground == nullptr) return noSuch("control", screen->name + ".BG");
-    if (!dx || !dy || std::max(std::abs(*dx), std::abs(*dy)) > 100000)
-        return "expected two numbers of pixels";
+    const auto near = [](long long pixels) { return pixels >= -100000 && pixels <= 100000; };
+    if (!dx || !dy || !near(*dx) || !near(*dy)) return "expected two numbers of pixels";
     if (Outcome refused = refuseScreen(forms, *screen)) return refused;
     user::press(*ground, 0, 0);
     user::move(*ground, static_cast<int>(*dx), static_cast<int>(*dy), true);
@@ -98,7 +96,6 @@ Outcome type(Session& session, std::string_view rest) {
     if (Outcome refused = reach(session, rest, control)) return refused;
     auto* box = controlAs<TextBox>(control);
     if (box == nullptr) return control->fullName() + " is no text box";
-    if (box->readOnly) return control->fullName() + " takes no typing";
     auto text = textArgument(rest);
     if (!text) return "broken text";
     user::type(*box, std::move(*text));
@@ -111,7 +108,6 @@ Outcome choose(Session& session, std::string_view rest) {
     const auto* list = controlAs<ItemControl>(control);
     const auto* view = controlAs<ListView>(control);
     if (list == nullptr && view == nullptr) return control->fullName() + " is no list";
-    if (list != nullptr && list->locked) return control->fullName() + " is locked";
     const auto place = integerArgument(rest);
     const long long count = list != nullptr ? list->count() : static_cast<long long>(view->rows.size());
     if (!place || *place < 0 || *place >= count) return noSuch("item", rest);
@@ -172,7 +168,7 @@ constexpr Command kEventCommands[] = {
     {"press", plain<press>},
     {"release", plain<release>},
     {"rightdown", plain<user::rightPress>},
-    {"move", move},
+    {"move", plain<move>},
     {"drag", drag},
     {"focus", plain<user::focus>},
     {"key", key},

@@ -92,14 +92,14 @@ template<void (*Write)(Session&, JsonWriter&)> Outcome taken(Session& session, s
 constexpr Command kLookCommands[] = {
     {"get", get},
     {"dump", dump},
-    {"shown", shown, true},
+    {"shown", shown, true, true},
     {"global", global, true},
-    {"plan", plan, true},
+    {"plan", plan, true, true},
     {"assign", assign, true},
-    {"sounds", taken<writeSounds>, true},
-    {"launches", taken<writeLaunches>, true},
-    {"printed", taken<writePrinted>, true},
-    {"pointer", pointer, true},
+    {"sounds", taken<writeSounds>, true, true},
+    {"launches", taken<writeLaunches>, true, true},
+    {"printed", taken<writePrinted>, true, true},
+    {"pointer", pointer, true, true},
 };
 
 } // namespace

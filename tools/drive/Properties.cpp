@@ -122,6 +122,8 @@ constexpr Property kRange[] = {
 constexpr Property kFlightInfo[] = {
     {"State", field<&forms::FlightInfo::State>},
     {"pointer", field<&forms::FlightInfo::pointer>},
+    {"data", field<&forms::FlightInfo::data>},
+    {"pos", field<&forms::FlightInfo::pos>},
 };
 
 struct KindView {

@@ -49,7 +49,8 @@ void Session::handle(std::string_view line) {
     open_ = true;
     const Outcome refused = runCommand(*this, line);
     if (refused) {
-        close("error: " + *refused);
+        // What was typed is echoed, and need not be UTF-8.
+        close("error: " + utf8FromText(textFromUtf8(*refused)));
     } else if (program_.ending) {
         finish();
     }

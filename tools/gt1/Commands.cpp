@@ -28,6 +28,32 @@ template<class Content> void writeFile(const fs::path& file, const Content& cont
         report.error({file.string(), 0, 0, ""}, "a file that can be written", error.message());
 }
 
+/// Writes the files beside the old ones first: they belong together, so that all of them are replaced or
+/// none.
+bool writeSet(const std::vector<PackedFile>& packed, const fs::path& folder, Report& report) {
+    const auto part = [&](const PackedFile& file) { return folder / (file.name + ".part"); };
+    const auto tell = [&](const PackedFile& file, const std::string& found) {
+        report.error({(folder / file.name).string(), 0, 0, ""}, "a file that can be written", found);
+    };
+    constexpr auto kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    std::error_code error;
+    for (const PackedFile& file : packed) {
+        const auto old = fs::status(folder / file.name, error);
+        if (fs::is_directory(old) || (fs::exists(old) && (old.permissions() & kWrite) == fs::perms::none))
+            tell(file, "a protected one");
+        else
+            writeFile(part(file), ByteView(file.bytes), report);
+    }
+    const bool good = !report.failed();
+    for (const PackedFile& file : packed) {
+        if (!good)
+            fs::remove(part(file), error);
+        else if (fs::rename(part(file), folder / file.name, error); error)
+            tell(file, error.message());
+    }
+    return !report.failed();
+}
+
 /// A further set must not seem to bring shared tables of its own.
 void refuseWorldTables(const fs::path& source, Report& report) {
     for (const std::string_view file :
@@ -80,11 +106,7 @@ std::string compileFolder(const fs::path& source, const fs::path& target,
                       std::make_move_iterator(more.end()));
     }
     if (report.failed() || !makeFolder(target, report)) return {};
-    for (const PackedFile& file : packed) {
-        writeFile(target / file.name, ByteView(file.bytes), report);
-        if (report.failed()) return {};
-    }
-    return summary(set);
+    return writeSet(packed, target, report) ? summary(set) : std::string();
 }
 
 std::vector<NamedTable> dumpFolder(const fs::path& folder, const std::optional<fs::path>& world,

@@ -165,14 +165,14 @@ DataSet readDataSet(const std::filesystem::path& folder, const World& world, Rep
     const auto airlines = readTable<AirlineRow>(folder, report);
     auto flights = readTable<FlightRow>(folder, report);
     const auto plans = readTable<PlanRow>(folder, report);
+    set.airports = airportsOf(airports, report);
+    set.airlines = airlinesOf(airlines, report);
     if (report.anyUnreadable()) return set; // each reference to a missing table would be one more error
 
     Codes codes{indexBy(airports, [](const AirportRow& r) { return r.record.Iata.str(); }),
                 indexBy(airlines, [](const AirlineRow& r) { return r.record.Code.str(); }),
                 aircraftCodes(world)};
-    set.airports = airportsOf(airports, report);
     set.facilities = facilitiesOf(runways, radios, airports, codes.airports, report);
-    set.airlines = airlinesOf(airlines, report);
     linkFlights(flights, codes, report);
     set.plans = linkPlans(plans, flights, world, report);
     set.flights = groupedByOrigin(flights);

@@ -11,20 +11,27 @@ public:
     }
 
     CsvFile run() {
-        while (at_ < text_.size() && out_.badLine == 0) row();
+        while (at_ < text_.size()) row();
         return std::move(out_);
     }
 
 private:
     void row() {
         CsvRow row{line_, {}};
+        const std::size_t badBefore = out_.badQuotes.size();
         bool more = true;
-        while (more && out_.badLine == 0) {
+        while (more && out_.badQuotes.size() == badBefore) {
+            column_ = static_cast<int>(row.cells.size()) + 1;
             row.cells.push_back(at_ < text_.size() && text_[at_] == '"' ? quotedCell() : plainCell());
             more = at_ < text_.size() && text_[at_] == ',';
             if (more) ++at_;
         }
-        if (out_.badLine != 0) return;
+        if (out_.badQuotes.size() != badBefore) {
+            // What the quote did to the rest of its line nobody knows; the next line stands for itself.
+            while (at_ < text_.size() && text_[at_] != '\n' && text_[at_] != '\r') ++at_;
+            lineEnd();
+            return;
+        }
         lineEnd();
         if (row.cells.size() > 1 || !row.cells[0].empty()) out_.rows.push_back(std::move(row));
     }
@@ -70,13 +77,13 @@ private:
     }
 
     void fail(int line, std::string_view expected) {
-        out_.badLine = line;
-        out_.expected = expected;
+        out_.badQuotes.push_back({line, column_, std::string(expected)});
     }
 
     std::string_view text_;
     std::size_t at_ = 0;
     int line_ = 1;
+    int column_ = 1;
     CsvFile out_;
 };
 

@@ -11,10 +11,16 @@ struct CsvRow {
     std::vector<std::string> cells;
 };
 
+/// A quote out of place; its line is left out of the rows.
+struct BadQuote {
+    int line = 0;
+    int column = 0;       // field in its row, from 1
+    std::string expected; // what should have stood there
+};
+
 struct CsvFile {
     std::vector<CsvRow> rows; // the header is the first; empty lines are left out
-    int badLine = 0;          // line of the first quote out of place, 0 when the file is well formed
-    std::string expected;     // what should have stood there
+    std::vector<BadQuote> badQuotes;
 };
 
 /// Comma-separated values: fields with commas, quotes or line ends in double quotes, quotes inside doubled;

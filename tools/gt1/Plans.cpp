@@ -126,13 +126,13 @@ std::vector<std::vector<RouteEntry>> linkPlans(const Table<PlanRow>& plans, cons
     auto ends = endsOf(flights);
     PlanLinker linker(plans, names, report);
     std::vector<std::vector<RouteEntry>> out;
+    int next = 1;
     for (const auto& [number, lines] : byNumber) {
-        if (number != static_cast<int>(out.size()) + 1) {
+        if (number != next)
             report.error(plans.place(lines[0]->line, "plan"),
-                         "plan " + std::to_string(out.size() + 1) + ": the numbers run from 1 without gaps",
+                         "plan " + std::to_string(next) + ": the numbers run from 1 without gaps",
                          std::to_string(number));
-            break;
-        }
+        next = number + 1;
         linker.ends(lines, ends[number]);
         out.push_back(linker.entries(lines));
     }

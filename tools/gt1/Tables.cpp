@@ -45,10 +45,15 @@ std::optional<CsvFile> readCsv(const std::filesystem::path& folder, std::string_
         return std::nullopt;
     }
     CsvFile csv = parseCsv({reinterpret_cast<const char*>(bytes->data()), bytes->size()});
-    if (csv.badLine != 0) {
-        report.unreadable({std::string(file), csv.badLine, 0, ""}, csv.expected, "none");
-        return std::nullopt;
+    for (const BadQuote& bad : csv.badQuotes) {
+        const auto column = static_cast<std::size_t>(bad.column);
+        const bool named = !csv.rows.empty() && column <= csv.rows[0].cells.size();
+        report.unreadable(
+            {std::string(file), bad.line, bad.column, named ? csv.rows[0].cells[column - 1] : ""},
+            bad.expected, "none");
     }
+    if (!csv.badQuotes.empty() && (csv.rows.empty() || csv.badQuotes[0].line < csv.rows[0].line))
+        return std::nullopt; // no header to read the rest by
     if (csv.rows.empty()) {
         report.unreadable(whole, "a header line", "an empty file");
         return std::nullopt;

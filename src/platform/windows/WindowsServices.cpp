@@ -50,6 +50,17 @@ public:
                                           buffer.data(), static_cast<int>(buffer.size()));
         return length > 0 ? std::string(buffer.data(), static_cast<std::size_t>(length - 1)) : std::string();
     }
+
+    [[nodiscard]] std::string longDate(const DateTime& moment) const override {
+        SYSTEMTIME day{};
+        day.wYear = static_cast<WORD>(moment.year);
+        day.wMonth = static_cast<WORD>(moment.month);
+        day.wDay = static_cast<WORD>(moment.day);
+        std::array<char, 255> buffer{};
+        const int length = GetDateFormatA(GetUserDefaultLCID(), DATE_LONGDATE, &day, nullptr, buffer.data(),
+                                          static_cast<int>(buffer.size()));
+        return length > 0 ? std::string(buffer.data()) : Locale::longDate(moment);
+    }
 };
 
 class WindowsRegistry : public Registry {
@@ -85,7 +96,7 @@ public:
     int start(const std::string& file, const std::string& parameters, const std::string& folder) override {
         SHELLEXECUTEINFOA info{};
         info.cbSize = sizeof info;
-        info.fMask = SEE_MASK_NOCLOSEPROCESS;
+        info.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI;
         info.hwnd = GetDesktopWindow();
         info.lpVerb = "open";
         info.lpFile = file.c_str();
@@ -102,7 +113,10 @@ public:
         const auto found = started_.find(process);
         if (found == started_.end()) return true;
         DWORD code = 0;
-        return !GetExitCodeProcess(found->second, &code) || code != STILL_ACTIVE;
+        if (GetExitCodeProcess(found->second, &code) && code == STILL_ACTIVE) return false;
+        CloseHandle(found->second);
+        started_.erase(found);
+        return true;
     }
 
 private:
@@ -126,7 +140,7 @@ std::unique_ptr<Registry> systemRegistry() {
     return std::make_unique<WindowsRegistry>();
 }
 
-/// The shell says by itself what is missing.
+/// A start that fails is not reported.
 std::unique_ptr<Processes> systemProcesses(Notify) {
     return std::make_unique<WindowsProcesses>();
 }
