@@ -96,7 +96,8 @@ void AddLogEntry(Program& p) {
         return;
     }
     const long long today = daySerial(p.machine.clock.now());
-    if (failed(p, p.g.logStore.put(bookPath(p), index, newEntry(p), today, p.g.LogEntries), "AddLogEntry")) return;
+    if (failed(p, p.g.logStore.put(bookPath(p), index, newEntry(p), today, p.g.LogEntries), "AddLogEntry"))
+        return;
     LoadLogBook(p);
     WriteLogRecords(exchangePath(p), p.g.LogEntries);
     ShowMessage(p, kInformation, 2);
@@ -108,7 +109,8 @@ bool SaveLogEntry(Program& p) {
     entry.comments = std::string(entry.comments.trimmed());
     const long long today = daySerial(p.machine.clock.now());
     const auto index = static_cast<std::size_t>(p.g.LogSelected);
-    if (failed(p, p.g.logStore.put(bookPath(p), index, entry, today, p.g.LogEntries), "SaveLogEntry")) return false;
+    if (failed(p, p.g.logStore.put(bookPath(p), index, entry, today, p.g.LogEntries), "SaveLogEntry"))
+        return false;
     WriteLogRecords(exchangePath(p), p.g.LogEntries);
     return true;
 }
