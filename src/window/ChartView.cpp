@@ -9,6 +9,9 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <iterator>
+#include <optional>
+#include <vector>
 
 namespace gatewise::window {
 
@@ -36,27 +39,81 @@ const ToneLook& look(Tone tone) {
     return kLooks[0];
 }
 
-void drawMark(QPainter& painter, const QPointF& at, const DrawingMark& mark, const ToneLook& tone,
-              const QColor& ink, const QRectF& box) {
+/// Finds room for the words of a chart: beside their mark, off each other and, where it can be, off the
+/// route.
+class Words {
+public:
+    Words(const QRectF& box, const QFontMetricsF& metrics) : box_(box), metrics_(metrics) {}
+
+    void keepOff(const QPolygonF& route) {
+        for (qsizetype i = 1; i < route.size(); ++i) route_.emplace_back(route[i - 1], route[i]);
+    }
+    void keepOff(const QRectF& taken) { taken_.push_back(taken); }
+
+    /// Where the base line of the word begins; nothing when there is no room.
+    std::optional<QPointF> place(const QPointF& mark, double radius, const QString& word) {
+        const double width = metrics_.horizontalAdvance(word);
+        const double height = metrics_.ascent();
+        const double gap = radius + 2;
+        // Above, below, to the right, to the left, then the corners between them.
+        const QPointF corners[] = {
+            mark + QPointF(-width / 2, -gap - height),
+            mark + QPointF(-width / 2, gap),
+            mark + QPointF(gap + 1, -height / 2),
+            mark + QPointF(-gap - 1 - width, -height / 2),
+            mark + QPointF(radius, gap),
+            mark + QPointF(-radius - width, gap),
+            mark + QPointF(radius, -gap - height),
+            mark + QPointF(-radius - width, -gap - height),
+        };
+        std::optional<QRectF> second;
+        for (const QPointF& corner : corners) {
+            const QRectF at(corner, QSizeF(width, height));
+            if (!isFree(at)) continue;
+            if (!crosses(at)) return take(at);
+            if (!second) second = at;
+        }
+        if (second) return take(*second);
+        return std::nullopt;
+    }
+
+private:
+    QPointF take(const QRectF& at) {
+        taken_.push_back(at);
+        return at.bottomLeft();
+    }
+    [[nodiscard]] bool isFree(const QRectF& at) const {
+        return box_.contains(at) && std::none_of(taken_.begin(), taken_.end(),
+                                                 [&](const QRectF& other) { return other.intersects(at); });
+    }
+    [[nodiscard]] bool crosses(const QRectF& at) const {
+        const QLineF edges[] = {{at.topLeft(), at.topRight()},
+                                {at.topRight(), at.bottomRight()},
+                                {at.bottomRight(), at.bottomLeft()},
+                                {at.bottomLeft(), at.topLeft()}};
+        return std::any_of(route_.begin(), route_.end(), [&](const QLineF& leg) {
+            return at.contains(leg.p1()) ||
+                   std::any_of(std::begin(edges), std::end(edges), [&](const QLineF& edge) {
+                       return leg.intersects(edge, nullptr) == QLineF::BoundedIntersection;
+                   });
+        });
+    }
+
+    QRectF box_;
+    QFontMetricsF metrics_;
+    std::vector<QRectF> taken_;
+    std::vector<QLineF> route_;
+};
+
+void drawMark(QPainter& painter, const QPointF& at, Tone kind, double radius, const QColor& ink) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(ink);
-    if (mark.tone == Tone::Top || mark.tone == Tone::Step) {
-        const double r = tone.radius;
-        painter.drawPolygon(
-            QPolygonF({at + QPointF(0, -r), at + QPointF(r, 0), at + QPointF(0, r), at + QPointF(-r, 0)}));
+    if (kind == Tone::Top || kind == Tone::Step) {
+        painter.drawPolygon(QPolygonF({at + QPointF(0, -radius), at + QPointF(radius, 0),
+                                       at + QPointF(0, radius), at + QPointF(-radius, 0)}));
     } else {
-        painter.drawEllipse(at, tone.radius, tone.radius);
+        painter.drawEllipse(at, radius, radius);
     }
-    if (mark.label.empty()) return;
-    const QString text = toQt(mark.label);
-    const QFontMetricsF metrics(painter.font());
-    const double width = metrics.horizontalAdvance(text);
-    const double x = std::max(box.left() + 2, std::min(at.x() - width / 2, box.right() - width - 2));
-    const double above = at.y() - tone.radius - 3;
-    const double y =
-        above - metrics.ascent() < box.top() ? at.y() + tone.radius + metrics.ascent() + 1 : above;
-    painter.setPen(ink);
-    painter.drawText(QPointF(x, y), text);
 }
 
 } // namespace
@@ -75,6 +132,8 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
     painter.setClipRect(box);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(font);
+    const QFontMetricsF metrics(font);
+    Words words(box, metrics);
     for (const auto& line : drawing.lines) {
         const ToneLook& tone = look(line.tone);
         QPen pen(paper ? tone.paper : tone.screen, tone.width);
@@ -83,9 +142,9 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
         QPolygonF points;
         for (const auto& p : line.points) points << place(p);
         painter.drawPolyline(points);
+        if (line.tone == Tone::Route) words.keepOff(points);
     }
     painter.setPen(paper ? QColor(0x40, 0x40, 0x40) : QColor(0xA6, 0xB6, 0xC4));
-    const QFontMetricsF metrics(font);
     for (const auto& word : drawing.texts) {
         const QString text = toQt(word.text);
         QPointF at = place(word.at);
@@ -95,10 +154,22 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
         else
             at.rx() -= metrics.horizontalAdvance(text) / 2;
         painter.drawText(at, text);
+        words.keepOff(
+            QRectF(at.x(), at.y() - metrics.ascent(), metrics.horizontalAdvance(text), metrics.ascent()));
     }
     for (const auto& mark : drawing.marks) {
         const ToneLook& tone = look(mark.tone);
-        drawMark(painter, place(mark.at), mark, tone, paper ? tone.paper : tone.screen, box);
+        const QPointF at = place(mark.at);
+        drawMark(painter, at, mark.tone, tone.radius, paper ? tone.paper : tone.screen);
+        words.keepOff(QRectF(at.x() - tone.radius, at.y() - tone.radius, 2 * tone.radius, 2 * tone.radius));
+    }
+    for (const auto& mark : drawing.marks) {
+        const ToneLook& tone = look(mark.tone);
+        const QString word = toQt(mark.label);
+        const auto at = words.place(place(mark.at), tone.radius, word);
+        if (word.isEmpty() || !at) continue;
+        painter.setPen(paper ? tone.paper : tone.screen);
+        painter.drawText(*at, word);
     }
     painter.restore();
 }
