@@ -28,7 +28,7 @@ constexpr std::array<ColourRow, 6> kColours = {{{"ARRIVING", true, true, kRed, k
                                                 {"BOARDING", true, true, kRed, kRed},
                                                 {"AT GATE", true, false, kYellow, kDarkYellow}}};
 
-/// "AA123" from " AA 0123": the code without its blanks against the number without its zeros. A text without
+/// " AA123" from " AA 0123": the code without its blanks against the number without its zeros. A text without
 /// a number has no such form.
 std::optional<std::string> flightLabel(std::string_view FlightText) {
     int number = 0;

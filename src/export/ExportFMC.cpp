@@ -3,7 +3,6 @@
 #include "platform/Text.h"
 
 #include <algorithm>
-#include <array>
 #include <vector>
 
 namespace gatewise {
@@ -32,16 +31,12 @@ std::string keyOf(const Plan& plan) {
         .append(plan.at(plan.planLast).pointName.trimmed());
 }
 
-/// Key, count and four fields that the add-ons fill themselves.
-std::array<std::string_view, 6> headerFields(std::string_view line) {
-    std::array<std::string_view, 6> fields;
-    for (auto& field : fields) {
-        const auto tab = line.find('\t');
-        field = line.substr(0, tab);
-        if (tab == std::string_view::npos) break;
-        line.remove_prefix(tab + 1);
-    }
-    return fields;
+/// The count in the second field of a plan's header, 0 without one.
+double pointCount(std::string_view header) {
+    const auto key = header.find('\t');
+    if (key == std::string_view::npos) return 0;
+    const auto rest = header.substr(key + 1);
+    return leadingNumber(rest.substr(0, rest.find('\t')));
 }
 
 void addPlan(TextLines& out, const Plan& plan, std::string_view key, const NumberLocale& numbers) {
@@ -70,7 +65,7 @@ std::optional<std::string> fmcPlans(const Plan& plan, std::string_view oldFile, 
         return out.text();
     }
     const auto size = static_cast<double>(lines->size());
-    const double count = leadingNumber(headerFields(*match)[1]);
+    const double count = pointCount(*match);
     const double next = static_cast<double>(match - lines->begin()) + count + 1;
     if (next < 0) return std::nullopt;
     std::for_each(lines->begin(), match, [&](std::string_view line) { out.add(line); });

@@ -1,5 +1,6 @@
 #include "export/ExportSB.h"
 
+#include "plan/Performance.h"
 #include "platform/Text.h"
 
 #include <array>
@@ -12,10 +13,8 @@ constexpr std::int32_t kLow = 10000;    // feet, last of the lowest band
 constexpr std::int32_t kMiddle = 25000; // last of the middle band
 
 double headerAirspeed(const Plan& plan) {
-    const double a = plan.peakAltitude;
-    const double factor = 1 + 0.01072 * a / 1000 + 0.000256 * a * a / 1000000;
     const std::size_t entry = plan.peakAltitude > kMiddle ? 3 : plan.peakAltitude > kLow ? 1 : 0;
-    return factor * plan.speedSchedule[entry];
+    return trueAirspeed(plan.peakAltitude, plan.speedSchedule[entry]);
 }
 
 /// Entries of the speed schedule by altitude band.

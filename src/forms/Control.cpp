@@ -71,16 +71,6 @@ int ItemControl::add(std::string text, int data) {
     return static_cast<int>(place);
 }
 
-void ItemControl::removeAt(int place) {
-    if (place < 0 || place >= count()) return;
-    items.erase(items.begin() + place);
-    itemData.erase(itemData.begin() + place);
-    if (picked == place)
-        picked = -1;
-    else if (picked > place)
-        --picked;
-}
-
 void ItemControl::clear() {
     items.clear();
     itemData.clear();

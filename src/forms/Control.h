@@ -158,7 +158,6 @@ struct ItemControl : Control {
     using Control::Control;
     /// Adds an item; where the items are kept sorted, behind those that are equal. Returns its place.
     int add(std::string text, int data = 0);
-    void removeAt(int place);
     void clear();
     /// Picks an item and fires Click; -1 picks none and fires nothing. A place outside is ignored.
     void select(int place);
@@ -298,8 +297,6 @@ public:
     }
     T& operator()(int i) { return *items_[static_cast<std::size_t>(i - first_)]; }
     const T& operator()(int i) const { return *items_[static_cast<std::size_t>(i - first_)]; }
-    [[nodiscard]] int first() const { return first_; }
-    [[nodiscard]] int last() const { return first_ + static_cast<int>(items_.size()) - 1; }
     auto begin() { return items_.begin(); }
     auto end() { return items_.end(); }
 

@@ -11,8 +11,7 @@
 namespace gatewise {
 
 /// All entries as CSV in UTF-8 with a header line, lines ended by CR LF; dates as 2002-06-15, times as 07:35,
-/// hours with
-/// ".".
+/// hours with ".".
 std::string logCsv(const std::vector<LogRecord>& entries);
 
 /// Page `page` (from 1) as a listing for a fixed pitch, at most 80 characters a line, lines ended by line

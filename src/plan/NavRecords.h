@@ -69,11 +69,11 @@ static_assert(recordSize<JetRecord>() == 56);
 /// APT.gt1: an airport's block is its runways, then one radio record.
 struct RunwayRecord {
     FixedText<5> runwayId;
-    float runwayLatitude = 0;
-    float runwayLongitude = 0;
-    float runwayHeading = 0;
-    float runwayCourse = 0;
-    FixedText<7> ilsId; // or "NO ILS "
+    float runwayLatitude = 0;  // degrees, north positive
+    float runwayLongitude = 0; // degrees, east positive
+    float runwayHeading = 0;   // degrees, for a start on the runway
+    float runwayCourse = 0;    // degrees, the second heading: exports name it
+    FixedText<7> ilsId;        // or "NO ILS "
     FixedText<6> ilsFrequency;
 
     static constexpr void fields(auto& r, auto&& f) {

@@ -51,8 +51,8 @@ struct PlanPoint {
 struct PlanAirport {
     FixedText<4> Icao;
     FixedText<36> Name;
-    float Latitude = 0;
-    float Longitude = 0;
+    float Latitude = 0;         // degrees, north positive
+    float Longitude = 0;        // degrees, east positive
     std::int32_t Elevation = 0; // feet
     std::int32_t RunwayCount = 0;
     std::int32_t RunwayOffset = 0;
@@ -62,32 +62,26 @@ struct PlanAirport {
 
 struct Plan {
     std::array<PlanPoint, kPlanPoints> points;
-    std::int16_t planLast = 0;
-    float totalDistance = 0;
-    FixedText<5> totalTime; // hh:mm
-    float directCourse = 0; // above -180, up to 180
+    std::int16_t planLast = 0; // index of the destination
+    float totalDistance = 0;   // nautical miles
+    FixedText<5> totalTime;    // hh:mm
+    float directCourse = 0;    // degrees, above -180, up to 180
     FixedText<3> flightRules = "IFR";
-    std::int32_t cruiseAltitude = 0;
+    std::int32_t cruiseAltitude = 0; // feet, as the two below
     std::int32_t peakAltitude = 0;
     std::int32_t ceilingAltitude = 0;
-    float climbRate = 0;
-    float descentRate = 0; // negative or 0, but for what the hand-off to ProFlight leaves
+    float climbRate = 0;   // feet a minute
+    float descentRate = 0; // feet a minute, negative or 0, but for what the hand-off to ProFlight leaves
     float climbDivisor = 1.2F;
     float descentDivisor = 1.2F;
-    std::array<double, 7> speedSchedule{};
-    std::string routeString; // at most 1,000 characters
+    std::array<double, 7> speedSchedule{}; // knots, from climb-out over cruise to approach
+    std::string routeString;               // at most 1,000 characters
     PlanAirport departureAirport;
     PlanAirport destinationAirport;
     PlanAirport alternateAirport;
 
     [[nodiscard]] PlanPoint& at(int i) { return points[static_cast<std::size_t>(i)]; }
     [[nodiscard]] const PlanPoint& at(int i) const { return points[static_cast<std::size_t>(i)]; }
-};
-
-/// Values that connect calls of the navigation geometry.
-struct GeometryState {
-    float lastCourse = 0;            // found by the last Distance
-    std::int32_t offsetDistance = 0; // nautical miles that the offset functions move
 };
 
 } // namespace gatewise

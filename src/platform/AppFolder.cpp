@@ -21,20 +21,31 @@ bool canWrite(const fs::path& folder) {
     return written;
 }
 
+/// Makes folders anew and copies files, each free to change: a folder that is copied with its protection
+/// would not take its own files.
+std::error_code copyFree(const fs::path& from, const fs::path& to) {
+    std::error_code error;
+    fs::create_directories(to, error);
+    for (fs::directory_iterator it(from, error), end; !error && it != end; it.increment(error)) {
+        const fs::path target = to / it->path().filename();
+        if (it->is_directory(error)) {
+            error = copyFree(it->path(), target);
+        } else if (!error) {
+            fs::copy_file(it->path(), target, error);
+            if (!error) fs::permissions(target, fs::perms::owner_write, fs::perm_options::add, error);
+        }
+        if (error) break;
+    }
+    return error;
+}
+
 /// Copies under another name first: a copy that was cut short is no folder to start from.
 std::error_code fill(const fs::path& from, const fs::path& to) {
     std::error_code error;
     fs::path half = to;
     half += ".part";
     fs::remove_all(half, error);
-    if (!error) fs::create_directories(half, error);
-    if (!error) fs::copy(from, half, fs::copy_options::recursive, error);
-    if (error) return error;
-    // What was protected at its source must be free to change here.
-    for (fs::recursive_directory_iterator it(half, error), end; !error && it != end; it.increment(error)) {
-        fs::permissions(it->path(), fs::perms::owner_write, fs::perm_options::add, error);
-        if (error) break;
-    }
+    if (!error) error = copyFree(from, half);
     if (!error) fs::rename(half, to, error);
     return error;
 }

@@ -5,7 +5,9 @@
 #include <cerrno>
 #include <cstring>
 
-#ifndef _WIN32
+#ifdef _WIN32
+#include <io.h>
+#else
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -58,6 +60,15 @@ std::error_code lastError() {
     return {errno, std::generic_category()};
 }
 
+/// A path's narrow text is UTF-8, but the narrow calls of Windows take the ANSI page.
+std::FILE* openFile(const fs::path& file, const char* mode) {
+#ifdef _WIN32
+    return _wfopen(file.c_str(), fs::path(mode).c_str());
+#else
+    return std::fopen(file.c_str(), mode);
+#endif
+}
+
 } // namespace
 
 fs::path resolve(std::string_view path) {
@@ -104,27 +115,30 @@ std::string foundName(std::string_view path) {
 }
 
 std::optional<Bytes> readAll(std::string_view path, std::error_code* error) {
+    const auto refused = [&](std::error_code why) {
+        if (error != nullptr) *error = why;
+        return std::nullopt;
+    };
     const fs::path native = resolve(path);
     std::error_code found;
-    if (fs::is_directory(native, found)) {
-        if (error != nullptr) *error = std::make_error_code(std::errc::is_a_directory);
-        return std::nullopt;
-    }
-    std::FILE* file = std::fopen(native.string().c_str(), "rb");
-    if (file == nullptr) {
-        if (error != nullptr) *error = lastError();
-        return std::nullopt;
-    }
+    const fs::file_status status = fs::status(native, found);
+    if (fs::is_directory(status)) return refused(std::make_error_code(std::errc::is_a_directory));
+    // A pipe would hold the window until somebody writes into it.
+    if (fs::exists(status) && !fs::is_regular_file(status))
+        return refused(std::make_error_code(std::errc::not_supported));
+    std::FILE* file = openFile(native, "rb");
+    if (file == nullptr) return refused(lastError());
     Bytes bytes;
     const auto expected = fs::file_size(native, found);
+    if (!found && expected > static_cast<std::uintmax_t>(kLongestFile)) {
+        std::fclose(file);
+        return refused(std::make_error_code(std::errc::file_too_large));
+    }
     if (!found) bytes.resize(static_cast<std::size_t>(expected));
     bytes.resize(std::fread(bytes.data(), 1, bytes.size(), file));
     const bool failed = std::ferror(file) != 0;
     std::fclose(file);
-    if (failed) {
-        if (error != nullptr) *error = std::make_error_code(std::errc::io_error);
-        return std::nullopt;
-    }
+    if (failed) return refused(std::make_error_code(std::errc::io_error));
     return bytes;
 }
 
@@ -133,7 +147,8 @@ std::optional<Bytes> readAll(std::string_view path, std::error_code* error) {
 namespace {
 
 std::error_code writeFlushed(const std::string& name, ByteView bytes, mode_t mode) {
-    const int handle = ::open(name.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, mode);
+    ::unlink(name.c_str()); // what an interrupted run left, or a link to somewhere else
+    const int handle = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
     if (handle < 0) return lastError();
     ::fchmod(handle, mode);
     std::error_code error;
@@ -141,6 +156,8 @@ std::error_code writeFlushed(const std::string& name, ByteView bytes, mode_t mod
         const auto count = ::write(handle, bytes.data() + done, bytes.size() - done);
         if (count > 0)
             done += static_cast<std::size_t>(count);
+        else if (count == 0)
+            error = std::make_error_code(std::errc::io_error);
         else if (errno != EINTR)
             error = lastError();
     }
@@ -184,11 +201,12 @@ std::error_code replace(std::string_view path, ByteView bytes) {
 
 std::error_code replace(std::string_view path, ByteView bytes) {
     const fs::path target = resolve(path);
-    const fs::path beside = fs::path(target.string() + ".new~");
-    std::FILE* file = std::fopen(beside.string().c_str(), "wb");
+    fs::path beside = target;
+    beside += ".new~";
+    std::FILE* file = openFile(beside, "wb");
     if (file == nullptr) return lastError();
-    const bool whole =
-        std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() && std::fflush(file) == 0;
+    const bool whole = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size() &&
+                       std::fflush(file) == 0 && _commit(_fileno(file)) == 0;
     std::error_code error = whole ? std::error_code() : lastError();
     std::fclose(file);
     if (!error) fs::rename(beside, target, error);
@@ -203,12 +221,6 @@ std::error_code remove(std::string_view path) {
     std::error_code error;
     fs::remove(resolve(path), error);
     return error;
-}
-
-std::error_code copy(std::string_view from, std::string_view to) {
-    std::error_code error;
-    const auto bytes = readAll(from, &error);
-    return bytes ? replace(to, *bytes) : error;
 }
 
 std::vector<Entry> list(std::string_view path) {
@@ -227,7 +239,7 @@ RecordFile::RecordFile(std::string_view path) {
     if (!fs::is_regular_file(native, error)) return;
     const auto size = fs::file_size(native, error);
     if (error) return;
-    file_ = std::fopen(native.string().c_str(), "rb");
+    file_ = openFile(native, "rb");
     length_ = file_ != nullptr ? static_cast<long long>(size) : 0;
 }
 

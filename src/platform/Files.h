@@ -24,13 +24,17 @@ std::filesystem::path resolve(std::string_view path);
 /// A native path as a text of the program.
 std::string textOf(const std::filesystem::path& path);
 
+/// No file that the program reads whole comes near this many bytes: what is longer is damaged.
+inline constexpr long long kLongestFile = 1LL << 30U;
+
 bool fileExists(std::string_view path);
 bool folderExists(std::string_view path);
 
 /// Name of an existing file as its folder spells it, empty when there is none.
 std::string foundName(std::string_view path);
 
-/// Whole file in one read; nothing when it cannot be read (`error` says why).
+/// Whole file in one read; nothing when it cannot be read, is no plain file or is longer than kLongestFile
+/// (`error` says why).
 std::optional<Bytes> readAll(std::string_view path, std::error_code* error = nullptr);
 
 /// Replaces the file in one step: written beside it, flushed, renamed; through a symbolic link its target is
@@ -42,8 +46,6 @@ inline std::error_code replace(std::string_view path, std::string_view text) {
 
 /// No error when there is no such file.
 std::error_code remove(std::string_view path);
-
-std::error_code copy(std::string_view from, std::string_view to);
 
 struct Entry {
     std::string name; // text of the program
@@ -82,12 +84,14 @@ public:
         return numberAt<T>(buffer, 0);
     }
 
-    /// `count` records from `offset` in one read; nothing when they do not lie wholly inside.
+    /// `count` records from `offset` in one read; nothing when they do not lie wholly inside, or are more
+    /// than kLongestFile bytes.
     template<class Record>
     std::optional<std::vector<Record>> records(long long offset, long long count) const {
         constexpr auto size = static_cast<long long>(recordSize<Record>());
         if (count < 0 || offset < 0 || offset > length_ || count > (length_ - offset) / size)
             return std::nullopt;
+        if (count > kLongestFile / size) return std::nullopt;
         Bytes block(static_cast<std::size_t>(count * size));
         if (!read(offset, block)) return std::nullopt;
         std::vector<Record> out(static_cast<std::size_t>(count));

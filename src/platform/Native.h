@@ -23,7 +23,5 @@ std::unique_ptr<Registry> systemRegistry();
 std::unique_ptr<Processes> systemProcesses(Notify notify);
 /// Seeded afresh at every start.
 std::unique_ptr<Random> systemRandom();
-/// Prints into text files in `folder`, which is made when it is missing, and tells where the file lies.
-std::unique_ptr<Printer> filePrinter(std::string folder, const Clock& clock, Notify notify);
 
 } // namespace gatewise::native

@@ -98,7 +98,6 @@ bool Profile::find(std::string_view section, std::string_view key, std::string& 
 }
 
 void Profile::set(std::string_view section, std::string_view key, std::string_view value) {
-    changed_ = true;
     const auto entry = [&] { return std::string(key).append("=").append(value).append("\r\n"); };
     const auto closeLine = [&](std::size_t i) {
         // An end-of-text mark (1A) belongs to no value, but it does not end the line either.

@@ -27,7 +27,6 @@ public:
     void set(std::string_view section, std::string_view key, std::string_view value);
 
     [[nodiscard]] std::string content() const;
-    [[nodiscard]] bool changed() const { return changed_; }
 
 private:
     [[nodiscard]] std::size_t sectionLine(std::string_view section) const;
@@ -35,14 +34,13 @@ private:
     [[nodiscard]] std::size_t keyLine(std::size_t start, std::string_view key) const;
 
     std::vector<std::string> lines_; // each with its line end
-    bool changed_ = false;
 };
 
-/// Text of a key: default " ", at most 254 characters; NUL characters become blanks, blanks around it go. A
-/// missing key or file gives the empty text.
+/// Text of a key, at most 254 characters; NUL characters become blanks, blanks around it go. Empty for a
+/// missing key or file.
 std::string ReadText(std::string_view section, std::string_view key, std::string_view file);
 
-/// The number a value begins with, 0 for anything else.
+/// The whole number a value begins with, modulo 2^32; 0 for anything else and for a missing key.
 int ReadNumber(std::string_view section, std::string_view key, std::string_view file);
 
 /// Writes one key; the file is created when it is missing and replaced in one step.

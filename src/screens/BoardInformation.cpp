@@ -52,7 +52,7 @@ bool turnToArrivals(Program& p) {
     ShowPage(p);
     f.headerPICTURE.picture = "\\Images\\Status\\header_arr.bmp";
     f.switchButton(1).picture = "switch_dept_regular";
-    f.city_LABEL(20).text = " ARRIVING FROM";
+    f.city_LABEL(kHeadingRow).text = " ARRIVING FROM";
     return true;
 }
 
@@ -71,7 +71,7 @@ bool turnToDepartures(Program& p) {
     }
     f.headerPICTURE.picture = "\\Images\\Status\\header_dept.bmp";
     f.switchButton(1).picture = "switch_arr_regular";
-    f.city_LABEL(20).text = " DEPARTING TO";
+    f.city_LABEL(kHeadingRow).text = " DEPARTING TO";
     return true;
 }
 

@@ -1,11 +1,15 @@
 #pragma once
 
+#include "board/Paging.h"
 #include "state/Program.h"
 
 #include <string>
 #include <string_view>
 
 namespace gatewise {
+
+/// The headings of the columns are labels behind those of the rows.
+inline constexpr int kHeadingRow = kRowsOnPage;
 
 /// Shows n of five lit dots on the standby screen and paints it; n from 0 to 5.
 void SetWaitDots(Program& p, int n);

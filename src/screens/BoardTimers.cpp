@@ -1,5 +1,6 @@
 #include "screens/BoardTimers.h"
 
+#include "board/Paging.h"
 #include "screens/BoardInformation.h"
 #include "screens/Clocks.h"
 #include "screens/Dispatch.h"
@@ -18,7 +19,7 @@ void flashTick(Program& p) {
     const char* word = p.g.BoardMode == "departing"  ? "BOARDING"
                        : p.g.BoardMode == "arriving" ? "ARRIVING"
                                                      : "";
-    for (int i = 0; i < 20; ++i) {
+    for (int i = 0; i < kRowsOnPage; ++i) {
         Label& status = p.forms.MainForm.status_LABEL(i);
         status.visible = status.text == word ? !status.visible : true;
     }
@@ -103,7 +104,7 @@ void playTick(Program& p, const PlayTimer& play) {
 
 void updateTick(Program& p) {
     auto& f = p.forms.MainForm;
-    for (int i = 0; i < 20; ++i) f.status_LABEL(i).visible = true;
+    for (int i = 0; i < kRowsOnPage; ++i) f.status_LABEL(i).visible = true;
     f.update_TIMER.setInterval(kMinute);
     p.g.PlayedFlags.fill(kFalse);
     WriteHeader(p);

@@ -3,6 +3,7 @@
 #include "logbook/LogExchange.h"
 #include "logbook/LogListing.h"
 #include "logbook/LogTexts.h"
+#include "plan/PrintPlan.h"
 #include "platform/Files.h"
 #include "schedule/Lookups.h"
 #include "screens/Messages.h"
@@ -173,7 +174,7 @@ void exportLogBook(Program& p) {
 void printLogPage(Program& p) {
     const std::string text =
         logListing(p.g.LogEntries, p.g.LogPage, p.forms.MainForm.log_pilotName.text, p.g.numbers);
-    failed(p, p.machine.printer.print("Courier New", 10, text, {}), "PrintLogPage");
+    failed(p, p.machine.printer.print(std::string(kPrintFont), kPrintFontSize, text, {}), "PrintLogPage");
 }
 
 void previousLogPage(Program& p) {

@@ -1,3 +1,4 @@
+#include "board/Paging.h"
 #include "screens/BoardInformation.h"
 #include "screens/ExportScreens.h"
 #include "screens/LocaleFix.h"
@@ -27,7 +28,7 @@ void highlightTab(forms::MainForm& f, const Label* under) {
 }
 
 void colorRows(forms::MainForm& f) {
-    for (int i = 0; i < 20; ++i) {
+    for (int i = 0; i < kRowsOnPage; ++i) {
         for (auto* column : {&f.fltnum_LABEL, &f.city_LABEL, &f.time_LABEL, &f.status_LABEL}) {
             (*column)(i).color = i % 2 == 0 ? kWhite : kGrey;
         }

@@ -1,5 +1,6 @@
 #include "screens/MainPages.h"
 
+#include "board/Paging.h"
 #include "screens/BoardInformation.h"
 #include "screens/BoardTimers.h"
 #include "screens/Clocks.h"
@@ -40,7 +41,7 @@ constexpr const char* kHelpTexts[] = {
 };
 
 void showRows(forms::MainForm& f, bool visible) {
-    for (int i = 0; i <= 20; ++i) {
+    for (int i = 0; i <= kHeadingRow; ++i) {
         for (auto* column : {&f.fltnum_LABEL, &f.city_LABEL, &f.time_LABEL, &f.status_LABEL}) {
             (*column)(i).visible = visible;
         }
@@ -48,12 +49,13 @@ void showRows(forms::MainForm& f, bool visible) {
     f.header_LABEL.visible = visible;
 }
 
-/// The minute tick falls on the next full minute.
-void alignMinuteTick(Program& p) {
+/// The minute tick falls on the next full minute; the blinking begins at once.
+void startBoardTicks(Program& p) {
     auto& f = p.forms.MainForm;
     f.update_TIMER.enable(false);
     f.update_TIMER.setInterval(millisecondsToMinute(p));
     f.update_TIMER.enable(true);
+    f.FlashTimer.enable(true);
 }
 
 void startAmbience(Program& p) {
@@ -73,6 +75,23 @@ void startAnnouncements(forms::MainForm& f) {
     f.play2Timer.setInterval(25000);
     f.play3Timer.setInterval(40000);
     for (Timer* timer : {&f.play1Timer, &f.play2Timer, &f.play3Timer}) timer->enable(true);
+}
+
+/// The board's page with the flights of the mode in force, its rows still hidden.
+void fillBoard(Program& p) {
+    showPage(p, p.forms.MainForm.status_pic);
+    showRows(p.forms.MainForm, false);
+    p.machine.desktop.paint();
+    p.g.BoardAirlineCode = find_airline_code(p, p.g.FavoriteAirlineName);
+    bringUpBoard(p);
+}
+
+void revealBoard(Program& p) {
+    auto& f = p.forms.MainForm;
+    f.title_LABEL.text = kBoardTitle;
+    ShowHelpText(p, 1);
+    showRows(f, true);
+    startAnnouncements(f);
 }
 
 /// Leaving the board: the hall fades out and the board stands still.
@@ -122,48 +141,29 @@ void ShowLog(Program& p) {
 }
 
 void ShowBoard(Program& p) {
-    auto& f = p.forms.MainForm;
     startAmbience(p);
-    alignMinuteTick(p);
-    f.FlashTimer.enable(true);
+    startBoardTicks(p);
     p.g.BoardPage = 0;
-    showPage(p, f.status_pic);
-    showRows(f, false);
-    p.machine.desktop.paint();
-    p.g.BoardAirlineCode = find_airline_code(p, p.g.FavoriteAirlineName);
-    bringUpBoard(p);
+    fillBoard(p);
     updateTick(p);
-    f.title_LABEL.text = kBoardTitle;
-    ShowHelpText(p, 1);
-    showRows(f, true);
-    startAnnouncements(f);
+    revealBoard(p);
 }
 
 void StartBoard(Program& p) {
     auto& f = p.forms.MainForm;
     startAmbience(p);
-    alignMinuteTick(p);
-    f.FlashTimer.enable(true);
-    showPage(p, f.status_pic);
-    showRows(f, false);
-    p.machine.desktop.paint();
-    p.g.BoardAirlineCode = find_airline_code(p, p.g.FavoriteAirlineName);
-    bringUpBoard(p);
+    startBoardTicks(p);
+    fillBoard(p);
     f.update_TIMER.setInterval(50);
     f.update_TIMER.enable(true);
-    f.title_LABEL.text = kBoardTitle;
-    ShowHelpText(p, 1);
-    showRows(f, true);
-    startAnnouncements(f);
+    revealBoard(p);
 }
 
 namespace {
 
 void showBoardInNewOrder(Program& p) {
-    auto& f = p.forms.MainForm;
-    alignMinuteTick(p);
-    f.FlashTimer.enable(true);
-    showPage(p, f.status_pic);
+    startBoardTicks(p);
+    showPage(p, p.forms.MainForm.status_pic);
     p.g.BoardAirlineCode = find_airline_code(p, p.g.FavoriteAirlineName);
     RefreshBoard(p);
     ShowPage(p);
@@ -181,7 +181,7 @@ void sortBy(Program& p, Option& option) {
 
 /// The flight of a row of the page in view; -1 for a blank row.
 int rowFlight(Program& p, const Label& label) {
-    const int row = p.g.BoardPage * 20 + label.index;
+    const int row = p.g.BoardPage * kRowsOnPage + label.index;
     const auto& rows = p.g.board.BoardRows;
     if (trimmed(label.text).empty() || row < 0 || row >= static_cast<int>(rows.size())) return -1;
     const int flight = rows[static_cast<std::size_t>(row)].FlightIndex;
@@ -225,12 +225,12 @@ void bindMainPages(Program& p) {
     tab(f.statusboard_LABEL, ShowBoard);
     tab(f.log_LABEL, ShowLog);
 
-    f.city_LABEL(20).on(Event::DoubleClick, [&p] { sortBy(p, p.forms.OptionsForm.cityOption); });
-    f.fltnum_LABEL(20).on(Event::DoubleClick, [&p] { sortBy(p, p.forms.OptionsForm.fltnumOption); });
-    for (auto* head : {&f.time_LABEL(20), &f.status_LABEL(20)}) {
+    f.city_LABEL(kHeadingRow).on(Event::DoubleClick, [&p] { sortBy(p, p.forms.OptionsForm.cityOption); });
+    f.fltnum_LABEL(kHeadingRow).on(Event::DoubleClick, [&p] { sortBy(p, p.forms.OptionsForm.fltnumOption); });
+    for (auto* head : {&f.time_LABEL(kHeadingRow), &f.status_LABEL(kHeadingRow)}) {
         head->on(Event::DoubleClick, [&p] { sortBy(p, p.forms.OptionsForm.timeOption); });
     }
-    for (int i = 0; i < 20; ++i) {
+    for (int i = 0; i < kRowsOnPage; ++i) {
         for (Label* label : {&f.fltnum_LABEL(i), &f.city_LABEL(i)}) {
             label->on(Event::DoubleClick, [&p, label] { takeRow(p, *label); });
             label->on(Event::RightPress, [&p, label] {

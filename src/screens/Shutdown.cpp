@@ -16,7 +16,6 @@ void Shutdown(Program& p) {
     WriteConfig(p);
     p.forms.attachTimers(nullptr);
     for (Screen* screen : p.forms.all()) hideScreen(p, *screen);
-    p.ended = true;
 }
 
 } // namespace gatewise

@@ -25,7 +25,6 @@ public:
     [[nodiscard]] bool matches(std::int32_t airport, std::string_view text) const;
 
     /// Airports in the table, the blank one included.
-    [[nodiscard]] std::size_t airports() const { return airports_; }
 
 private:
     std::string folded_;

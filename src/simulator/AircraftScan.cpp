@@ -111,7 +111,11 @@ std::string shown(std::string value) {
 /// The bytes of a folder's aircraft.cfg in `buffer`; nothing without one. The usual spelling is tried first:
 /// looking for any other means reading the folder.
 std::optional<std::string_view> readConfig(const fs::path& folder, std::string& buffer) {
-    std::ifstream file(folder / "aircraft.cfg", std::ios::binary);
+    std::error_code error;
+    std::ifstream file;
+    // Only a plain file: a pipe would hold the scan until somebody writes into it.
+    if (fs::is_regular_file(folder / "aircraft.cfg", error))
+        file.open(folder / "aircraft.cfg", std::ios::binary);
     if (!file.is_open()) {
         const auto bytes = files::readAll(files::textOf(folder) + "\\aircraft.cfg");
         if (!bytes) return std::nullopt;

@@ -3,6 +3,7 @@
 #include "platform/Files.h"
 #include "platform/Profile.h"
 #include "platform/Text.h"
+#include "schedule/Lookups.h"
 
 #include <limits>
 #include <optional>
@@ -13,7 +14,6 @@ namespace gatewise {
 namespace {
 
 constexpr const char* kDefaultSet = "\\Data";
-constexpr const char* kAnyAirline = "- Any Airline -";
 
 /// One key: where it stands, how its text is put into its holder (false: it cannot be converted, the read
 /// ends there) and how the holder becomes text again. Read as the reader goes, written as the writer goes;

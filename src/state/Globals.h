@@ -8,6 +8,7 @@
 #include "selection/AirportFinder.h"
 #include "simulator/AircraftScan.h"
 #include "simulator/StoredPositions.h"
+#include "sound/AnnouncementScan.h"
 
 #include <array>
 #include <cstdint>
@@ -21,8 +22,11 @@ using Flag = std::int16_t;
 inline constexpr Flag kTrue = -1;
 inline constexpr Flag kFalse = 0;
 
-/// A ring of flight texts that were announced, the newest first.
-using AnnouncedRing = std::array<std::string, 10>;
+/// Values that connect calls of the navigation geometry.
+struct GeometryState {
+    float lastCourse = 0;            // degrees, found by the last Distance
+    std::int32_t offsetDistance = 0; // nautical miles that the offset functions move
+};
 
 /// The global state of the program, one instance from start-up to shutdown, grouped by who works with it.
 struct Globals {
@@ -114,7 +118,7 @@ struct Globals {
     std::int16_t AmbienceLevel = -9000; // where the fade stands
     std::string FadeDirection = "in";   // "in" or "out"
     std::array<Flag, 6> PlayedFlags{};  // kinds 1 to 6
-    std::array<AnnouncedRing, 3> AnnouncedDepartures, AnnouncedArrivals;
+    std::array<AnnouncementRing, 3> AnnouncedDepartures, AnnouncedArrivals;
 };
 
 } // namespace gatewise

@@ -25,8 +25,6 @@ struct Program {
 
     /// Set by Shutdown. The run loop ends, modal waits return at once and the work behind them stops.
     bool ending = false;
-    /// Set when the process may end: everything has been written.
-    bool ended = false;
 
     /// AppDir + tail
     [[nodiscard]] std::string appPath(std::string_view tail) const { return g.AppDir + std::string(tail); }

@@ -61,10 +61,10 @@ bool printAll(QPrinter& printer, const QFont& font, const QString& text,
     return painter.end();
 }
 
-/// First name "Plan 1", "Plan 2" ... for which the folder holds no file.
+/// First name "Printout 1", "Printout 2" ... for which the folder holds no file.
 std::string freeName(const std::string& folder) {
     for (int i = 1;; ++i) {
-        const std::string name = folder + "\\Plan " + std::to_string(i);
+        const std::string name = folder + "\\Printout " + std::to_string(i);
         if (!files::fileExists(name + ".pdf") && !files::fileExists(name + ".txt")) return name;
     }
 }
@@ -77,7 +77,7 @@ std::error_code QtPrinter::print(const std::string& font, int size, const std::s
     const QPrinterInfo info = QPrinterInfo::defaultPrinter();
     if (!info.isNull()) {
         QPrinter printer(info, QPrinter::HighResolution);
-        printer.setDocName("Flight plan");
+        printer.setDocName("Gatewise Terminal");
         if (printAll(printer, face, toQt(text), drawings)) return {};
     }
     const std::string folder = folder_ + "\\Printouts";
@@ -92,7 +92,8 @@ std::error_code QtPrinter::print(const std::string& font, int size, const std::s
     pages.setOutputFileName(nativePath(name + ".pdf"));
     const bool drawn = printAll(pages, face, toQt(text), drawings);
     const std::string shown = drawn ? name + ".pdf" : name + ".txt";
-    desktop_.notify("There is no printer. The plan has been printed to " + fromQt(nativePath(shown)));
+    desktop_.notify((info.isNull() ? "There is no printer" : "The printer took nothing") +
+                    std::string(". The pages lie in ") + fromQt(nativePath(shown)));
     return {};
 }
 

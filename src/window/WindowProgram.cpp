@@ -47,10 +47,11 @@ WindowProgram::~WindowProgram() {
     ownTimers_.attach(nullptr);
 }
 
-void WindowProgram::run() {
+void WindowProgram::run(const std::string& note) {
     startUp(program);
     desk.sync();
-    while (!program.ending && !program.ended) {
+    if (!note.empty()) desktop.notify(note);
+    while (!program.ending) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     }
     desk.sync();

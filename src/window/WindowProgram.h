@@ -31,8 +31,8 @@ public:
     WindowProgram(const Services& services, const std::string& appDir);
     ~WindowProgram();
 
-    /// Start-up, then events until the program has ended.
-    void run();
+    /// Start-up, then events until the program has ended. A `note` is shown when the main screen is up.
+    void run(const std::string& note = {});
 
     QtDesktop desktop;
 

@@ -296,7 +296,7 @@ TEST_F(Hall, AnEchoThatThePilotLeavesInItsWaitsEndsInPeace) {
     board.FlashTimer.setInterval(3);
     t.machine.random.setDraws({0.5, 0, 0, 0, 0});
     tick(board.play1Timer);
-    EXPECT_TRUE(t.p.ended);
+    EXPECT_TRUE(t.p.ending);
     EXPECT_EQ(sounds.lines.back(), "Terminate_Engine");
     EXPECT_EQ(t.sound.buffers(), 0U);
 }

@@ -73,7 +73,7 @@ TEST(SettingsStore, EveryKeyIsWrittenAndReadAgain) {
     EXPECT_EQ(t.p.forms.SettingsForm.lastTEXT.text, "O'Neil \"x\" = ; [Main]");
     EXPECT_TRUE(t.p.forms.MainForm.status_pic.visible);
     user::click(t.p.forms.MainForm.FlatButton(4));
-    EXPECT_TRUE(t.p.ended);
+    EXPECT_TRUE(t.p.ending);
     EXPECT_EQ(folder.read("/GT.cfg"), written);
 }
 

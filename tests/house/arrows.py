@@ -19,8 +19,8 @@ ROOMS = {
     "selection": {"plan", "schedule", "platform"},
     "export": {"plan", "schedule", "platform"},
     "simulator": {"plan", "schedule", "platform"},
-    "logbook": {"schedule", "platform"},
-    "sound": {"schedule", "platform"},
+    "logbook": {"platform"},
+    "sound": {"platform"},
     "sound_openal": {"sound", "platform"},
 }
 JOBS = {"board", "plan", "selection", "export", "simulator", "logbook", "sound", "schedule", "platform"}

@@ -82,19 +82,6 @@ TEST(SystemRandom, DrawsLieInTheUnitInterval) {
     EXPECT_TRUE(differs);
 }
 
-TEST_F(Services, PrintsIntoFilesThatNeverReplaceEachOther) {
-    const simulated::SimulatedClock clock;
-    std::vector<std::string> told;
-    const auto printer = filePrinter((folder / "Printouts").string(), clock,
-                                     [&](const std::string& text) { told.push_back(text); });
-    EXPECT_FALSE(printer->print("Courier New", 10, "one", {}));
-    EXPECT_FALSE(printer->print("Courier New", 10, "two", {}));
-    EXPECT_EQ(read(folder / "Printouts" / "Printout 2002-06-15 083000.txt"), "one");
-    EXPECT_EQ(read(folder / "Printouts" / "Printout 2002-06-15 083000 2.txt"), "two");
-    ASSERT_EQ(told.size(), 2U);
-    EXPECT_NE(told[1].find("Printout 2002-06-15 083000 2.txt"), std::string::npos);
-}
-
 TEST_F(Services, AProgramStartsInItsFolderWithItsArguments) {
     write(folder / "Helper", "#!/bin/sh\npwd > where.tmp\necho \"$1 $2\" >> where.tmp\nmv where.tmp where\n");
     fs::permissions(folder / "Helper", fs::perms::owner_all);
@@ -184,10 +171,12 @@ TEST_F(Services, TheFirstStartFillsTheUsersFolder) {
     const fs::path program = folder / "program";
     write(program / "Data" / "index.gt1", "bytes");
     fs::permissions(program / "Data" / "index.gt1", fs::perms::owner_read);
+    fs::permissions(program / "Data", fs::perms::owner_read | fs::perms::owner_exec);
     fs::permissions(program, fs::perms::owner_read | fs::perms::owner_exec);
     std::error_code error;
     const std::string dir = chooseAppDir(program, folder / "user", error);
     fs::permissions(program, fs::perms::owner_all);
+    fs::permissions(program / "Data", fs::perms::owner_all);
     EXPECT_EQ(dir, (folder / "user" / "Gatewise Terminal").string());
     EXPECT_EQ(read(fs::path(dir) / "Data" / "index.gt1"), "bytes");
     write(fs::path(dir) / "Data" / "index.gt1", "changed");

@@ -5,11 +5,18 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace gatewise {
 namespace {
 
 using test::TempFolder;
+
+struct Byte {
+    std::uint8_t value = 0;
+    static constexpr void fields(auto& r, auto&& f) { f("value", r.value); }
+};
 
 TEST(Paths, BothSlashesAndAnyCaseFindAFile) {
     const TempFolder folder;
@@ -84,12 +91,35 @@ TEST(Remove, ToleratesAMissingFile) {
     EXPECT_FALSE(files::remove(folder.path("\\a.TXT")));
 }
 
-TEST(Copy, CopiesOrSaysWhyNot) {
+TEST(ReadAll, APipeIsNoFileToWaitFor) {
     const TempFolder folder;
-    folder.write("/a", "content");
-    EXPECT_FALSE(files::copy(folder.path("/a"), folder.path("/b")));
-    EXPECT_EQ(folder.read("/b"), "content");
-    EXPECT_EQ(files::copy(folder.path("/none"), folder.path("/c")), std::errc::no_such_file_or_directory);
+    const std::string pipe = folder.path("/GT.cfg");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    std::error_code error;
+    EXPECT_FALSE(files::readAll(pipe, &error));
+    EXPECT_EQ(error, std::errc::not_supported);
+}
+
+TEST(ReadAll, AFileOfAbsurdLengthIsNotTakenIn) {
+    const TempFolder folder;
+    folder.write("/LogBook.gt1", "x");
+    ASSERT_EQ(::truncate(folder.path("/LogBook.gt1").c_str(), files::kLongestFile + 1), 0);
+    std::error_code error;
+    EXPECT_FALSE(files::readAll(folder.path("/LogBook.gt1"), &error));
+    EXPECT_EQ(error, std::errc::file_too_large);
+    const files::RecordFile records(folder.path("/LogBook.gt1"));
+    EXPECT_FALSE(records.records<Byte>(0, files::kLongestFile + 1));
+}
+
+TEST(Replace, DoesNotFollowALinkThatStandsInTheWay) {
+    const TempFolder folder;
+    folder.write("/GT.cfg", "old");
+    folder.write("/victim", "untouched");
+    std::filesystem::create_symlink(folder.path("/victim"), folder.path("/GT.cfg.new~"));
+    EXPECT_FALSE(files::replace(folder.path("/GT.cfg"), "new"));
+    EXPECT_EQ(folder.read("/GT.cfg"), "new");
+    EXPECT_EQ(folder.read("/victim"), "untouched");
+    EXPECT_FALSE(std::filesystem::is_symlink(folder.path("/GT.cfg")));
 }
 
 TEST(List, OfAMissingFolderIsEmpty) {

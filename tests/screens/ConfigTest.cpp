@@ -239,7 +239,7 @@ TEST_F(Config, AReadOnlyFileStaysWholeAndTheProgramGoesOn) {
     EXPECT_EQ(settings.altCHECK.value, 0);
     EXPECT_EQ(folder.read("/GT.cfg"), before);
     Shutdown(p);
-    EXPECT_TRUE(p.ended);
+    EXPECT_TRUE(p.ending);
     EXPECT_EQ(folder.read("/GT.cfg"), before);
     std::filesystem::permissions(folder.path("/GT.cfg"), std::filesystem::perms::owner_all);
 }
@@ -263,7 +263,7 @@ TEST_F(Config, AFolderInThePlaceOfTheFileIsNoFile) {
     terminal.start();
     EXPECT_TRUE(p.forms.MainForm.visible);
     Shutdown(p);
-    EXPECT_TRUE(p.ended);
+    EXPECT_TRUE(p.ending);
     EXPECT_TRUE(std::filesystem::is_directory(folder.path("/GT.cfg/inside")));
 }
 

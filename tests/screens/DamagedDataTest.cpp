@@ -164,7 +164,7 @@ TEST_P(Damaged, TheProgramGoesOn) {
         user::click(*button);
     t.machine.loop.advance(130000);
     Shutdown(t.p);
-    EXPECT_TRUE(t.p.ended);
+    EXPECT_TRUE(t.p.ending);
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, Damaged, testing::ValuesIn(kDamages),

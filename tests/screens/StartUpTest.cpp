@@ -153,7 +153,7 @@ TEST_F(StartUp, ShutdownClosesTheSoundThenWritesTheSettingsThenTheScreens) {
     EXPECT_TRUE(program.g.DepartureFlights.empty());
     EXPECT_TRUE(program.g.BoardFlights.empty());
     for (const Screen* screen : program.forms.all()) EXPECT_FALSE(screen->visible) << screen->name;
-    EXPECT_TRUE(program.ended);
+    EXPECT_TRUE(program.ending);
     // Once is enough.
     program.g.HomeIndex = 1;
     Shutdown(program);

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Builds what the program shows: its pictures, typefaces, layout and help pages.
+"""Builds what the program shows: its pictures, typefaces and help pages.
 
   skin.py --program FOLDER [--record FILE] [--jobs N]   bring the program folder up to date, drawing only what changed
   skin.py --check FOLDER                                fail unless the folder has every picture of required.txt
@@ -167,7 +167,7 @@ def find_faults(folder):
 
 
 def copy_pages(folder):
-    """Brings layout and help pages up to date; a page that is no longer ours goes away."""
+    """Brings the help pages up to date; one that is no longer ours goes away."""
     target = os.path.join(folder, 'help')
     pages = {name: help_pages.page(name) for name, _, _ in help_pages.PAGES}
     pages['style.css'] = help_pages.read('style.css')
@@ -176,8 +176,6 @@ def copy_pages(folder):
         os.remove(os.path.join(target, name))
     for name, text in pages.items():
         write_changed(text, os.path.join(target, name))
-    with open(os.path.join(templates.ASSETS, 'layout.json'), encoding='utf-8') as layout:
-        write_changed(layout.read(), os.path.join(folder, 'layout.json'))
 
 
 def write_changed(text, target):

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "drive/SimulatedTimers.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "sound/SilentDevice.h"
 #include "window/WindowProgram.h"
@@ -17,20 +18,9 @@ namespace gatewise::stage {
 /// made.
 void useRoomyDesk(const std::string& scratch);
 
-/// A program folder of its own below a scratch folder: pictures, data and sounds of `program` by links,
-/// settings as delivered, and an empty simulator beside it. Returns the folder's path.
+/// A program folder of its own below a scratch folder: pictures and sounds of `program` by links, a copy
+/// of its data, settings as delivered, and an empty simulator beside it. Returns the folder's path.
 std::string makeProgramFolder(const std::string& program, const std::string& scratch);
-
-/// Timers and waits on the simulated clock.
-class StageTimers : public TimerHost {
-public:
-    explicit StageTimers(simulated::SimulatedLoop& loop) : loop_(loop) {}
-    void arm(Timer& timer) override { loop_.arm(&timer, timer.interval()); }
-    void disarm(Timer& timer) override { loop_.disarm(&timer); }
-
-private:
-    simulated::SimulatedLoop& loop_;
-};
 
 /// Waits take simulated time; a modal screen waits for real events.
 class StageLoop : public window::QtLoop {
@@ -102,7 +92,7 @@ public:
     simulated::SimulatedMachine machine{sound_};
 
 private:
-    StageTimers timers_{machine.loop};
+    drive::SimulatedTimers timers_{machine.loop};
     StageLoop loop_{machine.loop};
     std::deque<Step> steps_;
     std::vector<int> running_; // steps that have not ended, each with the modal waits around its start

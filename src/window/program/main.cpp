@@ -35,9 +35,6 @@ int main(int count, char** arguments) {
     if (error) std::cerr << "gatewise: " << error.message() << '\n';
 
     window::WindowProgram* window = nullptr;
-    const auto notify = [&window](const std::string& text) {
-        if (window != nullptr) window->desktop.notify(text);
-    };
     const auto clock = native::systemClock();
     const auto locale = native::userLocale();
     const auto registry = native::systemRegistry();
@@ -50,7 +47,6 @@ int main(int count, char** arguments) {
     const auto sound = soundDevice();
     window::WindowProgram program({*clock, *locale, *registry, *processes, *random, *sound}, appDir);
     window = &program;
-    if (error) notify("The program's folder for settings could not be made: " + error.message());
-    program.run();
+    program.run(error ? "The program's folder for settings could not be made: " + error.message() : "");
     window = nullptr;
 }
