@@ -159,6 +159,8 @@ public:
         north_ = {centre[1] * east_[2] - centre[2] * east_[1], centre[2] * east_[0] - centre[0] * east_[2],
                   centre[0] * east_[1] - centre[1] * east_[0]};
     }
+    [[nodiscard]] double latitude() const { return std::asin(std::clamp(centre_[2], -1.0, 1.0)) / kDegree; }
+    [[nodiscard]] double longitude() const { return std::atan2(centre_[1], centre_[0]) / kDegree; }
     [[nodiscard]] DrawingPoint place(const Vector& v) const {
         const double arc = std::acos(std::clamp(dot(v, centre_), -1.0, 1.0));
         const double x = dot(v, east_);
@@ -185,6 +187,10 @@ struct Window {
     [[nodiscard]] bool holds(const DrawingPoint& p) const {
         return std::fabs(p.x - x) <= half * 2.5 && std::fabs(p.y - y) <= half;
     }
+    /// Degrees of arc from the projection's centre beyond which nothing is held.
+    [[nodiscard]] double reach() const {
+        return std::hypot(std::fabs(x) + half * 2.5, std::fabs(y) + half) + 1e-6;
+    }
 };
 
 Window windowAround(const std::vector<DrawingPoint>& points) {
@@ -196,15 +202,37 @@ Window windowAround(const std::vector<DrawingPoint>& points) {
     return {(left + right) / 2, (top + bottom) / 2, std::max({right - left, bottom - top, 0.2}) * 0.6};
 }
 
+/// The part of the globe that the window can hold, so that a short route does not project the whole of it.
+class Neighbourhood {
+public:
+    Neighbourhood(const Projection& projection, double reach)
+        : latitude_(projection.latitude()), longitude_(projection.longitude()), reach_(reach),
+          // Where a pole is in reach, every longitude is.
+          span_(reach + std::fabs(latitude_) < 89
+                    ? std::asin(std::sin(reach * kDegree) / std::cos(latitude_ * kDegree)) / kDegree + 1e-6
+                    : 180) {}
+    [[nodiscard]] bool hasLatitude(double lat) const { return std::fabs(lat - latitude_) <= reach_; }
+    [[nodiscard]] bool hasLongitude(double lon) const {
+        return std::fabs(std::remainder(lon - longitude_, 360)) <= span_;
+    }
+
+private:
+    double latitude_, longitude_, reach_, span_;
+};
+
 /// One line of the grid, in the pieces that lie inside the window.
-template<class At>
-void addGridLine(Drawing& out, const Window& window, double from, double to, double step, At at) {
+template<class Near, class At>
+void addGridLine(Drawing& out, const Window& window, double from, double to, double step, Near near, At at) {
     DrawingLine piece;
     const auto finish = [&] {
         if (piece.points.size() > 1) out.lines.push_back(piece);
         piece.points.clear();
     };
     for (double t = from; t <= to + step / 2; t += step) {
+        if (!near(t)) {
+            finish();
+            continue;
+        }
         const DrawingPoint p = at(t);
         if (window.holds(p))
             piece.points.push_back(window.place(p));
@@ -217,13 +245,18 @@ void addGridLine(Drawing& out, const Window& window, double from, double to, dou
 void addGrid(Drawing& out, const Projection& projection, const Window& window) {
     const double step = window.half > 40 ? 20 : window.half > 15 ? 10 : window.half > 6 ? 5 : 1;
     const double fine = step / 10;
+    const Neighbourhood near(projection, window.reach());
     for (double lat = -80; lat <= 80; lat += step) {
-        addGridLine(out, window, -180, 180, fine,
-                    [&](double lon) { return projection.place(vectorOf(lat, lon)); });
+        if (!near.hasLatitude(lat)) continue;
+        addGridLine(
+            out, window, -180, 180, fine, [&](double lon) { return near.hasLongitude(lon); },
+            [&](double lon) { return projection.place(vectorOf(lat, lon)); });
     }
     for (double lon = -180; lon < 180; lon += step) {
-        addGridLine(out, window, -80, 80, fine,
-                    [&](double lat) { return projection.place(vectorOf(lat, lon)); });
+        if (!near.hasLongitude(lon)) continue;
+        addGridLine(
+            out, window, -80, 80, fine, [&](double lat) { return near.hasLatitude(lat); },
+            [&](double lat) { return projection.place(vectorOf(lat, lon)); });
     }
 }
 

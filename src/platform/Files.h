@@ -39,13 +39,13 @@ std::optional<Bytes> readAll(std::string_view path, std::error_code* error = nul
 
 /// Replaces the file in one step: written beside it, flushed, renamed; through a symbolic link its target is
 /// replaced. On an error the old file is whole. Permissions of an old file are kept.
-std::error_code replace(std::string_view path, ByteView bytes);
-inline std::error_code replace(std::string_view path, std::string_view text) {
+[[nodiscard]] std::error_code replace(std::string_view path, ByteView bytes);
+[[nodiscard]] inline std::error_code replace(std::string_view path, std::string_view text) {
     return replace(path, viewOf(text));
 }
 
 /// No error when there is no such file.
-std::error_code remove(std::string_view path);
+[[nodiscard]] std::error_code remove(std::string_view path);
 
 struct Entry {
     std::string name; // text of the program

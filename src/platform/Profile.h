@@ -44,8 +44,8 @@ std::string ReadText(std::string_view section, std::string_view key, std::string
 int ReadNumber(std::string_view section, std::string_view key, std::string_view file);
 
 /// Writes one key; the file is created when it is missing and replaced in one step.
-std::error_code WriteValue(std::string_view section, std::string_view key, std::string_view value,
-                           std::string_view file);
+[[nodiscard]] std::error_code WriteValue(std::string_view section, std::string_view key,
+                                         std::string_view value, std::string_view file);
 
 /// A key and its value on the way to a file.
 struct ProfileValue {
@@ -56,7 +56,7 @@ struct ProfileValue {
 
 /// Writes keys in their order with a single replacement of the file; the result is that of one WriteValue
 /// after the other.
-std::error_code WriteValues(const std::vector<ProfileValue>& values, std::string_view file);
+[[nodiscard]] std::error_code WriteValues(const std::vector<ProfileValue>& values, std::string_view file);
 
 /// The same reads on a profile that is in memory already.
 std::string textIn(const Profile& profile, std::string_view section, std::string_view key);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
+#include <unordered_set>
 #include <utility>
 
 namespace gatewise {
@@ -115,9 +117,9 @@ bool get_day(int mask, int day) {
 
 std::vector<FixedText<3>> distinctAirlines(const std::vector<FlightRecord>& flights) {
     std::vector<FixedText<3>> codes;
+    std::unordered_set<std::string_view> seen; // views into `flights`
     for (const auto& flight : flights) {
-        if (std::find(codes.begin(), codes.end(), flight.AirlineCode) == codes.end())
-            codes.push_back(flight.AirlineCode);
+        if (seen.insert(flight.AirlineCode.view()).second) codes.push_back(flight.AirlineCode);
     }
     return codes;
 }

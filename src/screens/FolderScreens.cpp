@@ -126,9 +126,13 @@ void fillDrives(PathList& drives) {
 
 void refreshFiles(PathList& list) {
     list.clear();
+    std::vector<std::string> names;
     for (const auto& entry : files::list(list.path)) {
-        if (!entry.folder && matches(entry.name, list.pattern)) list.add(entry.name);
+        if (!entry.folder && matches(entry.name, list.pattern)) names.push_back(entry.name);
     }
+    // In order, so that each is added at the end of the sorted list and thousands of plans move none.
+    std::stable_sort(names.begin(), names.end(), lessFolded);
+    for (auto& name : names) list.add(std::move(name));
 }
 
 void moveFolderLists(FolderLists lists, const std::string& folder) {

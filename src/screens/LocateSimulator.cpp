@@ -30,7 +30,8 @@ void LocateSimulator(Program& p) {
     }
 
     if (!p.g.FsPath.empty() && foundAs(p.g.FsPath + "\\fs2002.cfg", "fs2002.cfg")) {
-        WriteValues({{"MAIN", "PathVerified", "1"}, {"MAIN", "FSPath", p.g.FsPath}}, config);
+        // Not kept: the next start looks again.
+        (void)WriteValues({{"MAIN", "PathVerified", "1"}, {"MAIN", "FSPath", p.g.FsPath}}, config);
         p.forms.SettingsForm.fspathLABEL.text = p.g.FsPath;
     } else if (!silent) {
         ShowMessage(p, kWarning, 11);

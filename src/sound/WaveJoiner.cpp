@@ -79,7 +79,7 @@ bool joinWaves(std::span<const std::string> pieces, const std::string& target) {
         wave.insert(wave.end(), recording.begin() + kHeaderSize, recording.end());
     }
     if (write(target, wave)) return true;
-    files::remove(target);
+    (void)files::remove(target); // what could not be written need not be there
     return false;
 }
 

@@ -68,14 +68,14 @@ TEST_F(LogBook, RecordStandsByteForByteAsTheTableSays) {
 
 TEST_F(LogBook, MissingAndEmptyFilesHoldNoEntry) {
     EXPECT_TRUE(readLogBook(path()).empty());
-    files::replace(path(), "");
+    ASSERT_FALSE(files::replace(path(), ""));
     EXPECT_TRUE(readLogBook(path()).empty());
 }
 
 TEST_F(LogBook, BrokenLastRecordDoesNotCount) {
     Bytes bytes = bytesOf({entry(1), entry(2)});
     bytes.resize(bytes.size() + 346);
-    files::replace(path(), bytes);
+    ASSERT_FALSE(files::replace(path(), bytes));
     EXPECT_EQ(readLogBook(path()).size(), 2U);
 }
 
@@ -92,7 +92,7 @@ TEST_F(LogBook, AddingAppendsOneRecord) {
 TEST_F(LogBook, SavingReplacesInPlaceAndKeepsWhatLiesBehind) {
     Bytes bytes = bytesOf({entry(1), entry(2), entry(3)});
     bytes.push_back('x');
-    files::replace(path(), bytes);
+    ASSERT_FALSE(files::replace(path(), bytes));
     EXPECT_FALSE(store.put(path(), 1, entry(9), kToday));
     Bytes expected = bytesOf({entry(1), entry(9), entry(3)});
     expected.push_back('x');
@@ -108,7 +108,7 @@ TEST_F(LogBook, DeletingTheOnlyEntryLeavesAnEmptyFile) {
 
 TEST_F(LogBook, FirstChangeOfADayKeepsTheOldFile) {
     const Bytes old = bytesOf({entry(1)});
-    files::replace(path(), old);
+    ASSERT_FALSE(files::replace(path(), old));
     store.put(path(), 1, entry(2), kToday);
     EXPECT_EQ(read(backup()), old);
     store.put(path(), 2, entry(3), kToday);
@@ -119,7 +119,7 @@ TEST_F(LogBook, FirstChangeOfADayKeepsTheOldFile) {
 
 TEST_F(LogBook, ALaterRunOfTheDayKeepsTheMorningsCopy) {
     const Bytes old = bytesOf({entry(1)});
-    files::replace(path(), old);
+    ASSERT_FALSE(files::replace(path(), old));
     store.put(path(), 1, entry(2), kToday);
     LogStore later;
     later.remember(2 * 347);
@@ -132,17 +132,17 @@ TEST_F(LogBook, ALaterRunOfTheDayKeepsTheMorningsCopy) {
 }
 
 TEST_F(LogBook, WhatAShorterFileHasLostComesBackFromMemory) {
-    files::replace(path(), bytesOf({entry(1)}));
+    ASSERT_FALSE(files::replace(path(), bytesOf({entry(1)})));
     const std::vector<LogRecord> memory{entry(1), entry(2), entry(3), entry(4)};
     EXPECT_FALSE(store.put(path(), 3, entry(9), kToday, memory));
     EXPECT_EQ(read(path()), bytesOf({entry(1), entry(2), entry(3), entry(9)}));
 }
 
 TEST_F(LogBook, FileThatIsNoWholeNumberOfRecordsIsKeptBeforeEveryChange) {
-    files::replace(path(), bytesOf({entry(1)}));
+    ASSERT_FALSE(files::replace(path(), bytesOf({entry(1)})));
     store.put(path(), 0, entry(1), kToday);
     const Bytes broken(400, 'b');
-    files::replace(path(), broken);
+    ASSERT_FALSE(files::replace(path(), broken));
     store.put(path(), 1, entry(2), kToday);
     EXPECT_EQ(read(backup()), broken);
 }
@@ -151,7 +151,7 @@ TEST_F(LogBook, FileThatHasShrunkIsKeptBeforeTheChange) {
     store.put(path(), 0, entry(1), kToday);
     store.put(path(), 1, entry(2), kToday);
     const Bytes shrunk = bytesOf({entry(7)});
-    files::replace(path(), shrunk);
+    ASSERT_FALSE(files::replace(path(), shrunk));
     store.put(path(), 2, entry(3), kToday);
     EXPECT_EQ(read(backup()), shrunk);
 }
@@ -160,7 +160,7 @@ TEST_F(LogBook, FileThatAnotherHasAddedToIsKeptBeforeTheChange) {
     store.put(path(), 0, entry(1), kToday);
     store.put(path(), 1, entry(2), kToday);
     const Bytes grown = bytesOf({entry(1), entry(2), entry(7)});
-    files::replace(path(), grown);
+    ASSERT_FALSE(files::replace(path(), grown));
     store.put(path(), 2, entry(3), kToday);
     EXPECT_EQ(read(backup()), grown);
 }
@@ -169,7 +169,7 @@ TEST_F(LogBook, FileLongerThanALogBookIsKeptBeforeEveryChange) {
     store.put(path(), 0, entry(1), kToday);
     store.put(path(), 1, entry(2), kToday);
     const Bytes overfull(347U * 10001U, ' ');
-    files::replace(path(), overfull);
+    ASSERT_FALSE(files::replace(path(), overfull));
     store.rewrite(path(), logEntriesOf(overfull), kToday);
     EXPECT_EQ(read(backup()), overfull);
 }

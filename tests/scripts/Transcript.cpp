@@ -102,7 +102,7 @@ void applySetting(const Setting& setting, const fs::path& folder) {
     if (word == "config") {
         std::string key;
         words >> key;
-        WriteValue(target, key, restOf(words), (folder / "GT.cfg").string());
+        (void)WriteValue(target, key, restOf(words), (folder / "GT.cfg").string());
     } else if (word == "file") {
         fs::create_directories(path.parent_path());
         std::ofstream(path, std::ios::app | std::ios::binary) << restOf(words) << "\r\n";

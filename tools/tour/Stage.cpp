@@ -41,7 +41,7 @@ std::string makeProgramFolder(const std::string& program, const std::string& scr
     Profile settings(std::string_view(reinterpret_cast<const char*>(delivered.data()), delivered.size()));
     settings.set("Main", "First", "Amelia");
     settings.set("Main", "Last", "Hart");
-    files::replace(config, settings.content());
+    if (const auto error = files::replace(config, settings.content())) throw std::system_error(error);
     std::ofstream(simulator / "fs2002.cfg") << "[USERINTERFACE]\r\n";
     std::ofstream(simulator / "FS2002.exe") << "";
     fs::create_directories(simulator / "Aircraft" / "b737_800" / "panel");

@@ -47,7 +47,7 @@ TEST_F(Hub, FmcWritesTheTickedPlansThatStillExist) {
     showScreen(p, f);
     user::click(f.kf747CHECK);
     user::click(f.abCHECK);
-    files::remove(fs.path("/Corporate Pilot/Fmc/FMSplans.fmc"));
+    ASSERT_FALSE(files::remove(fs.path("/Corporate Pilot/Fmc/FMSplans.fmc")));
     choose("fmc");
     EXPECT_TRUE(fs.read("/Kestrelfold Software/Fmc/FMSplans.fmc").starts_with("KSEA*KLAX\t 12 \t"));
     EXPECT_TRUE(fs.read("/Kestrelfold Software/Fmc/FMSplans.fmc").ends_with(kPlans));
