@@ -7,12 +7,20 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace gatewise::window {
 
 namespace {
 
 constexpr int kNoteTime = 15000; // milliseconds
 constexpr int kMostRounds = 8;   // of one sync, for changes that bring about further changes
+
+/// A screen without controls, up for a moment of work. It may be gone before the window manager has given it
+/// the keyboard, which would then lie with a hidden window: it never takes it.
+bool isNotice(const Forms& forms, const Screen& screen) {
+    return &screen == &forms.WaitForm || &screen == &forms.SplashForm;
+}
 
 } // namespace
 
@@ -75,15 +83,19 @@ void Desk::syncOnce() {
         if (!window.isVisible()) showWindow(window);
     }
     if (!hidden) return;
-    if (ScreenWindow* now = front()) now->activateWindow();
+    const auto now = std::find_if(forms_.front.begin(), forms_.front.end(),
+                                  [this](const Screen* screen) { return !isNotice(forms_, *screen); });
+    if (now != forms_.front.end()) window(**now).activateWindow();
 }
 
 void Desk::showWindow(ScreenWindow& window) {
     Screen& screen = window.screen();
     const bool main = &screen == &forms_.MainForm;
     const bool splash = &screen == &forms_.SplashForm;
+    const bool notice = isNotice(forms_, screen);
     Qt::WindowFlags flags = Qt::FramelessWindowHint;
     flags |= main ? Qt::Window | Qt::WindowMinimizeButtonHint : splash ? Qt::SplashScreen : Qt::Dialog;
+    if (notice) flags |= Qt::WindowDoesNotAcceptFocus;
     // A screen that comes up over a modal one belongs to it, else the modal one would block it.
     QWidget* owner = nullptr;
     if (!main && !splash) {
@@ -97,10 +109,12 @@ void Desk::showWindow(ScreenWindow& window) {
     }
     if (window.parentWidget() != owner || window.windowFlags() != flags) window.setParent(owner, flags);
     window.setWindowModality(screen.modal ? Qt::ApplicationModal : Qt::NonModal);
+    window.setAttribute(Qt::WA_ShowWithoutActivating, notice);
     window.putOut();
     window.place();
     window.show();
     window.raise();
+    if (notice) return;
     window.activateWindow();
     window.focusFirst();
 }

@@ -162,7 +162,7 @@ ComboView::ComboView(Actor& actor, Control* control, const ControlLayout& place,
     setMinimumContentsLength(1);
     view()->setTextElideMode(Qt::ElideRight);
     view()->setStyleSheet(QString("QListView{background:%1;color:%2;border:1px solid %3;outline:0}"
-                                  "QListView::item{height:20px;padding-left:5px}"
+                                  "QListView::item{height:20px;padding-left:5px;border:0}"
                                   "QListView::item:selected{background:%4;color:%5}")
                               .arg(skin.style("combo.popupBack").name(), skin.style("combo.text").name(),
                                    skin.style("combo.border").name(), skin.style("combo.popupSelect").name(),

@@ -201,6 +201,16 @@ void RowsTable::mouseMoveEvent(QMouseEvent* event) {
     if (control_.handles(Event::Move)) actor_.act([&] { user::move(control_, at.x(), at.y()); });
 }
 
+/// The focus alone picks nothing; the tree would quietly make its first row the current one.
+void RowsTable::focusInEvent(QFocusEvent* event) {
+    const bool none = !currentIndex().isValid();
+    const bool before = syncing;
+    syncing = true;
+    QTreeView::focusInEvent(event);
+    if (none) selectionModel()->clear();
+    syncing = before;
+}
+
 void RowsTable::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         if (currentIndex().isValid()) open();

@@ -193,6 +193,38 @@ TEST_F(Controls, ListsShowTheFormsRowsAndPick) {
     play();
 }
 
+TEST_F(Controls, TheFocusAlonePicksNothingInAList) {
+    open(forms().DirForm);
+    auto& list = forms().DirForm.File1;
+    stage().desk().act([&] {
+        list.clear();
+        for (const char* name : {"first.pln", "second.pln"}) list.add(name);
+    });
+    auto* table = stage().widget(list).findChild<QAbstractItemView*>();
+    ASSERT_NE(table, nullptr);
+    ASSERT_GT(list.count(), 1);
+    ASSERT_EQ(list.picked, -1);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(table->window()));
+    table->clearFocus();
+    table->setFocus(Qt::TabFocusReason);
+    ASSERT_TRUE(table->hasFocus());
+    EXPECT_EQ(list.picked, -1);
+    EXPECT_FALSE(table->currentIndex().isValid());
+    QTest::keyClick(table, Qt::Key_Down);
+    EXPECT_EQ(list.picked, 0);
+    EXPECT_TRUE(table->selectionModel()->isRowSelected(0));
+}
+
+TEST_F(Controls, AStandbyNoticeNeverTakesTheKeyboard) {
+    auto& program = stage().window.program;
+    stage().desk().act([&] { showScreen(program, program.forms.WaitForm); });
+    auto* notice = stage().widget(forms().WaitForm.BG).window();
+    EXPECT_TRUE(notice->windowFlags() & Qt::WindowDoesNotAcceptFocus);
+    EXPECT_NE(QApplication::activeWindow(), notice);
+    stage().desk().act([&] { hideScreen(program, program.forms.WaitForm); });
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&stage().desk().mainWindow()));
+}
+
 TEST_F(Controls, ANoteWaitsForNobodyAndGoesByAClick) {
     then([&] {
         stage().window.desktop.notify("There is no printer.");
