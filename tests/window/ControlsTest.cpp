@@ -225,6 +225,14 @@ TEST_F(Controls, AStandbyNoticeNeverTakesTheKeyboard) {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&stage().desk().mainWindow()));
 }
 
+TEST_F(Controls, AMainWindowThatTakesNoInputCannotBeClosed) {
+    auto& program = stage().window.program;
+    stage().desk().act([&] { main().enabled = false; });
+    stage().desk().mainWindow().close();
+    EXPECT_FALSE(program.ending);
+    stage().desk().act([&] { main().enabled = true; });
+}
+
 TEST_F(Controls, ANoteWaitsForNobodyAndGoesByAClick) {
     then([&] {
         stage().window.desktop.notify("There is no printer.");
