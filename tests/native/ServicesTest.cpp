@@ -1,15 +1,16 @@
 #include "platform/AppFolder.h"
 #include "platform/Files.h"
 #include "platform/Native.h"
+#include "platform/posix/ProcessTable.h"
 #include "platform/simulated/SimulatedClock.h"
+#include "support/Soon.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
-#include <thread>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace gatewise::native {
@@ -30,14 +31,6 @@ struct Services : ::testing::Test {
         std::ostringstream out;
         out << std::ifstream(file, std::ios::binary).rdbuf();
         return out.str();
-    }
-    /// Waits for what another process does.
-    static bool soon(const std::function<bool()>& done) {
-        for (int i = 0; i < 200; ++i) {
-            if (done()) return true;
-            std::this_thread::sleep_for(std::chrono::milliseconds(25));
-        }
-        return false;
     }
 
     fs::path folder =
@@ -124,17 +117,51 @@ TEST_F(Services, WineGetsTheProgramAndThePrefixThatHoldsIt) {
               (folder / "prefix").string() + "\n" + (game / "fs2002.exe").string() + "\n");
 }
 
+/// A table that shows one process of the computer: what else runs there may be called as it likes.
 TEST_F(Services, ARunningSimulatorIsFoundByItsProcess) {
     write(folder / "fs2002.exe", "#!/bin/sh\nread line\n");
-    const auto processes = systemProcesses({});
-    EXPECT_FALSE(processes->simulatorRunning());
     fs::permissions(folder / "fs2002.exe", fs::perms::owner_all);
-    FILE* pipe = popen(("'" + (folder / "fs2002.exe").string() + "'").c_str(), "w");
-    ASSERT_NE(pipe, nullptr);
-    EXPECT_TRUE(soon([&] { return processes->simulatorRunning(); }));
-    std::fputs("\n", pipe);
-    pclose(pipe);
-    EXPECT_TRUE(soon([&] { return !processes->simulatorRunning(); }));
+    const fs::path table = folder / "table";
+    fs::create_directories(table);
+    int pipe[2];
+    ASSERT_EQ(::pipe(pipe), 0);
+    const pid_t process = fork();
+    ASSERT_GE(process, 0);
+    if (process == 0) {
+        dup2(pipe[0], STDIN_FILENO);
+        close(pipe[0]);
+        close(pipe[1]);
+        execl((folder / "fs2002.exe").c_str(), "fs2002.exe", nullptr);
+        _exit(127);
+    }
+    fs::create_directory_symlink("/proc/" + std::to_string(process), table / std::to_string(process));
+    EXPECT_TRUE(soon([&] { return simulatorRunsIn(table); }));
+    close(pipe[0]);
+    close(pipe[1]);
+    EXPECT_EQ(waitpid(process, nullptr, 0), process);
+    EXPECT_FALSE(simulatorRunsIn(table));
+}
+
+TEST_F(Services, TheSimulatorIsKnownByItsProgramAloneOrBehindWhatRunsIt) {
+    const auto runs = [&](const std::string& name, std::string arguments) {
+        for (char& c : arguments)
+            if (c == '|') c = '\0';
+        const fs::path table = folder / "table";
+        fs::remove_all(table);
+        write(table / "1" / "cmdline", std::string("/sbin/init\0", 11));
+        write(table / name / "cmdline", arguments);
+        return simulatorRunsIn(table);
+    };
+    EXPECT_TRUE(runs("42", "fs2002.exe|"));
+    EXPECT_TRUE(runs("42", "C:\\Games\\FS2002\\FS2002.EXE|/gt|"));
+    EXPECT_TRUE(runs("42", "wine|/games/fs2002.exe|"));
+    EXPECT_TRUE(runs("42", "/bin/sh|/usr/bin/wine|/games/fs2002.exe"));
+    EXPECT_FALSE(runs("42", "nice|-n|5|fs2002.exe|"));
+    EXPECT_FALSE(runs("42", "less|fs2002.exe.txt|"));
+    EXPECT_FALSE(runs("42", "vi|/fs2002.exe/notes|"));
+    EXPECT_FALSE(runs("42", ""));
+    EXPECT_FALSE(runs("self", "fs2002.exe|"));
+    EXPECT_FALSE(simulatorRunsIn(folder / "none"));
 }
 
 TEST_F(Services, AWritableProgramFolderIsTheOneThatIsUsed) {

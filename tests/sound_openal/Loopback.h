@@ -2,6 +2,7 @@
 
 #include "platform/Machine.h"
 #include "sound_openal/OpenAlDevice.h"
+#include "support/Soon.h"
 
 #include <AL/alext.h>
 
@@ -37,6 +38,14 @@ inline OpenAlRoad loopbackRoad() {
                               ALC_FALSE,
                               0};
     return road;
+}
+
+/// Whether the device gets its loudspeakers; on a busy machine they come after the patience of one opening.
+inline bool opens(OpenAlDevice& device) {
+    return soon([&] {
+        device.open();
+        return device.output().ready();
+    });
 }
 
 /// Rendered samples of the two sides, full scale -1 to 1.

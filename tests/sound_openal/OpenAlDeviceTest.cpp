@@ -4,6 +4,7 @@
 #include "sound/SoundFixture.h"
 
 #include <atomic>
+#include <future>
 #include <thread>
 
 namespace gatewise::sound_test {
@@ -37,9 +38,8 @@ protected:
         Bytes click(200, 0x80);
         click[0] = 0xF0, click[1] = 0xF0;
         folder.write("click.wav", waveOf(click));
-        device.open();
     }
-    void SetUp() override { ASSERT_TRUE(device.output().ready()) << "the library has no loopback device"; }
+    void SetUp() override { ASSERT_TRUE(opens(device)) << "the library has no loopback device"; }
     SoundBuffer load(const std::string& name) { return device.load(folder.path() + "\\" + name); }
     /// Levels of the two sides in dB under full scale, once the first moments are over.
     std::pair<double, double> levels() {
@@ -266,12 +266,7 @@ TEST_F(Heard, CloseAndOpenAgain) {
     device.play(load("tone.wav"), true);
     device.close();
     EXPECT_FALSE(device.output().ready());
-    device.open();
-    for (int i = 0; i < 200 && !device.output().ready(); ++i) {
-        std::this_thread::sleep_for(5ms);
-        device.open();
-    }
-    ASSERT_TRUE(device.output().ready());
+    ASSERT_TRUE(opens(device));
     EXPECT_EQ(rms(render(device, 4800).left, 0, 4800), 0.0);
     device.play(load("tone.wav"), true);
     EXPECT_NEAR(levels().first, decibels(0.5), 0.5);
@@ -286,8 +281,7 @@ TEST(OpenAlOutside, HeadphonesGetEachSideAsItIs) {
     ASSERT_NE(hrtf, road.contextAttributes.end());
     hrtf[1] = ALC_TRUE;
     OpenAlDevice device(road);
-    device.open();
-    ASSERT_TRUE(device.output().ready());
+    ASSERT_TRUE(opens(device));
     const SoundBuffer buffer = device.load(folder.path() + "\\tone.wav");
     device.setPan(buffer, 3000);
     device.play(buffer, true);
@@ -335,24 +329,36 @@ TEST(OpenAlOutside, MissingDeviceIsNotAskedForAtEveryOpening) {
                              return nullptr;
                          },
                          .contextAttributes = {}});
+    device.open();
+    EXPECT_TRUE(soon([&] { return asked > 0; }));
     for (int i = 0; i < 50; ++i) device.open();
     EXPECT_EQ(asked, 1);
 }
 
+/// A road whose device does not come before somebody lets it.
+struct HeldRoad {
+    std::promise<void> let;
+    std::shared_ptr<std::atomic<bool>> opened = std::make_shared<std::atomic<bool>>(false);
+    OpenAlRoad road = loopbackRoad();
+
+    HeldRoad() {
+        road.openDevice = [openNow = road.openDevice, wait = let.get_future().share(), came = opened] {
+            wait.wait();
+            ALCdevice* device = openNow();
+            *came = true;
+            return device;
+        };
+    }
+};
+
 TEST(OpenAlOutside, SlowDeviceHoldsUpTheStartForAMomentOnlyAndComesInLater) {
     TemporaryFolder folder;
     folder.write("tone.wav", waveOf(tone(16000)));
-    OpenAlRoad road = loopbackRoad();
-    const auto openNow = road.openDevice;
-    road.openDevice = [openNow] {
-        std::this_thread::sleep_for(900ms);
-        return openNow();
-    };
-    OpenAlDevice device(road);
-    const auto start = std::chrono::steady_clock::now();
+    HeldRoad held;
+    OpenAlDevice device(held.road);
+    // The device comes only below: were it waited for, this test would never end.
     EXPECT_TRUE(device.open());
     EXPECT_TRUE(device.open());
-    EXPECT_LT(std::chrono::steady_clock::now() - start, 700ms);
     EXPECT_FALSE(device.output().ready());
 
     const SoundBuffer loop = device.load(folder.path() + "\\tone.wav");
@@ -360,36 +366,28 @@ TEST(OpenAlOutside, SlowDeviceHoldsUpTheStartForAMomentOnlyAndComesInLater) {
     folder.write("short.wav", waveOf(tone(80)));
     const SoundBuffer gone = device.load(folder.path() + "\\short.wav");
     device.play(gone, false);
-    std::this_thread::sleep_for(1s);
-    device.setVolume(loop, -1000); // as a step of the fade
-    ASSERT_TRUE(device.output().ready());
+    std::this_thread::sleep_for(100ms); // the short tone, 10 ms of it, is over meanwhile
+    held.let.set_value();
+    EXPECT_TRUE(soon([&] {
+        device.setVolume(loop, -1000); // as a step of the fade
+        return device.output().ready();
+    }));
     render(device, 4800);
     const Rendered heard = render(device, 9600);
     EXPECT_NEAR(decibels(amplitudeAt(heard.left, kTone, 0, 9600)), decibels(0.5) - 10, 0.5);
 }
 
 TEST(OpenAlOutside, DeviceThatNeverAnswersIsLeftBehind) {
-    auto release = std::make_shared<std::atomic<bool>>(false);
-    auto closed = std::make_shared<std::atomic<bool>>(false);
-    const auto openNow = loopbackRoad().openDevice;
+    HeldRoad held;
     {
-        OpenAlRoad road = loopbackRoad();
-        road.openDevice = [=] {
-            while (!*release) std::this_thread::sleep_for(5ms);
-            ALCdevice* device = openNow();
-            *closed = true;
-            return device;
-        };
-        OpenAlDevice device(road);
+        OpenAlDevice device(held.road);
         device.open();
-        const auto start = std::chrono::steady_clock::now();
-        device.close();
-        EXPECT_LT(std::chrono::steady_clock::now() - start, 900ms);
+        device.close(); // comes back, though the device does not
+        EXPECT_FALSE(*held.opened);
     }
-    *release = true;
-    for (int i = 0; i < 200 && !*closed; ++i) std::this_thread::sleep_for(5ms);
-    EXPECT_TRUE(*closed);
-    std::this_thread::sleep_for(200ms);
+    held.let.set_value();
+    EXPECT_TRUE(soon([&] { return held.opened->load(); }));
+    std::this_thread::sleep_for(200ms); // the thread that was left behind closes what it has got
 }
 
 } // namespace

@@ -15,8 +15,7 @@ protected:
         if (!std::filesystem::exists(built / "Female" / "ann1.wav"))
             GTEST_SKIP() << "the recordings are not built";
         std::filesystem::copy(built, folder / "Wavs", std::filesystem::copy_options::recursive);
-        device.open();
-        ASSERT_TRUE(device.output().ready());
+        ASSERT_TRUE(opens(device));
         engine.Initialize_Engine();
     }
     /// Seconds until the last moment that is louder than -50 dB.

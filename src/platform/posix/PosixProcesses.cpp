@@ -1,13 +1,12 @@
 #include "platform/Files.h"
 #include "platform/Native.h"
 #include "platform/Text.h"
+#include "platform/posix/ProcessTable.h"
 #include "platform/posix/WinePrefix.h"
 
 #include <algorithm>
 #include <csignal>
 #include <fcntl.h>
-#include <fstream>
-#include <iterator>
 #include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -20,8 +19,6 @@ namespace gatewise::native {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view kSimulator = "fs2002.exe";
 
 /// A program of that name in the search path, or empty.
 fs::path installed(std::string_view name) {
@@ -63,40 +60,16 @@ int spawn(std::vector<std::string> arguments, const fs::path& folder,
     _exit(127);
 }
 
-/// Whether a line of arguments, parted by NUL, begins with the simulator's program, alone or behind what runs
-/// it.
-bool namesSimulator(std::string_view commandLine) {
-    for (int i = 0; i < 3 && !commandLine.empty(); ++i) {
-        const auto end = commandLine.find('\0');
-        const std::string_view argument = commandLine.substr(0, end);
-        const auto slash = argument.find_last_of("/\\");
-        if (equalNoCase(slash == std::string_view::npos ? argument : argument.substr(slash + 1), kSimulator))
-            return true;
-        commandLine.remove_prefix(end == std::string_view::npos ? commandLine.size() : end + 1);
-    }
-    return false;
-}
-
 class PosixProcesses : public Processes {
 public:
     explicit PosixProcesses(Notify notify) : notify_(std::move(notify)) {}
 
-    [[nodiscard]] bool simulatorRunning() override {
-        std::error_code error;
-        for (fs::directory_iterator it("/proc", error), end; !error && it != end; it.increment(error)) {
-            const std::string name = it->path().filename().string();
-            if (!std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; })) continue;
-            std::ifstream file(it->path() / "cmdline", std::ios::binary);
-            const std::string commandLine{std::istreambuf_iterator<char>(file), {}};
-            if (namesSimulator(commandLine)) return true;
-        }
-        return false;
-    }
+    [[nodiscard]] bool simulatorRunning() override { return simulatorRunsIn("/proc"); }
 
     /// Window managers take such requests through a tool of their own; without it the pilot switches by hand.
     void bringSimulatorToFront() override {
         const fs::path tool = installed("wmctrl");
-        if (!tool.empty()) spawn({tool.string(), "-x", "-a", std::string(kSimulator)}, {}, std::nullopt);
+        if (!tool.empty()) spawn({tool.string(), "-x", "-a", "fs2002.exe"}, {}, std::nullopt);
     }
 
     int start(const std::string& file, const std::string& parameters, const std::string& folder) override {
