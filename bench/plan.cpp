@@ -1,3 +1,4 @@
+#include "plan/Build.h"
 #include "plan/Geometry.h"
 #include "plan/GetFlightPlan.h"
 #include "platform/Files.h"

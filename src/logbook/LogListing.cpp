@@ -11,10 +11,10 @@ namespace {
 
 /// The day of a date serial; one that no calendar holds gives an empty text.
 std::string isoDate(double serial) {
-    if (!(serial > -600000 && serial < 3000000)) return {};
-    const DateTime day = fromDaySerial(static_cast<long long>(serial));
-    return formatInteger("0000", day.year) + "-" + formatInteger("00", day.month) + "-" +
-           formatInteger("00", day.day);
+    const auto day = calendarDay(serial);
+    if (!day) return {};
+    return formatInteger("0000", day->year) + "-" + formatInteger("00", day->month) + "-" +
+           formatInteger("00", day->day);
 }
 
 std::string field(std::string_view text) {

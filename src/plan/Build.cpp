@@ -2,7 +2,6 @@
 
 #include "plan/FlightPlanUpdate.h"
 #include "plan/Geometry.h"
-#include "plan/GetFlightPlan.h"
 #include "plan/StepPoints.h"
 #include "platform/Numbers.h"
 

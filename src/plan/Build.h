@@ -1,12 +1,21 @@
 #pragma once
 
+#include "plan/GetFlightPlan.h"
 #include "plan/PlanTable.h"
 
 #include <string>
 
-// The steps of a plan's build that other work has use for by themselves.
+// From the points of a plan to all that is computed of them, and the steps of it that other work has use for
+// by themselves.
 
 namespace gatewise {
+
+/// Airports, legs, profile, step points, times and route string of the points that the table holds.
+void buildPlan(Plan& plan, const PlanInput& input);
+
+/// The airport blocks from the airport table; the alternate's only when there is one. Runways and radios
+/// stay.
+void takeAirports(Plan& plan, const PlanInput& input);
 
 /// Measures all legs: pointLegDistance, pointHeading, pointTotalDistance and totalDistance. A leg that has no
 /// length (a position that is no number) keeps what it had.

@@ -1,5 +1,7 @@
 #include "plan/Editing.h"
 
+#include "plan/Build.h"
+
 namespace gatewise {
 
 namespace {

@@ -39,13 +39,6 @@ struct PlanInput {
 /// know.
 void loadFlightPlan(Plan& plan, std::int32_t planNumber, const PlanInput& input);
 
-/// The airport blocks from the airport table; the alternate's only when there is one. Runways and radios
-/// stay.
-void takeAirports(Plan& plan, const PlanInput& input);
-
-/// Airports, legs, profile, step points, times and route string of the points that the table holds.
-void buildPlan(Plan& plan, const PlanInput& input);
-
 /// Runways and radios of the plan's airports; the alternate's only when there is one.
 void loadAirportFacilities(Plan& plan, const PlanInput& input);
 

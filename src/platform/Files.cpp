@@ -1,6 +1,7 @@
 #include "platform/Files.h"
 
 #include "platform/Text.h"
+#include "platform/Utf8.h"
 
 #include <cerrno>
 #include <cstring>
@@ -24,19 +25,10 @@ bool isUtf8WithHighBytes(std::string_view text) {
     for (const char c : text) high = high || static_cast<unsigned char>(c) >= 0x80;
     if (!high) return false;
     for (std::size_t at = 0; at < text.size();) {
-        const auto byte = static_cast<unsigned char>(text[at]);
-        std::size_t more = 0;
-        if (byte >= 0xF0)
-            more = 3;
-        else if (byte >= 0xE0)
-            more = 2;
-        else if (byte >= 0xC2)
-            more = 1;
-        else if (byte >= 0x80)
-            return false;
-        for (++at; more > 0; --more, ++at) {
-            if (at >= text.size() || (static_cast<unsigned char>(text[at]) & 0xC0U) != 0x80U) return false;
-        }
+        char32_t point = 0;
+        const std::size_t length = decodeUtf8(text, at, point);
+        if (length == 0) return false;
+        at += length;
     }
     return true;
 }

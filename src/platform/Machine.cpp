@@ -45,6 +45,11 @@ DateTime fromDaySerial(long long days) {
     return out;
 }
 
+std::optional<DateTime> calendarDay(double serial) {
+    if (!(serial > -600000 && serial < 3000000)) return std::nullopt;
+    return fromDaySerial(static_cast<long long>(serial));
+}
+
 int weekday(const DateTime& m) {
     return static_cast<int>(((daySerial(m) + 6) % 7 + 7) % 7);
 }

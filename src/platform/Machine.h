@@ -28,6 +28,8 @@ struct DateTime {
 /// Days since 30 December 1899, the day in which date serials count, and the way back (midnight).
 long long daySerial(const DateTime& moment);
 DateTime fromDaySerial(long long days);
+/// The day of a serial out of a file; nothing for one that no calendar holds.
+std::optional<DateTime> calendarDay(double serial);
 /// 0 Sunday to 6 Saturday.
 int weekday(const DateTime& moment);
 

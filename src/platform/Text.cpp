@@ -1,5 +1,8 @@
 #include "platform/Text.h"
 
+#include "platform/Utf8.h"
+
+#include <array>
 #include <charconv>
 #include <cstdint>
 #include <cstdlib>
@@ -27,45 +30,6 @@ char byteOf(unsigned point, bool& found) {
     }
     found = false;
     return '?';
-}
-
-void appendUtf8(std::string& out, unsigned point) {
-    if (point < 0x80) {
-        out += static_cast<char>(point);
-    } else if (point < 0x800) {
-        out += static_cast<char>(0xC0U | (point >> 6U));
-        out += static_cast<char>(0x80U | (point & 0x3FU));
-    } else {
-        out += static_cast<char>(0xE0U | (point >> 12U));
-        out += static_cast<char>(0x80U | ((point >> 6U) & 0x3FU));
-        out += static_cast<char>(0x80U | (point & 0x3FU));
-    }
-}
-
-/// Reads one UTF-8 sequence at `at`; returns its length, 0 when it is malformed.
-std::size_t decodeUtf8(std::string_view text, std::size_t at, unsigned& point) {
-    const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned first = byte(at);
-    if (first < 0x80) {
-        point = first;
-        return 1;
-    }
-    std::size_t length = 0;
-    if ((first & 0xE0U) == 0xC0U)
-        length = 2;
-    else if ((first & 0xF0U) == 0xE0U)
-        length = 3;
-    else if ((first & 0xF8U) == 0xF0U)
-        length = 4;
-    if (length == 0 || at + length > text.size()) return 0;
-    point = first & (0xFFU >> (length + 1));
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(at + i) & 0xC0U) != 0x80U) return 0;
-        point = (point << 6U) | (byte(at + i) & 0x3FU);
-    }
-    static constexpr std::array<unsigned, 5> kSmallest = {0, 0, 0x80, 0x800, 0x10000};
-    const bool surrogate = point >= 0xD800 && point <= 0xDFFF;
-    return point < kSmallest[length] || surrogate || point > 0x10FFFF ? 0 : length;
 }
 
 } // namespace
@@ -165,11 +129,11 @@ std::string textFromUtf8(std::string_view utf8, bool* lossless) {
     out.reserve(utf8.size());
     bool all = true;
     for (std::size_t at = 0; at < utf8.size();) {
-        unsigned point = 0;
+        char32_t point = 0;
         std::size_t length = decodeUtf8(utf8, at, point);
         if (length == 0) {
             length = 1;
-            point = 0xFFFD;
+            point = kReplacement;
         }
         bool found = false;
         out += byteOf(point, found);

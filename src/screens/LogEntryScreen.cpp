@@ -51,8 +51,7 @@ void refreshEntry(Program& p) {
     if (entry == nullptr) return;
     auto& f = p.forms.LogEntry;
     const auto hours = [&](double value) { return hoursText(value, p.g.numbers); };
-    f.date_LABEL.text = " " + p.machine.locale.longDate(fromDaySerial(static_cast<long long>(
-                                  entry->date >= -600000 && entry->date <= 3000000 ? entry->date : 0)));
+    f.date_LABEL.text = " " + p.machine.locale.longDate(calendarDay(entry->date).value_or(fromDaySerial(0)));
     f.dept_LABEL.text = place(entry->departureIcao, entry->departureName);
     f.dest_LABEL.text = place(entry->arrivalIcao, entry->arrivalName);
     f.aircraft_LABEL.text = std::string(entry->aircraft.trimmed());

@@ -1,5 +1,6 @@
 #include "screens/PlanScreens.h"
 
+#include "plan/Build.h"
 #include "plan/Editing.h"
 #include "plan/GetFlightPlan.h"
 #include "plan/PlanCharts.h"

@@ -61,7 +61,7 @@ TEST(WineRegistryText, SurvivesBrokenFiles) {
     EXPECT_EQ(registryText("[Software\\\\X]\n\"EXE Path\"=\"\n", "Software\\X", "EXE Path"), std::nullopt);
     EXPECT_EQ(
         registryText("[Software\\\\X]\r\n\"EXE Path\"=\"\\xd800\\xZ\\\"\r\n", "Software\\X", "EXE Path"),
-        "?xZ\\");
+        "\xEF\xBF\xBDxZ\\");
 }
 
 TEST(WinePrefixPath, EndsAtTheDriveFolder) {

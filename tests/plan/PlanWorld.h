@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plan/Build.h"
 #include "plan/GetFlightPlan.h"
 #include "plan/Performance.h"
 

@@ -324,6 +324,14 @@ TEST(Facilities, RunwaysAndRadiosOfTheAirports) {
     EXPECT_EQ(world.plan.alternateAirport.radio.towerFreq.view(), "121.10");
     EXPECT_EQ(world.plan.departureAirport.runways.size(), 2U); // emptied first, not added to
 
+    // Without an alternate its runways go; its radio stays what was read last.
+    world.plan.alternateAirport.runways.resize(1);
+    input.HaveAlternate = false;
+    loadFlightPlan(world.plan, 1, input);
+    EXPECT_TRUE(world.plan.alternateAirport.runways.empty());
+    EXPECT_EQ(world.plan.alternateAirport.radio.towerFreq.view(), "121.10");
+    input.HaveAlternate = true;
+
     bytes.resize(34 + 10); // the second runway is cut
     world.folder.write("/Data/APT.gt1", bytes);
     loadAirportFacilities(world.plan, input);

@@ -1,6 +1,7 @@
 #include "platform/Machine.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace gatewise {
 namespace {
@@ -29,6 +30,20 @@ TEST(DaySerial, ComesBack) {
         ASSERT_TRUE(d.month >= 1 && d.month <= 12 && d.day >= 1 && d.day <= 31);
         ASSERT_EQ(d.hour + d.minute, 0);
     }
+}
+
+TEST(CalendarDay, IsNothingForWhatNoCalendarHolds) {
+    const auto day = calendarDay(37422.9);
+    ASSERT_TRUE(day);
+    EXPECT_EQ(day->year, 2002);
+    EXPECT_EQ(day->month, 6);
+    EXPECT_EQ(day->day, 15);
+    EXPECT_TRUE(calendarDay(-599999));
+    EXPECT_FALSE(calendarDay(-600000));
+    EXPECT_TRUE(calendarDay(2999999));
+    EXPECT_FALSE(calendarDay(3000000));
+    EXPECT_FALSE(calendarDay(std::numeric_limits<double>::infinity()));
+    EXPECT_FALSE(calendarDay(std::numeric_limits<double>::quiet_NaN()));
 }
 
 TEST(Weekday, StartsOnSunday) {

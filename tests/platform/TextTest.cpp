@@ -1,4 +1,5 @@
 #include "platform/Text.h"
+#include "platform/Utf8.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -83,6 +84,32 @@ TEST(Utf8, CharactersOutsideThePageBecomeQuestionMarks) {
     bool lossless = true;
     EXPECT_EQ(textFromUtf8("a\xC5\x82z\xF0\x9F\x98\x80", &lossless), "a?z?");
     EXPECT_FALSE(lossless);
+}
+
+TEST(Utf8, EveryCharacterComesBack) {
+    for (char32_t point = 0; point <= 0x10FFFF; ++point) {
+        std::string text = "x";
+        appendUtf8(text, point);
+        char32_t read = 0;
+        ASSERT_EQ(decodeUtf8(text, 1, read), text.size() - 1);
+        ASSERT_EQ(read, point >= 0xD800 && point <= 0xDFFF ? kReplacement : point);
+    }
+}
+
+TEST(Utf8, LengthsChangeAtTheirBorders) {
+    const auto written = [](char32_t point) {
+        std::string text;
+        appendUtf8(text, point);
+        return text;
+    };
+    EXPECT_EQ(written(0x7F), "\x7F");
+    EXPECT_EQ(written(0x80), "\xC2\x80");
+    EXPECT_EQ(written(0x7FF), "\xDF\xBF");
+    EXPECT_EQ(written(0x800), "\xE0\xA0\x80");
+    EXPECT_EQ(written(0xFFFF), "\xEF\xBF\xBF");
+    EXPECT_EQ(written(0x10000), "\xF0\x90\x80\x80");
+    EXPECT_EQ(written(0x10FFFF), "\xF4\x8F\xBF\xBF");
+    EXPECT_EQ(written(0x110000), "\xEF\xBF\xBD");
 }
 
 TEST(Utf8, MalformedBytesBecomeQuestionMarksOneByOne) {

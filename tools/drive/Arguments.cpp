@@ -3,8 +3,6 @@
 #include "drive/Json.h"
 #include "platform/Files.h"
 
-#include <charconv>
-
 namespace gatewise::drive {
 
 namespace {
@@ -13,15 +11,6 @@ std::optional<std::string> utf8Argument(std::string_view rest) {
     if (!rest.starts_with('"')) return std::string(rest);
     auto value = takeJsonString(rest);
     if (value && !trimmed(rest).empty()) return std::nullopt;
-    return value;
-}
-
-template<class T> std::optional<T> parsed(std::string_view text) {
-    T value{};
-    if (text.starts_with('+')) text.remove_prefix(1);
-    const auto* last = text.data() + text.size();
-    const auto [end, error] = std::from_chars(text.data(), last, value);
-    if (error != std::errc() || end != last) return std::nullopt;
     return value;
 }
 
@@ -43,7 +32,11 @@ std::optional<std::string> textArgument(std::string_view rest) {
 std::optional<std::string> pathArgument(std::string_view rest) {
     const auto utf8 = utf8Argument(rest);
     if (!utf8) return std::nullopt;
-    return files::textOf(std::filesystem::path(std::u8string(utf8->begin(), utf8->end())));
+    return pathText(*utf8);
+}
+
+std::string pathText(std::string_view utf8) {
+    return files::textOf(std::filesystem::path(std::u8string(utf8.begin(), utf8.end())));
 }
 
 std::optional<std::string> takeArgument(std::string_view& rest) {
@@ -53,14 +46,6 @@ std::optional<std::string> takeArgument(std::string_view& rest) {
     if (!rest.empty() && rest.front() != ' ') return std::nullopt;
     if (!rest.empty()) rest.remove_prefix(1);
     return value;
-}
-
-std::optional<long long> integerArgument(std::string_view text) {
-    return parsed<long long>(text);
-}
-
-std::optional<double> numberArgument(std::string_view text) {
-    return parsed<double>(text);
 }
 
 } // namespace gatewise::drive

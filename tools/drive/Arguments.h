@@ -1,5 +1,6 @@
 #pragma once
 
+#include <charconv>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,8 +23,24 @@ std::optional<std::string> pathArgument(std::string_view rest);
 /// broken JSON string.
 std::optional<std::string> takeArgument(std::string_view& rest);
 
-/// Whole texts as numbers, with "." as decimal point.
-std::optional<long long> integerArgument(std::string_view text);
-std::optional<double> numberArgument(std::string_view text);
+/// The program's text of the name of a file or folder.
+std::string pathText(std::string_view utf8);
+
+/// A whole text as a number of type `T`, with "." as decimal point; nothing when it is none or out of range.
+template<class T> std::optional<T> numberText(std::string_view text) {
+    T value{};
+    if (text.starts_with('+')) text.remove_prefix(1);
+    const auto* last = text.data() + text.size();
+    const auto [end, error] = std::from_chars(text.data(), last, value);
+    if (error != std::errc() || end != last) return std::nullopt;
+    return value;
+}
+
+inline std::optional<long long> integerArgument(std::string_view text) {
+    return numberText<long long>(text);
+}
+inline std::optional<double> numberArgument(std::string_view text) {
+    return numberText<double>(text);
+}
 
 } // namespace gatewise::drive

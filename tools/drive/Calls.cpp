@@ -10,8 +10,6 @@
 #include "simulator/SituationTexts.h"
 #include "sound/DS_Engine.h"
 
-#include <charconv>
-
 namespace gatewise::drive {
 
 namespace {
@@ -22,17 +20,16 @@ struct Path {
 };
 
 template<class Number> bool fromText(std::string_view utf8, Number& value) {
-    if (utf8.starts_with('+')) utf8.remove_prefix(1);
-    const auto* last = utf8.data() + utf8.size();
-    const auto [end, error] = std::from_chars(utf8.data(), last, value);
-    return error == std::errc() && end == last;
+    const auto number = numberText<Number>(utf8);
+    value = number.value_or(Number{});
+    return number.has_value();
 }
 bool fromText(std::string_view utf8, std::string& value) {
     value = textFromUtf8(utf8);
     return true;
 }
 bool fromText(std::string_view utf8, Path& value) {
-    value.text = files::textOf(std::filesystem::path(std::u8string(utf8.begin(), utf8.end())));
+    value.text = pathText(utf8);
     return true;
 }
 

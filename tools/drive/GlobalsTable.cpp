@@ -3,6 +3,7 @@
 #include "drive/Arguments.h"
 
 #include <cmath>
+#include <concepts>
 #include <limits>
 
 namespace gatewise::drive {
@@ -199,6 +200,9 @@ template<class T> bool take(T& target, std::string_view value) {
             *number > static_cast<double>(std::numeric_limits<T>::max())) {
             return false;
         }
+    }
+    if constexpr (std::same_as<T, float>) {
+        if (std::isfinite(*number) && std::abs(*number) > std::numeric_limits<float>::max()) return false;
     }
     target = static_cast<T>(*number);
     return true;

@@ -1,6 +1,7 @@
 #include "drive/Json.h"
 
 #include "platform/Numbers.h"
+#include "platform/Utf8.h"
 
 #include <charconv>
 #include <cmath>
@@ -13,25 +14,6 @@ namespace {
 // Characters with a short escape, the sign behind the backslash first.
 constexpr std::string_view kLetters = "\"\\bfnrt";
 constexpr std::string_view kMeanings = "\"\\\b\f\n\r\t";
-
-void appendUtf8(std::string& out, std::uint32_t code) {
-    const auto part = [&](std::uint32_t bits) { out += static_cast<char>(bits); };
-    if (code < 0x80) {
-        part(code);
-    } else if (code < 0x800) {
-        part(0xC0 | (code >> 6));
-        part(0x80 | (code & 0x3F));
-    } else if (code < 0x10000) {
-        part(0xE0 | (code >> 12));
-        part(0x80 | ((code >> 6) & 0x3F));
-        part(0x80 | (code & 0x3F));
-    } else {
-        part(0xF0 | (code >> 18));
-        part(0x80 | ((code >> 12) & 0x3F));
-        part(0x80 | ((code >> 6) & 0x3F));
-        part(0x80 | (code & 0x3F));
-    }
-}
 
 std::optional<std::uint32_t> takeHex(std::string_view& rest) {
     std::uint32_t code = 0;
@@ -54,7 +36,6 @@ bool takeUnicode(std::string_view& rest, std::string& out) {
             code = 0x10000 + ((*code - 0xD800) << 10) + (*low - 0xDC00);
         }
     }
-    if (*code >= 0xD800 && *code < 0xE000) code = 0xFFFD;
     appendUtf8(out, *code);
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "platform/Files.h"
 #include "platform/Text.h"
+#include "platform/Utf8.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -23,22 +24,6 @@ void addPrefix(std::vector<fs::path>& prefixes, const fs::path& folder) {
     }
 }
 
-/// A character of the first plane; halves of others become "?".
-void appendUtf8(std::string& out, unsigned code) {
-    if (code < 0x80) {
-        out += static_cast<char>(code);
-    } else if (code < 0x800) {
-        out += static_cast<char>(0xC0 | (code >> 6));
-        out += static_cast<char>(0x80 | (code & 0x3F));
-    } else if (code >= 0xD800 && code < 0xE000) {
-        out += '?';
-    } else {
-        out += static_cast<char>(0xE0 | (code >> 12));
-        out += static_cast<char>(0x80 | ((code >> 6) & 0x3F));
-        out += static_cast<char>(0x80 | (code & 0x3F));
-    }
-}
-
 /// "\\" and "\"" stand for themselves, "\x20ac" for a character.
 std::string unescaped(std::string_view text) {
     std::string out;
@@ -53,10 +38,10 @@ std::string unescaped(std::string_view text) {
             continue;
         }
         std::size_t digits = 0;
-        unsigned code = 0;
+        char32_t code = 0;
         while (digits < 4 && i + 1 < text.size() &&
                std::isxdigit(static_cast<unsigned char>(text[i + 1])) != 0) {
-            code = code * 16 + static_cast<unsigned>(std::stoi(std::string(1, text[++i]), nullptr, 16));
+            code = code * 16 + static_cast<char32_t>(std::stoi(std::string(1, text[++i]), nullptr, 16));
             ++digits;
         }
         if (digits > 0)
