@@ -6,6 +6,7 @@
 #include "window/QtText.h"
 #include "window/Skin.h"
 
+#include <QDir>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -122,7 +123,10 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const {
     if (role != Qt::DisplayRole && role != Qt::AccessibleTextRole) return {};
     const auto& cells = rows_[static_cast<std::size_t>(index.row())];
     const auto column = static_cast<std::size_t>(index.column());
-    return column < cells.size() ? toQt(cells[column]) : QString();
+    QString text = column < cells.size() ? toQt(cells[column]) : QString();
+    // The program appends its own tails with "\\"; a person reads a path of this computer.
+    if (control_.kind == Kind::FolderList) text.replace('\\', QDir::separator());
+    return text;
 }
 
 QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const {
@@ -249,7 +253,8 @@ void RowsTable::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
     style.color = !isEnabled() ? skin.style("list.disabledText")
                   : picked     ? skin.style("list.selectedText")
                                : skin.style("list.text");
-    style.ellipsis = Ellipsis::Right;
+    style.ellipsis =
+        control_.kind == Kind::FolderList ? Ellipsis::Left : Ellipsis::Right; // a path tells by its end
     const int columns = model_.columnCount();
     for (int c = 0; c < columns; ++c) {
         const int x = control_.kind == Kind::ListView ? header()->sectionViewportPosition(c) : 0;

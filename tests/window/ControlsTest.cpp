@@ -7,6 +7,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
+#include <QDir>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
@@ -213,6 +214,21 @@ TEST_F(Controls, TheFocusAlonePicksNothingInAList) {
     QTest::keyClick(table, Qt::Key_Down);
     EXPECT_EQ(list.picked, 0);
     EXPECT_TRUE(table->selectionModel()->isRowSelected(0));
+}
+
+TEST_F(Controls, AFolderReadsAsAPathOfThisComputer) {
+    open(forms().DirForm);
+    auto& list = forms().DirForm.Dir1;
+    stage().desk().act([&] {
+        list.clear();
+        list.add("/games/FS2002\\flights");
+    });
+    auto* table = stage().widget(list).findChild<QAbstractItemView*>();
+    ASSERT_NE(table, nullptr);
+    const QString separator = QDir::separator();
+    EXPECT_EQ(table->model()->index(0, 0).data().toString(),
+              QStringList({"", "games", "FS2002", "flights"}).join(separator));
+    EXPECT_EQ(list.items.at(0), "/games/FS2002\\flights");
 }
 
 TEST_F(Controls, AStandbyNoticeNeverTakesTheKeyboard) {

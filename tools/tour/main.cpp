@@ -72,6 +72,10 @@ int play(const std::string& folder, const std::string& out, bool fine) {
 /// none is named). The second round, for fine screens, runs in a process of its own, as its scale is settled
 /// at the start.
 int main(int count, char** arguments) {
+    if (count > 2 || (count == 2 && arguments[1][0] == '-')) {
+        std::cerr << "tour [OUT_FOLDER]\n";
+        return EXIT_FAILURE;
+    }
     const bool fine = qgetenv("QT_SCALE_FACTOR") == "2";
     const QTemporaryDir scratch;
     gatewise::stage::useRoomyDesk(scratch.path().toStdString());
