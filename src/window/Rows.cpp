@@ -8,9 +8,11 @@
 
 #include <QDir>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include <cmath>
 
@@ -239,6 +241,32 @@ void RowsTable::paintEvent(QPaintEvent* event) {
     QTreeView::paintEvent(event);
 }
 
+QRectF RowsTable::cell(int column, int top) const {
+    const bool columns = control_.kind == Kind::ListView;
+    const int x = columns ? header()->sectionViewportPosition(column) : 0;
+    const int w = columns ? header()->sectionSize(column) : viewport()->width();
+    return {x + 8.0, static_cast<double>(top), w - 12.0, kRow};
+}
+
+TextStyle RowsTable::style(int row) const {
+    return actor_.skin().text(model_.bold(row) ? "caption" : place_.font);
+}
+
+/// A text that is cut in its cell is shown whole beside the pointer.
+bool RowsTable::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QModelIndex at = indexAt(help->pos());
+        const QString text = at.data().toString();
+        if (at.isValid() && advance(text, style(at.row())) > cell(at.column(), 0).width()) {
+            QToolTip::showText(help->globalPos(), text, viewport());
+            return true;
+        }
+        QToolTip::hideText();
+    }
+    return QTreeView::viewportEvent(event);
+}
+
 void RowsTable::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
     const Skin& skin = actor_.skin();
@@ -248,8 +276,7 @@ void RowsTable::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
         painter->fillRect(line, skin.style("list.selected"));
         painter->fillRect(QRect(0, line.y(), 3, kRow), skin.style("list.selectedBar"));
     }
-    const std::string role = model_.bold(index.row()) ? "caption" : place_.font;
-    TextStyle style = skin.text(role);
+    TextStyle style = this->style(index.row());
     style.color = !isEnabled() ? skin.style("list.disabledText")
                   : picked     ? skin.style("list.selectedText")
                                : skin.style("list.text");
@@ -257,10 +284,8 @@ void RowsTable::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
         control_.kind == Kind::FolderList ? Ellipsis::Left : Ellipsis::Right; // a path tells by its end
     const int columns = model_.columnCount();
     for (int c = 0; c < columns; ++c) {
-        const int x = control_.kind == Kind::ListView ? header()->sectionViewportPosition(c) : 0;
-        const int w = control_.kind == Kind::ListView ? header()->sectionSize(c) : viewport()->width();
-        drawText(*painter, QRectF(x + 8, line.y(), w - 12, kRow),
-                 model_.index(index.row(), c).data(Qt::DisplayRole).toString(), style);
+        drawText(*painter, cell(c, line.y()), model_.index(index.row(), c).data(Qt::DisplayRole).toString(),
+                 style);
     }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "window/LabelText.h"
 #include "window/View.h"
 
 #include <QAbstractTableModel>
@@ -39,6 +40,7 @@ protected:
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;
     void paintEvent(QPaintEvent* event) override;
+    bool viewportEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -49,6 +51,9 @@ protected:
 private:
     void choose(int row);
     void open();
+    /// Where a column's text stands in a row that begins at `top`.
+    [[nodiscard]] QRectF cell(int column, int top) const;
+    [[nodiscard]] TextStyle style(int row) const;
     Actor& actor_;
     Control& control_;
     const ControlLayout& place_;

@@ -9,10 +9,12 @@
 #include <QCheckBox>
 #include <QDir>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
 #include <QTest>
+#include <QToolTip>
 #include <QTreeView>
 
 // What a person does at single controls, and what is seen of it.
@@ -229,6 +231,28 @@ TEST_F(Controls, AFolderReadsAsAPathOfThisComputer) {
     EXPECT_EQ(table->model()->index(0, 0).data().toString(),
               QStringList({"", "games", "FS2002", "flights"}).join(separator));
     EXPECT_EQ(list.items.at(0), "/games/FS2002\\flights");
+}
+
+TEST_F(Controls, ACutRowIsShownWholeBesideThePointer) {
+    open(forms().DirForm);
+    auto& list = forms().DirForm.File1;
+    const std::string whole = "A flight with a name that no list of this width has room for.pln";
+    stage().desk().act([&] {
+        list.clear();
+        list.add(whole);
+        list.add("short.pln");
+    });
+    auto* table = stage().widget(list).findChild<QAbstractItemView*>();
+    ASSERT_NE(table, nullptr);
+    const auto point = [&](int row) {
+        const QPoint at = table->visualRect(table->model()->index(row, 0)).center();
+        QHelpEvent help(QEvent::ToolTip, at, table->viewport()->mapToGlobal(at));
+        QApplication::sendEvent(table->viewport(), &help);
+    };
+    point(0);
+    EXPECT_EQ(QToolTip::text().toStdString(), whole);
+    point(1);
+    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); })); // it fades
 }
 
 TEST_F(Controls, AStandbyNoticeNeverTakesTheKeyboard) {
