@@ -95,8 +95,10 @@ int clockRegionOf(int bias) {
 }
 
 std::optional<int> minutesFromMidnight(int hhmm) {
-    if (hhmm < 0 || hhmm / 100 >= kHoursOfDay || hhmm % 100 >= kMinutesOfHour) return std::nullopt;
-    return hhmm / 100 * kMinutesOfHour + hhmm % 100;
+    const int hours = hhmm < 10000 ? hhmm / 100 : hhmm / 1000; // of five digits the first two
+    const int minutes = hhmm % 100;
+    if (hhmm < 0 || hours >= kHoursOfDay || minutes >= kMinutesOfHour) return std::nullopt;
+    return hours * kMinutesOfHour + minutes;
 }
 
 std::optional<int> minutesFromNow(std::string_view hoursText, std::string_view minutesText, int hhmm) {

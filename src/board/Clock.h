@@ -56,7 +56,8 @@ std::string zoneTimeText(const BoardClock& clock, std::size_t element);
 /// The region in which the clocks start.
 int clockRegionOf(int bias);
 
-/// Minutes from midnight to a time of day HHMM; nothing when it is none.
+/// Minutes from midnight to a time of day HHMM, the first two and last two of its digits; nothing when it is
+/// none.
 std::optional<int> minutesFromMidnight(int hhmm);
 
 /// Minutes from the time on the board's clock to a time of day HHMM of the same day, between -1439 and 1439;

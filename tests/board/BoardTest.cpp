@@ -236,6 +236,15 @@ TEST_F(Board, TimesAndIndicesThatAreNoneAreNotShown) {
     EXPECT_EQ(lists.BoardRowCount, -1);
 }
 
+TEST_F(Board, ATimeOfFiveDigitsShowsThemAll) {
+    flights = {flight("AA", 1, 12345, 0)};
+    departures();
+    ASSERT_EQ(lists.BoardRowCount, 0);
+    EXPECT_EQ(lists.BoardRows[0].TimeText, "12345");
+    EXPECT_EQ(lists.BoardRows[0].Minutes, 45);
+    EXPECT_EQ(lists.BoardRows[0].StatusText, "AT GATE");
+}
+
 TEST_F(Board, DotsThreeAndFourShowTheProgress) {
     std::vector<int> dots;
     flights = {flight("AA", 1, 1300, 0)};

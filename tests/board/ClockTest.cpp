@@ -130,6 +130,8 @@ TEST(MinutesFromNow, CountsWithinTheSameDay) {
     EXPECT_EQ(minutesFromNow("12", "30", 1315), 45);
     EXPECT_EQ(minutesFromNow("23", "50", 10), -1420);
     EXPECT_EQ(minutesFromNow("00", "10", 2350), 1420);
+    EXPECT_EQ(minutesFromNow("12", "00", 12345), 45); // of five digits the first two and the last two
+    EXPECT_EQ(minutesFromNow("10", "00", 10000), 0);
 }
 
 TEST(MinutesFromNow, HasNoResultWithoutATimeOfDay) {
@@ -140,6 +142,8 @@ TEST(MinutesFromNow, HasNoResultWithoutATimeOfDay) {
     EXPECT_FALSE(minutesFromNow("12", "00", 1260));
     EXPECT_FALSE(minutesFromNow("12", "00", 2400));
     EXPECT_FALSE(minutesFromNow("12", "00", -1));
+    EXPECT_FALSE(minutesFromNow("12", "00", 24000));
+    EXPECT_FALSE(minutesFromNow("12", "00", 12360));
 }
 
 } // namespace
