@@ -115,11 +115,12 @@ struct Tables {
     [[nodiscard]] int AirlineLast() const { return static_cast<int>(airlines.size()) - 1; }
     [[nodiscard]] int AircraftLast() const { return static_cast<int>(aircraft.size()) - 1; }
 
+    /// Whether an index from a file or a setting lies in the table, its blank extra element counted.
+    [[nodiscard]] bool hasAirport(int index) const { return index >= 0 && index <= AirportCount(); }
     /// The airport at an index from a file or a setting; the blank extra element when it lies outside the
     /// table.
     [[nodiscard]] const AirportRecord& airport(int index) const {
-        return index >= 0 && index <= AirportCount() ? airports[static_cast<std::size_t>(index)]
-                                                     : airports.back();
+        return hasAirport(index) ? airports[static_cast<std::size_t>(index)] : airports.back();
     }
 };
 

@@ -36,6 +36,10 @@ void showDepartureAirport(Program& p) {
     f.dept_LABEL.text = airportText(airport);
 }
 
+void showAirport(const Program& p, Label& label, int airport) {
+    if (p.g.tables.hasAirport(airport)) label.text = airportText(p.g.tables.airport(airport));
+}
+
 void enableArrival(Program& p) {
     p.forms.MainForm.arrivalButton.State = 1;
     RefreshMainButtons(p, " ");
@@ -142,7 +146,7 @@ void FindNearestAlternate(Program& p) {
         p.g.HaveAlternate = kTrue;
         p.g.AlternateIndex = *found;
     }
-    p.forms.MainForm.alt_LABEL.text = airportText(p.g.tables.airport(p.g.AlternateIndex));
+    showAirport(p, p.forms.MainForm.alt_LABEL, p.g.AlternateIndex);
 }
 
 void ClearDispatch(Program& p) {
@@ -167,6 +171,15 @@ void ClearDispatch(Program& p) {
 
 namespace {
 
+// What a step of SelectFlight cannot look up stays as it was, and the next step goes on.
+
+void takeFlight(Program& p, const std::string& flightIndex, int source) {
+    const auto& flights = source == 0 ? p.g.DepartureFlights : p.g.BoardFlights;
+    int index = 0;
+    if (parseInteger(flightIndex, index) && index >= 0 && index < static_cast<int>(flights.size()))
+        p.g.CurrentFlight = flights[static_cast<std::size_t>(index)];
+}
+
 void takeHomeFromFlight(Program& p) {
     const auto& s = p.forms.SettingsForm;
     if (s.homeDeptCHECK.value == 1) {
@@ -181,12 +194,12 @@ void takeHomeFromFlight(Program& p) {
 
 void showAirportsOfFlight(Program& p) {
     auto& f = p.forms.MainForm;
-    const AirportRecord& departure = p.g.tables.airport(p.g.DepartureIndex);
-    f.departureText.text = std::string(departure.Icao.trimmed());
+    if (p.g.tables.hasAirport(p.g.DepartureIndex))
+        f.departureText.text = std::string(p.g.tables.airport(p.g.DepartureIndex).Icao.trimmed());
     std::vector<FlightRecord> flights;
     if (readDepartures(p, p.g.DepartureIndex, flights)) p.g.DepartureFlights = std::move(flights);
-    f.dept_LABEL.text = airportText(departure);
-    f.arr_LABEL.text = airportText(p.g.tables.airport(p.g.DestinationIndex));
+    showAirport(p, f.dept_LABEL, p.g.DepartureIndex);
+    showAirport(p, f.arr_LABEL, p.g.DestinationIndex);
 }
 
 void fillPass(Program& p) {
@@ -220,10 +233,6 @@ void fillPass(Program& p) {
 
 void SelectFlight(Program& p, const std::string& flightIndex, int source) {
     auto& f = p.forms.MainForm;
-    const auto& flights = source == 0 ? p.g.DepartureFlights : p.g.BoardFlights;
-    int index = 0;
-    if (!parseInteger(flightIndex, index) || index < 0 || index >= static_cast<int>(flights.size())) return;
-
     startSoundEngine(p);
     p.g.FadeDirection = "out";
     f.fade_timer.enable(true);
@@ -231,8 +240,8 @@ void SelectFlight(Program& p, const std::string& flightIndex, int source) {
     showMainPage(p);
     stopBoardTimers(p);
 
-    const FlightRecord flight = flights[static_cast<std::size_t>(index)];
-    p.g.CurrentFlight = flight;
+    takeFlight(p, flightIndex, source);
+    const FlightRecord flight = p.g.CurrentFlight;
     p.g.HaveDeparture = p.g.HaveDestination = kTrue;
     p.g.DepartureIndex = p.g.BoardAirportIndex = flight.OriginIndex;
     p.g.DestinationIndex = flight.DestIndex;

@@ -10,7 +10,8 @@ namespace gatewise {
 void LoadHomeFlights(Program& p);
 
 /// Puts flight `flightIndex` (text of a number) of DepartureFlights (source 0) or BoardFlights (1) onto the
-/// pass.
+/// pass. A number that the list has not, and an airport that the table has not, leave what they would have
+/// set: the pass then shows the flight, or the airport, that was there.
 void SelectFlight(Program& p, const std::string& flightIndex, int source);
 
 /// Empties the boarding pass and disables what depends on a flight.

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <numeric>
 #include <utility>
 
@@ -15,17 +16,21 @@ namespace {
 constexpr std::size_t kListed = 25;
 constexpr float kTooFar = 10000; // nautical miles; from here on an airport is never the nearest
 
-/// Distances from the destination, each leaving its course behind.
+/// Distances from the destination, each leaving its course behind; no number, and no course, when the table
+/// has no such destination.
 class Ruler {
 public:
     Ruler(const Tables& tables, std::int32_t destination, float* lastCourse)
-        : from_(tables.airport(destination)), lastCourse_(lastCourse != nullptr ? lastCourse : &unused_) {}
+        : known_(tables.hasAirport(destination)), from_(tables.airport(destination)),
+          lastCourse_(lastCourse != nullptr ? lastCourse : &unused_) {}
 
     [[nodiscard]] float to(const AirportRecord& airport) {
+        if (!known_) return std::numeric_limits<float>::quiet_NaN();
         return Distance(from_.Latitude, from_.Longitude, airport.Latitude, airport.Longitude, *lastCourse_);
     }
 
 private:
+    bool known_;
     const AirportRecord& from_;
     float* lastCourse_;
     float unused_ = 0;

@@ -15,7 +15,7 @@ namespace gatewise {
 
 /// The airports that the list of the nearest 25 holds, in the order in which a complete selection sort by
 /// distance leaves them; fewer where the table ends. The destination itself is among them. An airport whose
-/// distance cannot be computed counts as 0 miles away.
+/// distance cannot be computed counts as 0 miles away; without a destination that is each of them.
 std::vector<std::int32_t> closestAirports(const Tables& tables, std::int32_t destination,
                                           float* lastCourse = nullptr);
 

@@ -96,10 +96,17 @@ TEST_F(FlightList, AnUnknownClassKeepsTheClassThatStoodOnThePass) {
     EXPECT_EQ(pass.arrtimeLABEL.text, "200P");
 }
 
-TEST_F(FlightList, AFlightThatIsNotThereLeavesThePassAlone) {
+TEST_F(FlightList, AFlightThatIsNotThereLeavesTheOneThatWas) {
     begin();
-    for (const char* index : {"2", "-1", "", "x", "99999999999"}) SelectFlight(t.p, index, 0);
-    EXPECT_EQ(pass.fltLABEL_1.text, "");
+    SelectFlight(t.p, "0", 0);
+    const std::string flight = pass.fltLABEL_1.text;
+    EXPECT_NE(flight, "");
+    for (const char* index : {"2", "-1", "", "x", "99999999999"}) {
+        ClearDispatch(t.p);
+        SelectFlight(t.p, index, 0);
+        EXPECT_EQ(pass.fltLABEL_1.text, flight) << index;
+        EXPECT_EQ(pass.viewButton.State, 1) << index;
+    }
     EXPECT_FALSE(t.p.forms.WaitForm.visible);
 }
 

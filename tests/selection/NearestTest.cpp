@@ -133,6 +133,14 @@ TEST(NearestAlternate, APositionThatIsNoNumberIsPassedOver) {
     EXPECT_FALSE(nearestAlternate(tables, 0, 5));
 }
 
+TEST(NearestAlternate, WithoutADestinationThereIsNone) {
+    Tables tables;
+    tables.airports = {airport("AAA", "KAAA", "Alpha", "A", 10, 10), AirportRecord()};
+    float course = 77;
+    for (const int nowhere : {-1, 2, 32767}) EXPECT_FALSE(nearestAlternate(tables, nowhere, 5, &course));
+    EXPECT_EQ(course, 77);
+}
+
 TEST(Nearest, LeavesTheCourseToTheLastAirportMeasured) {
     const auto tables = worldOf({{40, -100}, {41, -100}});
     float course = 0;
