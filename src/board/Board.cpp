@@ -2,6 +2,7 @@
 
 #include "board/Clock.h"
 #include "board/SortBoard.h"
+#include "platform/TimeOfDay.h"
 #include "schedule/FlightTexts.h"
 #include "schedule/Lookups.h"
 
@@ -142,7 +143,7 @@ std::vector<Chosen> choose(Build& build) {
         if (!anyAirline && flight.AirlineCode.trimmed() != airline) continue;
         const auto& tables = build.tables;
         if (tables.airport(flight.OriginIndex).Icao == tables.airport(flight.DestIndex).Icao) continue;
-        const auto time = minutesFromMidnight(flight.*build.kind.time);
+        const auto time = timeOfDay(flight.*build.kind.time);
         if (!time || !get_day(flight.DaysMask, request.day)) continue;
         const int minutes = *midnight + *time;
         if (minutes < build.kind.earliest) continue;

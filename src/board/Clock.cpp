@@ -1,7 +1,7 @@
 #include "board/Clock.h"
 
 #include "platform/Numbers.h"
-#include "platform/Text.h"
+#include "platform/TimeOfDay.h"
 
 #include <cstdlib>
 
@@ -10,8 +10,6 @@ namespace gatewise {
 namespace {
 
 constexpr int kWestmostZone = -11; // UTC offset of element 0
-constexpr int kHoursOfDay = 24;
-constexpr int kMinutesOfHour = 60;
 
 constexpr std::array<std::array<ZoneClock, 4>, 6> kRegions = {
     {{{{"London", 11}, {"Rome", 12}, {"Cairo", 13}, {"Moscow", 14}}},
@@ -94,21 +92,11 @@ int clockRegionOf(int bias) {
     return kBeyondBuckets;
 }
 
-std::optional<int> minutesFromMidnight(int hhmm) {
-    const int hours = hhmm < 10000 ? hhmm / 100 : hhmm / 1000; // of five digits the first two
-    const int minutes = hhmm % 100;
-    if (hhmm < 0 || hours >= kHoursOfDay || minutes >= kMinutesOfHour) return std::nullopt;
-    return hours * kMinutesOfHour + minutes;
-}
-
 std::optional<int> minutesFromNow(std::string_view hoursText, std::string_view minutesText, int hhmm) {
-    int hours = 0;
-    int minutes = 0;
-    if (!parseInteger(hoursText, hours) || !parseInteger(minutesText, minutes)) return std::nullopt;
-    if (hours < 0 || hours >= kHoursOfDay || minutes < 0 || minutes >= kMinutesOfHour) return std::nullopt;
-    const auto time = minutesFromMidnight(hhmm);
-    if (!time) return std::nullopt;
-    return *time - hours * kMinutesOfHour - minutes;
+    const auto now = timeOfDay(hoursText, minutesText);
+    const auto time = timeOfDay(hhmm);
+    if (!now || !time) return std::nullopt;
+    return *time - *now;
 }
 
 } // namespace gatewise

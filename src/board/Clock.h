@@ -56,10 +56,6 @@ std::string zoneTimeText(const BoardClock& clock, std::size_t element);
 /// The region in which the clocks start.
 int clockRegionOf(int bias);
 
-/// Minutes from midnight to a time of day HHMM, the first two and last two of its digits; nothing when it is
-/// none.
-std::optional<int> minutesFromMidnight(int hhmm);
-
 /// Minutes from the time on the board's clock to a time of day HHMM of the same day, between -1439 and 1439;
 /// nothing when one of them is no time of day.
 std::optional<int> minutesFromNow(std::string_view hoursText, std::string_view minutesText, int hhmm);

@@ -24,8 +24,6 @@ public:
     /// Whether find would name this airport; false outside the table.
     [[nodiscard]] bool matches(std::int32_t airport, std::string_view text) const;
 
-    /// Airports in the table, the blank one included.
-
 private:
     std::string folded_;
     std::size_t airports_ = 0;

@@ -21,17 +21,16 @@ constexpr float kTooFar = 10000; // nautical miles; from here on an airport is n
 class Ruler {
 public:
     Ruler(const Tables& tables, std::int32_t destination, float* lastCourse)
-        : known_(tables.hasAirport(destination)), from_(tables.airport(destination)),
+        : from_(tables.hasAirport(destination) ? &tables.airport(destination) : nullptr),
           lastCourse_(lastCourse != nullptr ? lastCourse : &unused_) {}
 
     [[nodiscard]] float to(const AirportRecord& airport) {
-        if (!known_) return std::numeric_limits<float>::quiet_NaN();
-        return Distance(from_.Latitude, from_.Longitude, airport.Latitude, airport.Longitude, *lastCourse_);
+        if (from_ == nullptr) return std::numeric_limits<float>::quiet_NaN();
+        return Distance(from_->Latitude, from_->Longitude, airport.Latitude, airport.Longitude, *lastCourse_);
     }
 
 private:
-    bool known_;
-    const AirportRecord& from_;
+    const AirportRecord* from_;
     float* lastCourse_;
     float unused_ = 0;
 };

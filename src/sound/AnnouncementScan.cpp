@@ -2,6 +2,7 @@
 
 #include "platform/Numbers.h"
 #include "platform/Text.h"
+#include "platform/TimeOfDay.h"
 
 #include <algorithm>
 
@@ -24,9 +25,7 @@ int drawBelow(Random& random, int range) {
 
 std::optional<int> rowTime(std::string_view timeText) {
     int number = 0;
-    if (!parseInteger(timeText, number) || number < 0) return std::nullopt;
-    const std::string text = formatInteger("0000", number);
-    return timeOfDay(std::string_view(text).substr(0, 2), std::string_view(text).substr(text.size() - 2));
+    return parseInteger(timeText, number) ? timeOfDay(number) : std::nullopt;
 }
 
 DueAnnouncement dueAt(const ScanBoard& board, const AnnouncementWindow& window, int row,
@@ -66,14 +65,6 @@ AnnouncementDraws drawAnnouncement(Random& random, int BoardRowCount) {
 int drawPlayInterval(Random& random) {
     random.reseed();
     return (drawBelow(random, 31) + 15) * 1000;
-}
-
-std::optional<int> timeOfDay(std::string_view hours, std::string_view minutes) {
-    int hour = 0;
-    int minute = 0;
-    if (!parseInteger(hours, hour) || !parseInteger(minutes, minute)) return std::nullopt;
-    if (hour < 0 || hour > 23 || minute < 0 || minute > 59) return std::nullopt;
-    return hour * 60 + minute;
 }
 
 std::optional<DueAnnouncement> scanForAnnouncement(const ScanBoard& board, const AnnouncementWindow& window,

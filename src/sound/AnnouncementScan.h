@@ -83,9 +83,6 @@ struct DueAnnouncement {
 std::optional<DueAnnouncement> scanForAnnouncement(const ScanBoard& board, const AnnouncementWindow& window,
                                                    int start, bool played, AnnouncementRing& ring);
 
-/// A row's TimeText, or the clock's "HH:MM", as minutes from midnight; nothing when it is no time of day.
-std::optional<int> timeOfDay(std::string_view hours, std::string_view minutes);
-
 /// One tick of fade_timer. `level` is then to be handed to channel 8.
 struct FadeStep {
     std::int16_t level;

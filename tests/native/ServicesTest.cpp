@@ -136,6 +136,7 @@ TEST_F(Services, ARunningSimulatorIsFoundByItsProcess) {
     }
     fs::create_directory_symlink("/proc/" + std::to_string(process), table / std::to_string(process));
     EXPECT_TRUE(soon([&] { return simulatorRunsIn(table); }));
+    EXPECT_TRUE(systemProcesses({})->simulatorRunning()); // it is one of the computer's
     close(pipe[0]);
     close(pipe[1]);
     EXPECT_EQ(waitpid(process, nullptr, 0), process);

@@ -1,4 +1,5 @@
 #include "platform/Machine.h"
+#include "platform/TimeOfDay.h"
 
 #include <gtest/gtest.h>
 #include <limits>
@@ -44,6 +45,24 @@ TEST(CalendarDay, IsNothingForWhatNoCalendarHolds) {
     EXPECT_FALSE(calendarDay(3000000));
     EXPECT_FALSE(calendarDay(std::numeric_limits<double>::infinity()));
     EXPECT_FALSE(calendarDay(std::numeric_limits<double>::quiet_NaN()));
+}
+
+TEST(TimeOfDay, IsTheFirstTwoAndTheLastTwoDigits) {
+    EXPECT_EQ(timeOfDay(0), 0);
+    EXPECT_EQ(timeOfDay(5), 5);
+    EXPECT_EQ(timeOfDay(735), 7 * 60 + 35);
+    EXPECT_EQ(timeOfDay(2359), 23 * 60 + 59);
+    EXPECT_EQ(timeOfDay(12345), 12 * 60 + 45);
+    EXPECT_EQ(timeOfDay(123456), 12 * 60 + 56);
+    for (const int none : {-1, -735, 60, 1160, 2400, 9999, 24000, 12360})
+        EXPECT_FALSE(timeOfDay(none)) << none;
+}
+
+TEST(TimeOfDay, OfTextsIsNothingForWhatIsNoNumber) {
+    EXPECT_EQ(timeOfDay("07", "35"), 7 * 60 + 35);
+    EXPECT_EQ(timeOfDay("23", "59"), 23 * 60 + 59);
+    for (const char* none : {"", "x", "-1", "24"}) EXPECT_FALSE(timeOfDay(none, "00")) << none;
+    for (const char* none : {"", "x", "-1", "60"}) EXPECT_FALSE(timeOfDay("12", none)) << none;
 }
 
 TEST(Weekday, StartsOnSunday) {

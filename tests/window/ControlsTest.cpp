@@ -33,6 +33,15 @@ protected:
     void open(Screen& screen) {
         stage().desk().act([&] { showScreen(stage().window.program, screen); });
     }
+    /// The table of a list on a screen that comes up with these rows alone in it.
+    QAbstractItemView* openWith(ItemControl& list, const std::vector<std::string>& rows) {
+        open(*list.screen);
+        stage().desk().act([&] {
+            list.clear();
+            for (const auto& row : rows) list.add(row);
+        });
+        return stage().widget(list).findChild<QAbstractItemView*>();
+    }
 };
 
 } // namespace
@@ -197,13 +206,8 @@ TEST_F(Controls, ListsShowTheFormsRowsAndPick) {
 }
 
 TEST_F(Controls, TheFocusAlonePicksNothingInAList) {
-    open(forms().DirForm);
     auto& list = forms().DirForm.File1;
-    stage().desk().act([&] {
-        list.clear();
-        for (const char* name : {"first.pln", "second.pln"}) list.add(name);
-    });
-    auto* table = stage().widget(list).findChild<QAbstractItemView*>();
+    auto* table = openWith(list, {"first.pln", "second.pln"});
     ASSERT_NE(table, nullptr);
     ASSERT_GT(list.count(), 1);
     ASSERT_EQ(list.picked, -1);
@@ -219,13 +223,8 @@ TEST_F(Controls, TheFocusAlonePicksNothingInAList) {
 }
 
 TEST_F(Controls, AFolderReadsAsAPathOfThisComputer) {
-    open(forms().DirForm);
     auto& list = forms().DirForm.Dir1;
-    stage().desk().act([&] {
-        list.clear();
-        list.add("/games/FS2002\\flights");
-    });
-    auto* table = stage().widget(list).findChild<QAbstractItemView*>();
+    auto* table = openWith(list, {"/games/FS2002\\flights"});
     ASSERT_NE(table, nullptr);
     const QString separator = QDir::separator();
     EXPECT_EQ(table->model()->index(0, 0).data().toString(),
@@ -234,15 +233,8 @@ TEST_F(Controls, AFolderReadsAsAPathOfThisComputer) {
 }
 
 TEST_F(Controls, ACutRowIsShownWholeBesideThePointer) {
-    open(forms().DirForm);
-    auto& list = forms().DirForm.File1;
     const std::string whole = "A flight with a name that no list of this width has room for.pln";
-    stage().desk().act([&] {
-        list.clear();
-        list.add(whole);
-        list.add("short.pln");
-    });
-    auto* table = stage().widget(list).findChild<QAbstractItemView*>();
+    auto* table = openWith(forms().DirForm.File1, {whole, "short.pln"});
     ASSERT_NE(table, nullptr);
     const auto point = [&](int row) {
         const QPoint at = table->visualRect(table->model()->index(row, 0)).center();

@@ -1,6 +1,7 @@
 #include "gt1/Transliterate.h"
 
 #include "platform/Text.h"
+#include "platform/Utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -72,24 +73,7 @@ constexpr auto vietnamese = std::to_array<Vowels>({
     {0x1EF2, 0x1EF9, "Yy"},
 });
 
-/// Length of the UTF-8 sequence at the beginning, 0 when there is none; `code` receives the code point.
-std::size_t decode(std::string_view utf8, std::uint32_t& code) {
-    const auto byte = [&](std::size_t i) { return static_cast<std::uint8_t>(utf8[i]); };
-    const std::uint8_t lead = byte(0);
-    if (lead < 0x80) return code = lead, 1;
-    const std::size_t length = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    if (lead < 0xC2 || lead > 0xF4 || utf8.size() < length) return 0;
-    code = lead & (0x7FU >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xC0U) != 0x80U) return 0;
-        code = code << 6 | (byte(i) & 0x3FU);
-    }
-    constexpr std::array<std::uint32_t, 5> smallest{0, 0, 0x80, 0x800, 0x10000};
-    const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
-    return code < smallest[length] || surrogate || code > 0x10FFFF ? 0 : length;
-}
-
-std::string_view latinFor(std::uint32_t code) {
+std::string_view latinFor(char32_t code) {
     const auto holds = [&](const auto& row) { return code >= row.first && code <= row.last; };
     if (const auto* row = std::find_if(nearest.begin(), nearest.end(), holds); row != nearest.end())
         return row->latin;
@@ -102,8 +86,8 @@ std::string_view latinFor(std::uint32_t code) {
 Converted converted(std::string_view utf8) {
     Converted out;
     while (!utf8.empty()) {
-        std::uint32_t code = 0;
-        const std::size_t length = decode(utf8, code);
+        char32_t code = 0;
+        const std::size_t length = decodeUtf8(utf8, 0, code);
         if (length == 0) {
             out.broken = true;
             return out;

@@ -4,9 +4,6 @@
 #include "platform/posix/ProcessTable.h"
 #include "platform/posix/WinePrefix.h"
 
-#include <algorithm>
-#include <csignal>
-#include <fcntl.h>
 #include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -69,7 +66,8 @@ public:
     /// Window managers take such requests through a tool of their own; without it the pilot switches by hand.
     void bringSimulatorToFront() override {
         const fs::path tool = installed("wmctrl");
-        if (!tool.empty()) spawn({tool.string(), "-x", "-a", "fs2002.exe"}, {}, std::nullopt);
+        if (!tool.empty())
+            spawn({tool.string(), "-x", "-a", std::string(kSimulatorProgram)}, {}, std::nullopt);
     }
 
     int start(const std::string& file, const std::string& parameters, const std::string& folder) override {

@@ -14,14 +14,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kSimulator = "fs2002.exe";
-
 bool namesSimulator(std::string_view commandLine) {
     for (int i = 0; i < 3 && !commandLine.empty(); ++i) {
         const auto end = commandLine.find('\0');
         const std::string_view argument = commandLine.substr(0, end);
         const auto slash = argument.find_last_of("/\\");
-        if (equalNoCase(slash == std::string_view::npos ? argument : argument.substr(slash + 1), kSimulator))
+        if (equalNoCase(slash == std::string_view::npos ? argument : argument.substr(slash + 1),
+                        kSimulatorProgram))
             return true;
         commandLine.remove_prefix(end == std::string_view::npos ? commandLine.size() : end + 1);
     }
