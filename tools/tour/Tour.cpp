@@ -192,7 +192,7 @@ void Tour::notices() {
     briefly("message-box", f_.MsgBox);
     briefly("splash", f_.SplashForm);
     then([this] {
-        stage_.window.desktop.notify("There is no printer. The plan has been printed to a file.");
+        stage_.window.desktop.notify("There is no printer. The pages lie in Printouts/Printout 1.pdf");
     });
     takeLater("note");
 }
