@@ -19,6 +19,7 @@ ROOMS = {
     "selection": {"plan", "schedule", "platform"},
     "export": {"plan", "schedule", "platform"},
     "simulator": {"plan", "schedule", "platform"},
+    "gt1": {"plan", "schedule", "platform"},
     "logbook": {"platform"},
     "sound": {"platform"},
     "sound_openal": {"sound", "platform"},
