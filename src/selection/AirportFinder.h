@@ -2,32 +2,36 @@
 
 #include "schedule/Records.h"
 
-#include <array>
 #include <cstdint>
-#include <string>
 #include <string_view>
 #include <vector>
 
 namespace gatewise {
 
-/// The four text fields of all airports in one block, letters folded to one case, so that a search is one
-/// pass over memory. Made once for each load of the table.
+/// The search for airports by a piece of text, without regard to case. It keeps the text fields of all
+/// airports folded to one case; made once for each load of the table.
 class AirportFinder {
 public:
-    AirportFinder() : AirportFinder(std::vector<AirportRecord>()) {}
+    AirportFinder() = default;
     explicit AirportFinder(const std::vector<AirportRecord>& airports);
 
-    /// Airports in table order whose Iata, Icao, Name or City, blanks of the padding included, holds the text
-    /// without regard to case. An empty text is found nowhere.
+    /// Airports in table order whose Iata, Icao, Name or City, blanks of the padding included, holds the
+    /// text. An empty text is found nowhere.
     [[nodiscard]] std::vector<std::int32_t> find(std::string_view text) const;
 
     /// Whether find would name this airport; false outside the table.
     [[nodiscard]] bool matches(std::int32_t airport, std::string_view text) const;
 
 private:
-    std::string folded_;
-    std::size_t airports_ = 0;
-    std::array<std::uint32_t, 256> frequency_{}; // of each character in the block
+    struct Fields {
+        FixedText<3> Iata;
+        FixedText<4> Icao;
+        FixedText<35> Name;
+        FixedText<33> City;
+
+        [[nodiscard]] bool hold(std::string_view folded) const;
+    };
+    std::vector<Fields> airports_;
 };
 
 } // namespace gatewise
