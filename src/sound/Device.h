@@ -30,6 +30,18 @@ inline constexpr std::int32_t kLowestFrequency = 100;
 inline constexpr std::int32_t kHighestFrequency = 100000;
 inline constexpr std::int32_t kStereoSpeakers = 4;
 
+/// What one buffer plays by.
+struct SoundSettings {
+    std::int32_t volume = kHighestVolume;
+    std::int32_t pan = 0;
+    std::int32_t frequency = 8000;
+
+    /// Each takes a value of its range; false, and nothing changes, for any other.
+    bool setVolume(std::int32_t value);
+    bool setPan(std::int32_t value);
+    bool setFrequency(std::int32_t value);
+};
+
 /// The output of sound: buffers made from wave files, each with its own loudness, side and rate, all mixed.
 /// A device that has nothing to play on pretends; it never tells the pilot. Calls on a buffer that does not
 /// exist do nothing, and so do values out of range.

@@ -13,17 +13,17 @@ void SilentDevice::close() {
     settings_.clear();
 }
 
-SilentDevice::Settings* SilentDevice::find(SoundBuffer buffer) {
+SoundSettings* SilentDevice::find(SoundBuffer buffer) {
     const auto found = settings_.find(buffer);
     return found != settings_.end() ? &found->second : nullptr;
 }
 
-const SilentDevice::Settings* SilentDevice::find(SoundBuffer buffer) const {
+const SoundSettings* SilentDevice::find(SoundBuffer buffer) const {
     const auto found = settings_.find(buffer);
     return found != settings_.end() ? &found->second : nullptr;
 }
 
-SoundBuffer SilentDevice::add(const Settings& settings) {
+SoundBuffer SilentDevice::add(const SoundSettings& settings) {
     const auto buffer = static_cast<SoundBuffer>(++last_);
     settings_.emplace(buffer, settings);
     return buffer;
@@ -38,8 +38,8 @@ SoundBuffer SilentDevice::load(const std::string& path) {
 }
 
 SoundBuffer SilentDevice::duplicate(SoundBuffer buffer) {
-    const Settings* settings = find(buffer);
-    return settings != nullptr ? add(Settings(*settings)) : SoundBuffer::None;
+    const SoundSettings* settings = find(buffer);
+    return settings != nullptr ? add(SoundSettings(*settings)) : SoundBuffer::None;
 }
 
 void SilentDevice::release(SoundBuffer buffer) {
@@ -51,32 +51,29 @@ void SilentDevice::play(SoundBuffer, bool) {}
 void SilentDevice::stop(SoundBuffer) {}
 
 void SilentDevice::setVolume(SoundBuffer buffer, std::int32_t volume) {
-    if (volume < kLowestVolume || volume > kHighestVolume) return;
-    if (Settings* settings = find(buffer); settings != nullptr) settings->volume = volume;
+    if (SoundSettings* settings = find(buffer); settings != nullptr) settings->setVolume(volume);
 }
 
 void SilentDevice::setPan(SoundBuffer buffer, std::int32_t pan) {
-    if (pan < -kFarthestPan || pan > kFarthestPan) return;
-    if (Settings* settings = find(buffer); settings != nullptr) settings->pan = pan;
+    if (SoundSettings* settings = find(buffer); settings != nullptr) settings->setPan(pan);
 }
 
 void SilentDevice::setFrequency(SoundBuffer buffer, std::int32_t frequency) {
-    if (frequency < kLowestFrequency || frequency > kHighestFrequency) return;
-    if (Settings* settings = find(buffer); settings != nullptr) settings->frequency = frequency;
+    if (SoundSettings* settings = find(buffer); settings != nullptr) settings->setFrequency(frequency);
 }
 
 std::optional<std::int32_t> SilentDevice::volume(SoundBuffer buffer) const {
-    const Settings* settings = find(buffer);
+    const SoundSettings* settings = find(buffer);
     return settings != nullptr ? std::optional(settings->volume) : std::nullopt;
 }
 
 std::optional<std::int32_t> SilentDevice::pan(SoundBuffer buffer) const {
-    const Settings* settings = find(buffer);
+    const SoundSettings* settings = find(buffer);
     return settings != nullptr ? std::optional(settings->pan) : std::nullopt;
 }
 
 std::optional<std::int32_t> SilentDevice::frequency(SoundBuffer buffer) const {
-    const Settings* settings = find(buffer);
+    const SoundSettings* settings = find(buffer);
     return settings != nullptr ? std::optional(settings->frequency) : std::nullopt;
 }
 

@@ -31,16 +31,11 @@ public:
     [[nodiscard]] std::size_t buffers() const { return settings_.size(); }
 
 private:
-    struct Settings {
-        std::int32_t volume = 0;
-        std::int32_t pan = 0;
-        std::int32_t frequency = 8000;
-    };
-    Settings* find(SoundBuffer buffer);
-    [[nodiscard]] const Settings* find(SoundBuffer buffer) const;
-    SoundBuffer add(const Settings& settings);
+    SoundSettings* find(SoundBuffer buffer);
+    [[nodiscard]] const SoundSettings* find(SoundBuffer buffer) const;
+    SoundBuffer add(const SoundSettings& settings);
 
-    std::map<SoundBuffer, Settings> settings_;
+    std::map<SoundBuffer, SoundSettings> settings_;
     std::uint32_t last_ = 0;
     std::int32_t speakers_ = 0;
 };

@@ -79,7 +79,7 @@ SoundBuffer OpenAlDevice::load(const std::string& path) {
     auto wave = readWave(*file);
     if (!wave) return SoundBuffer::None;
     OpenAlVoice voice;
-    voice.frequency = wave->rate;
+    voice.settings.frequency = wave->rate;
     voice.sound = std::make_shared<OpenAlSound>();
     voice.sound->wave = std::move(*wave);
     return add(std::move(voice));
@@ -123,40 +123,34 @@ void OpenAlDevice::stop(SoundBuffer buffer) {
 void OpenAlDevice::setVolume(SoundBuffer buffer, std::int32_t volume) {
     catchUp();
     OpenAlVoice* voice = find(buffer);
-    if (voice == nullptr || volume < kLowestVolume || volume > kHighestVolume) return;
-    voice->volume = volume;
-    applySettings(*voice);
+    if (voice != nullptr && voice->settings.setVolume(volume)) applySettings(*voice);
 }
 
 void OpenAlDevice::setPan(SoundBuffer buffer, std::int32_t pan) {
     catchUp();
     OpenAlVoice* voice = find(buffer);
-    if (voice == nullptr || pan < -kFarthestPan || pan > kFarthestPan) return;
-    voice->pan = pan;
-    applySettings(*voice);
+    if (voice != nullptr && voice->settings.setPan(pan)) applySettings(*voice);
 }
 
 void OpenAlDevice::setFrequency(SoundBuffer buffer, std::int32_t frequency) {
     catchUp();
     OpenAlVoice* voice = find(buffer);
-    if (voice == nullptr || frequency < kLowestFrequency || frequency > kHighestFrequency) return;
-    voice->frequency = frequency;
-    applySettings(*voice);
+    if (voice != nullptr && voice->settings.setFrequency(frequency)) applySettings(*voice);
 }
 
 std::optional<std::int32_t> OpenAlDevice::volume(SoundBuffer buffer) const {
     const OpenAlVoice* voice = find(buffer);
-    return voice != nullptr ? std::optional(voice->volume) : std::nullopt;
+    return voice != nullptr ? std::optional(voice->settings.volume) : std::nullopt;
 }
 
 std::optional<std::int32_t> OpenAlDevice::pan(SoundBuffer buffer) const {
     const OpenAlVoice* voice = find(buffer);
-    return voice != nullptr ? std::optional(voice->pan) : std::nullopt;
+    return voice != nullptr ? std::optional(voice->settings.pan) : std::nullopt;
 }
 
 std::optional<std::int32_t> OpenAlDevice::frequency(SoundBuffer buffer) const {
     const OpenAlVoice* voice = find(buffer);
-    return voice != nullptr ? std::optional(voice->frequency) : std::nullopt;
+    return voice != nullptr ? std::optional(voice->settings.frequency) : std::nullopt;
 }
 
 void OpenAlDevice::playOnce(const std::string& path) {

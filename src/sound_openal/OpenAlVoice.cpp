@@ -104,9 +104,9 @@ void applySettings(const OpenAlVoice& voice) {
     alcSuspendContext(alcGetCurrentContext());
     for (const Side side : {Side::Left, Side::Right}) {
         const ALuint source = voice.sources[static_cast<std::size_t>(side)];
-        alSourcef(source, AL_GAIN, sideGain(side, voice.volume, voice.pan));
+        alSourcef(source, AL_GAIN, sideGain(side, voice.settings.volume, voice.settings.pan));
         alSourcef(source, AL_PITCH,
-                  static_cast<float>(voice.frequency) / static_cast<float>(voice.sound->wave.rate));
+                  static_cast<float>(voice.settings.frequency) / static_cast<float>(voice.sound->wave.rate));
     }
     alcProcessContext(alcGetCurrentContext());
 }
@@ -130,7 +130,7 @@ std::int64_t frameNow(const OpenAlVoice& voice, std::chrono::steady_clock::time_
     const std::size_t frameSize = std::size_t{voice.sound->wave.channels} * voice.sound->wave.bits / 8;
     const auto length = static_cast<std::int64_t>(voice.sound->wave.samples.size() / frameSize);
     const double seconds = std::chrono::duration<double>(now - voice.started).count();
-    const auto frame = static_cast<std::int64_t>(seconds * voice.frequency);
+    const auto frame = static_cast<std::int64_t>(seconds * voice.settings.frequency);
     if (voice.loop) return frame % length;
     return frame < length ? frame : -1;
 }

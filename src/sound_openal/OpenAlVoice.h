@@ -1,5 +1,6 @@
 #pragma once
 
+#include "sound/Device.h"
 #include "sound/WaveFile.h"
 
 #include <AL/al.h>
@@ -24,9 +25,7 @@ struct OpenAlSound {
 
 struct OpenAlVoice {
     std::shared_ptr<OpenAlSound> sound;
-    std::int32_t volume = 0;
-    std::int32_t pan = 0;
-    std::int32_t frequency = 8000;
+    SoundSettings settings;
     bool playing = false; // was started and not stopped; it may have run out
     bool loop = false;
     std::chrono::steady_clock::time_point started{};
