@@ -58,7 +58,7 @@ std::string acsGpsPlan(const Plan& plan, const NumberLocale& numbers) {
     blocks.add(plan.departureAirport);
     forEnRoute(plan, [&](int, const PlanPoint& point) {
         const std::string_view name = point.pointName.view();
-        switch (exportKind(point)) {
+        switch (point.kind()) {
         case PointKind::Vor:
         case PointKind::Ndb:
             blocks.add(name,

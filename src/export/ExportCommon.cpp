@@ -4,29 +4,6 @@
 
 namespace gatewise {
 
-namespace {
-
-struct KindRow {
-    std::string_view pointType;
-    PointKind kind;
-};
-
-constexpr KindRow kKinds[] = {
-    {"V ", PointKind::Vor},        {"HV", PointKind::Vor},          {"N ", PointKind::Ndb},
-    {"HN", PointKind::Ndb},        {"I ", PointKind::Intersection}, {"HI", PointKind::Intersection},
-    {"TC", PointKind::TopOfClimb}, {"TD", PointKind::TopOfDescent}, {"SU", PointKind::Step},
-    {"SD", PointKind::Step},
-};
-
-} // namespace
-
-PointKind exportKind(const PlanPoint& point) {
-    for (const auto& row : kKinds) {
-        if (point.pointType.view() == row.pointType) return row.kind;
-    }
-    return PointKind::Other;
-}
-
 std::string singleBackslashes(std::string_view path) {
     return replaceAll(path, "\\\\", "\\");
 }

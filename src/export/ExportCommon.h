@@ -19,12 +19,6 @@ struct ExportFlight {
     bool HaveAlternate = false;
 };
 
-/// What a point is to other programs.
-enum class PointKind { Vor, Ndb, Intersection, TopOfClimb, TopOfDescent, Step, Other };
-
-/// By both characters of `pointType`; a fix of the high-altitude file is what it stands on.
-PointKind exportKind(const PlanPoint& point);
-
 /// Calls `act(i, point)` for each point between the airports, in plan order.
 template<class Act> void forEnRoute(const Plan& plan, Act&& act) {
     for (int i = 1; i < plan.planLast; ++i) act(i, plan.at(i));

@@ -6,19 +6,18 @@ namespace gatewise {
 
 namespace {
 
-struct KindWord {
-    std::string_view pointType;
-    std::string_view word;
-};
-
-constexpr KindWord kKindWords[] = {
-    {"HI", "I+LOCWAY"}, {"HV", "V+LOCWAY"}, {"HN", "N+LOCWAY"}, {"I ", "I"}, {"V ", "V"}, {"N ", "N"},
-};
-
-std::string joined(std::initializer_list<std::string_view> parts) {
-    std::string text;
-    for (const auto part : parts) text += part;
-    return text;
+/// A point of no known type keeps the word of the point before.
+std::string_view kindWord(const PlanPoint& point, std::string_view before) {
+    switch (point.kind()) {
+    case PointKind::Intersection:
+        return point.highAltitude() ? "I+LOCWAY" : "I";
+    case PointKind::Vor:
+        return point.highAltitude() ? "V+LOCWAY" : "V";
+    case PointKind::Ndb:
+        return point.highAltitude() ? "N+LOCWAY" : "N";
+    default:
+        return before;
+    }
 }
 
 std::string position(float latitude, float longitude, const NumberLocale& numbers) {
@@ -36,8 +35,8 @@ std::string airportWaypoint(const PlanAirport& airport, const NumberLocale& numb
 }
 
 /// The altitude's text brings its own "+": the simulator's plans are written with both.
-std::string fixWaypoint(const PlanPoint& point, std::string_view kindWord, const NumberLocale& numbers) {
-    return joined({point.pointId.trimmed(), ", ", kindWord, ", ",
+std::string fixWaypoint(const PlanPoint& point, std::string_view word, const NumberLocale& numbers) {
+    return joined({point.pointId.trimmed(), ", ", word, ", ",
                    position(point.pointLatitude, point.pointLongitude, numbers), ", +",
                    altitudeText(point.pointAltitude, numbers), ",", point.pointAirway.view()});
 }
@@ -75,13 +74,11 @@ std::string fs2000Plan(const Plan& plan, const ExportFlight& flight, const Numbe
     out.key("alternate_name", flight.HaveAlternate ? alternate.Name.trimmed() : "");
     out.waypoint(airportWaypoint(from, numbers));
 
-    std::string_view kindWord; // a point of no known type keeps that of the point before
+    std::string_view word;
     forEnRoute(plan, [&](int, const PlanPoint& point) {
         if (point.computed()) return;
-        for (const auto& row : kKindWords) {
-            if (point.pointType.view() == row.pointType) kindWord = row.word;
-        }
-        out.waypoint(fixWaypoint(point, kindWord, numbers));
+        word = kindWord(point, word);
+        out.waypoint(fixWaypoint(point, word, numbers));
     });
     out.waypoint(airportWaypoint(to, numbers));
     return out.lines_.text();

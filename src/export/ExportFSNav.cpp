@@ -12,7 +12,7 @@ FsnFix fixAt(const PlanAirport& airport) {
 
 /// A point of no known type keeps the kind of the record before.
 std::int16_t kindOf(const PlanPoint& point, std::int16_t before) {
-    switch (exportKind(point)) {
+    switch (point.kind()) {
     case PointKind::Intersection:
         return 4;
     case PointKind::Ndb:

@@ -33,7 +33,7 @@ struct Tops {
 Tops topsOf(const Plan& plan) {
     Tops tops;
     forEnRoute(plan, [&](int i, const PlanPoint& point) {
-        const PointKind kind = exportKind(point);
+        const PointKind kind = point.kind();
         if (kind == PointKind::TopOfClimb) tops.climb = i;
         if (kind == PointKind::TopOfDescent) tops.descent = i;
     });
@@ -49,7 +49,7 @@ double phaseSpeed(const Plan& plan, int row, const Tops& tops) {
 
 /// Empty for points that write no line.
 std::string_view prefixOf(const PlanPoint& point) {
-    switch (exportKind(point)) {
+    switch (point.kind()) {
     case PointKind::Vor:
         return "V";
     case PointKind::Ndb:

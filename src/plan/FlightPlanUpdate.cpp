@@ -130,8 +130,8 @@ private:
         steps_.altitude = plan_.cruiseAltitude;
         steps_.minutes += leg_ * 60 / ((a + b) / 2);
         const PlanPoint& point = plan_.at(i);
-        const bool top =
-            mark_ == DescentMark::Type ? point.pointType.view() == "TD" : point.pointName.view() == "*TOD*";
+        const bool top = mark_ == DescentMark::Type ? point.kind() == PointKind::TopOfDescent
+                                                    : point.pointName.view() == "*TOD*";
         if (top) phase_ = plan_.cruiseAltitude > 25000 ? 4 : plan_.cruiseAltitude > 10000 ? 5 : 6;
         return true;
     }

@@ -16,19 +16,18 @@ constexpr double kDegree = std::numbers::pi / 180;
 // Room around the drawn part of the sheet.
 constexpr double kLeft = 0.09, kRight = 0.97, kTop = 0.08, kBottom = 0.88;
 
-struct ToneRow {
-    const char* type;
-    Tone tone;
-};
-
-constexpr ToneRow kTones[] = {{"TC", Tone::Top}, {"TD", Tone::Top}, {"SU", Tone::Step}, {"SD", Tone::Step}};
-
 Tone toneOf(const Plan& plan, int i) {
     if (i == 0 || i == plan.planLast) return Tone::Airport;
-    for (const auto& row : kTones) {
-        if (plan.at(i).pointType.view() == row.type) return row.tone;
+    switch (plan.at(i).kind()) {
+    case PointKind::TopOfClimb:
+    case PointKind::TopOfDescent:
+        return Tone::Top;
+    case PointKind::StepClimb:
+    case PointKind::StepDescent:
+        return Tone::Step;
+    default:
+        return Tone::Fix;
     }
-    return Tone::Fix;
 }
 
 bool drawable(const Plan& plan) {

@@ -15,6 +15,9 @@ namespace gatewise {
 /// Points a plan can hold, 0 to kPlanPoints - 1.
 inline constexpr int kPlanPoints = 200;
 
+/// What a point is.
+enum class PointKind { Vor, Ndb, Intersection, TopOfClimb, TopOfDescent, StepClimb, StepDescent, Other };
+
 struct PlanPoint {
     FixedText<7> pointId; // key of the fix; "*TOC*", "*TOD*", "STEPC", "STEPD" for computed points
     FixedText<5> pointName;
@@ -40,11 +43,15 @@ struct PlanPoint {
         f("pointTotalDistance", r.pointTotalDistance);
     }
 
+    /// By both characters of pointType; a fix of the high-altitude file is what stands on its position. Other
+    /// for airports and for a type that no file of navigation data has.
+    [[nodiscard]] PointKind kind() const;
+
+    /// A fix of the high-altitude file: a VOR, an NDB or an intersection of an upper airway.
+    [[nodiscard]] bool highAltitude() const;
+
     /// Top of climb or descent, step climb or descent: made by the engine, not filed.
-    [[nodiscard]] bool computed() const {
-        const auto type = pointType.view();
-        return type == "TC" || type == "TD" || type == "SU" || type == "SD";
-    }
+    [[nodiscard]] bool computed() const;
 };
 
 /// An airport as the plan knows it.

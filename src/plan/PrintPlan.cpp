@@ -39,7 +39,8 @@ std::string blanks(std::size_t count) {
     return std::string(count, ' ');
 }
 
-double speedAt(const Plan& plan, int i) {
+/// Knots of the leg that ends at point i: the cruise where it is level, else the climb or the descent.
+double legSpeed(const Plan& plan, int i) {
     const std::int32_t altitude = plan.at(i).pointAltitude;
     const std::int32_t before = plan.at(i - 1).pointAltitude;
     if (altitude == before) return plan.speedSchedule[kCruiseSpeed];
@@ -104,7 +105,7 @@ private:
     void pointLines(int i) {
         const PlanPoint& point = plan_.at(i);
         const double total = point.pointTotalDistance;
-        const double speed = speedAt(plan_, i);
+        const double speed = legSpeed(plan_, i);
         const float magnetic =
             magnetic_.magneticHeading(point.pointLatitude, point.pointLongitude, point.pointHeading);
 

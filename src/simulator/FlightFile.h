@@ -45,8 +45,8 @@ struct WaypointSlots {
 };
 WaypointSlots waypointSlots(const Plan& plan, int pointIndex);
 
-/// The speed that the schedule gives for the altitude of a point, knots.
-double speedAt(const Plan& plan, int pointIndex);
+/// Knots at which a flight starts at a point: the speed schedule by the altitude alone, climbing or cruising.
+double startSpeed(const Plan& plan, int pointIndex);
 
 /// Autopilot on and paused, on the course of the leg that leaves the point.
 std::vector<ProfileValue> autopilotKeys(const Plan& plan, int pointIndex);

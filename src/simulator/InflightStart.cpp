@@ -29,7 +29,7 @@ constexpr int kEngines = 4; // whatever the aircraft has
 
 } // namespace
 
-double speedAt(const Plan& plan, int pointIndex) {
+double startSpeed(const Plan& plan, int pointIndex) {
     const std::int32_t altitude = plan.at(heldPoint(pointIndex)).pointAltitude;
     const std::size_t entry = altitude < 10001 ? 0 : altitude <= 25000 ? 1 : 3;
     return plan.speedSchedule[entry];
@@ -45,7 +45,7 @@ std::vector<ProfileValue> autopilotKeys(const Plan& plan, int pointIndex) {
         {"AutoPilot", "AltitudeLock", "True"},
         {"AutoPilot", "AltitudeValue", formatInteger("00000", plan.at(i).pointAltitude)},
         {"AutoPilot", "AirSpeedHold", "True"},
-        {"AutoPilot", "AirSpeedValue", formatNumber("00000", speedAt(plan, i))},
+        {"AutoPilot", "AirSpeedValue", formatNumber("00000", startSpeed(plan, i))},
         {"AutoPilot", "AutoThrottleArm", "True"},
     };
 }
@@ -59,7 +59,7 @@ std::vector<ProfileValue> inflightKeys(const Plan& plan, int pointIndex, const N
     };
     for (const char* key : kBeforeSpeed) keys.push_back({"SimVars", key, kZero});
     keys.push_back(
-        {"SimVars", "ZVelBodyAxis", formatNumber("000", speedAt(plan, i) * kBodyAxisUnits) + ".000000"});
+        {"SimVars", "ZVelBodyAxis", formatNumber("000", startSpeed(plan, i) * kBodyAxisUnits) + ".000000"});
     for (const char* key : kBehindSpeed) keys.push_back({"SimVars", key, kZero});
     for (int engine = 1; engine <= kEngines; ++engine) {
         for (const auto& row : kEngine) {

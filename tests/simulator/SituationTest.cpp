@@ -249,7 +249,7 @@ TEST(Autopilot, TheSpeedFollowsTheBands) {
     FlightWorld w;
     const auto at = [&](std::int32_t altitude) {
         w.plan.at(1).pointAltitude = altitude;
-        return speedAt(w.plan, 1);
+        return startSpeed(w.plan, 1);
     };
     EXPECT_EQ(at(10000), 240);
     EXPECT_EQ(at(10001), 270);
