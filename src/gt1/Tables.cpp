@@ -44,7 +44,7 @@ std::optional<CsvFile> readCsv(const std::filesystem::path& folder, std::string_
         report.unreadable(whole, "this table in " + folder.string(), error.message());
         return std::nullopt;
     }
-    CsvFile csv = parseCsv({reinterpret_cast<const char*>(bytes->data()), bytes->size()});
+    CsvFile csv = parseCsv(asText(*bytes));
     for (const BadQuote& bad : csv.badQuotes) {
         const auto column = static_cast<std::size_t>(bad.column);
         const bool named = !csv.rows.empty() && column <= csv.rows[0].cells.size();

@@ -31,6 +31,11 @@ inline ByteView viewOf(std::string_view text) {
     return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
 
+/// The bytes as a text; it lives as long as they do.
+inline std::string_view asText(ByteView bytes) {
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
+}
+
 namespace detail {
 
 template<class T> constexpr std::size_t fieldSize = sizeof(T);

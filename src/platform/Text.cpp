@@ -103,6 +103,12 @@ bool lessFolded(std::string_view a, std::string_view b) {
     });
 }
 
+std::string joined(std::initializer_list<std::string_view> parts) {
+    std::string text;
+    for (const auto part : parts) text += part;
+    return text;
+}
+
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to) {
     if (from.empty()) return std::string(text);
     std::string out;

@@ -4,6 +4,7 @@
 #include <array>
 #include <compare>
 #include <cstddef>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -29,6 +30,9 @@ bool containsNoCase(std::string_view text, std::string_view part);
 
 /// Orders by letters folded to one case, then as bytes: the order of lists that sort their items.
 bool lessFolded(std::string_view a, std::string_view b);
+
+/// The parts one after the other.
+std::string joined(std::initializer_list<std::string_view> parts);
 
 std::string replaceAll(std::string_view text, std::string_view from, std::string_view to);
 

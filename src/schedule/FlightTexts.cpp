@@ -30,12 +30,6 @@ const ClassRow* classRow(std::string_view code) {
     return nullptr;
 }
 
-std::string joined(std::initializer_list<std::string_view> parts) {
-    std::string text;
-    for (const auto part : parts) text += part;
-    return text;
-}
-
 } // namespace
 
 std::string airportListText(const AirportRecord& airport) {

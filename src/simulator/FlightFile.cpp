@@ -153,7 +153,7 @@ std::error_code WriteSituationFile(std::string_view templateFile, std::string_vi
     std::error_code error;
     const auto bytes = files::readAll(templateFile, &error);
     if (!bytes) return error;
-    Profile copy(std::string_view(reinterpret_cast<const char*>(bytes->data()), bytes->size()));
+    Profile copy(asText(*bytes));
     for (const auto& value : keys) copy.set(value.section, value.key, value.value);
     return files::replace(target, copy.content());
 }

@@ -42,7 +42,7 @@ Bytes headerFor(std::int32_t size) {
 /// Written as it goes, without a flush to the disk: the next announcement makes the file anew.
 bool write(const std::string& path, ByteView bytes) {
     std::ofstream file(files::resolve(path), std::ios::binary | std::ios::trunc);
-    file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    file << asText(bytes);
     file.close();
     return file.good();
 }

@@ -38,7 +38,7 @@ std::string makeProgramFolder(const std::string& program, const std::string& scr
     }
     const std::string config = files::textOf(to / "GT.cfg");
     const auto delivered = files::readAll(files::textOf(from / "GT.cfg")).value_or(Bytes());
-    Profile settings(std::string_view(reinterpret_cast<const char*>(delivered.data()), delivered.size()));
+    Profile settings(asText(delivered));
     settings.set("Main", "First", "Amelia");
     settings.set("Main", "Last", "Hart");
     if (const auto error = files::replace(config, settings.content())) throw std::system_error(error);

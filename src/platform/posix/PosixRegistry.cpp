@@ -24,8 +24,7 @@ bool holdsSimulator(const std::string& folder) {
 std::optional<std::string> installedIn(const fs::path& prefix) {
     const auto content = files::readAll((prefix / "system.reg").string());
     if (!content) return std::nullopt;
-    const std::string_view text(reinterpret_cast<const char*>(content->data()), content->size());
-    const auto folder = registryText(text, kKey, kValue);
+    const auto folder = registryText(asText(*content), kKey, kValue);
     if (!folder) return std::nullopt;
     const auto native = nativePath(prefix, *folder);
     if (!native) return std::nullopt;
