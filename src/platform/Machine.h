@@ -70,6 +70,8 @@ public:
     /// Tells the person at the desk something that the system's own screens have no words for (where a
     /// printout lies, what is missing to start the simulator). Does not wait.
     virtual void notify(const std::string& text) = 0;
+    /// Puts a text where other programs can paste it from.
+    virtual void copy(const std::string& text) = 0;
 };
 
 /// The registry value that names the simulator's folder, as read, without its terminator; nothing when the

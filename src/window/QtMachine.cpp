@@ -7,6 +7,7 @@
 #include "window/QtText.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDeadlineTimer>
 #include <QDesktopServices>
 #include <QFileDialog>
@@ -62,6 +63,10 @@ void QtDesktop::showHelp(const std::string& page) {
 
 void QtDesktop::notify(const std::string& text) {
     if (desk_ != nullptr) desk_->showNote(toQt(text));
+}
+
+void QtDesktop::copy(const std::string& text) {
+    QGuiApplication::clipboard()->setText(toQt(text));
 }
 
 void QtLoop::runModal(std::string_view, const std::function<bool()>& done) {

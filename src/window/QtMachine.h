@@ -31,6 +31,7 @@ public:
     void showHelp(const std::string& page) override;
     std::optional<std::string> askSavePath(const std::string& title, const std::string& proposal) override;
     void notify(const std::string& text) override;
+    void copy(const std::string& text) override;
 
 private:
     std::string folder_;

@@ -1,5 +1,6 @@
 #include "drive/Json.h"
 #include "drive/Arguments.h"
+#include "drive/FileText.h"
 
 #include <gtest/gtest.h>
 
@@ -41,6 +42,28 @@ TEST(Json, NumbersAreShortest) {
     EXPECT_EQ(written(true), "true");
     EXPECT_EQ(written(std::numeric_limits<double>::infinity()), "null");
     EXPECT_EQ(written(std::numeric_limits<float>::quiet_NaN()), "null");
+}
+
+TEST(Json, ExactSinglesReadBackAsTheSameValue) {
+    JsonWriter json;
+    json.exactSingles = true;
+    write(json, std::vector<float>{0.1F, 40.639801F, 16777216.0F, -73.771385F, 1e20F});
+    EXPECT_EQ(json.line(), "[0.1,40.6398,16777216,-73.771385,1e+20]");
+}
+
+TEST(FileText, IsUtf8OrWindows1252OrHex) {
+    const auto shown = [](std::string_view bytes) {
+        JsonWriter json;
+        writeFile(json, viewOf(bytes));
+        return json.line();
+    };
+    EXPECT_EQ(shown("a\tb\r\n"), R"({"text":"a\tb\r\n","encoding":"UTF-8"})");
+    EXPECT_EQ(shown(""), R"({"text":"","encoding":"UTF-8"})");
+    EXPECT_EQ(shown("caf\xC3\xA9"), "{\"text\":\"caf\u00E9\",\"encoding\":\"UTF-8\"}");
+    EXPECT_EQ(shown("caf\xE9 \x80"), "{\"text\":\"caf\u00E9 \u20AC\",\"encoding\":\"Windows-1252\"}");
+    EXPECT_EQ(shown("caf\xE9\x81"), R"({"hex":"636166e981"})");
+    EXPECT_EQ(shown(std::string_view("a\0b", 3)), R"({"hex":"610062"})");
+    EXPECT_EQ(shown("\x7F"), R"({"hex":"7f"})");
 }
 
 TEST(Json, RecordsAndLists) {

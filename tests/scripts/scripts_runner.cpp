@@ -1,3 +1,4 @@
+#include "scripts/Record.h"
 #include "scripts/Transcript.h"
 
 #include <cstdlib>
@@ -9,7 +10,8 @@
 // scripts_runner GTDRIVE PROGRAM_FOLDER SCRATCH_FOLDER TRANSCRIPT
 //
 // Plays a transcript against the driver on a fresh copy of the program folder and tells where the answers
-// differ. With --print in front the answers that came are printed as a transcript instead.
+// differ. With --print in front the answers that came are printed as a transcript instead; with --record they
+// are written into the transcript, and what changes there is printed.
 
 namespace gatewise::scripts {
 
@@ -92,8 +94,11 @@ void print(const Transcript& transcript, const Played& played) {
 }
 
 int run(std::vector<std::string> arguments) {
-    const bool printing = !arguments.empty() && arguments.front() == "--print";
-    if (printing) arguments.erase(arguments.begin());
+    std::string mode;
+    if (!arguments.empty() && arguments.front().starts_with("--")) {
+        mode = arguments.front();
+        arguments.erase(arguments.begin());
+    }
     if (arguments.size() != 4)
         throw std::runtime_error("expected driver, program folder, scratch folder, transcript");
     const fs::path file = arguments[3];
@@ -107,8 +112,13 @@ int run(std::vector<std::string> arguments) {
     if (transcript.steps.empty()) throw std::runtime_error(file.string() + " holds no command");
     for (const Setting& setting : transcript.settings) applySetting(setting, folder);
     const Played played = play(fs::absolute(arguments[0]), folder, scratch, transcript);
-    if (printing) {
+    if (mode == "--print") {
         print(transcript, played);
+        return EXIT_SUCCESS;
+    }
+    if (mode == "--record") {
+        std::cout << record(file, folder.string(), played.answers) << " answers changed in " << file.string()
+                  << '\n';
         return EXIT_SUCCESS;
     }
     if (compare(file, transcript, played) > 0) return EXIT_FAILURE;

@@ -129,7 +129,12 @@ std::string singleText(Program& p, float value) {
     return p.g.numbers.plainSingle(value);
 }
 
-constexpr Command kFunctions[] = {
+struct Function {
+    const char* name;
+    Outcome (*run)(Session& session, std::string_view rest);
+};
+
+constexpr Function kFunctions[] = {
     {"Distance", Call<distance>::run},
     {"offsetLatitude", Call<latitudeOffset>::run},
     {"offsetLongitude", Call<longitudeOffset>::run},
@@ -168,13 +173,14 @@ constexpr Command kFunctions[] = {
 
 Outcome call(Session& session, std::string_view rest) {
     const std::string_view name = takeWord(rest);
-    for (const Command& function : kFunctions) {
+    for (const Function& function : kFunctions) {
         if (function.name == name) return function.run(session, rest);
     }
     return "no function " + std::string(name);
 }
 
-constexpr Command kCallCommands[] = {{"call", call, true}};
+constexpr Command kCallCommands[] = {
+    {"call", "FUNCTION ARG ...", "shows the result of one function without side effects", call, true}};
 
 } // namespace
 

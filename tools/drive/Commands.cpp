@@ -33,19 +33,28 @@ Outcome quit(Session& session, std::string_view) {
     session.quit();
 }
 
+/// The commands, a line each.
+Outcome help(Session& session, std::string_view) {
+    for (const Command* command : allCommands()) {
+        const std::string words = *command->arguments == '\0' ? "" : " " + std::string(command->arguments);
+        JsonWriter json;
+        json.text(command->name + words + ": " + command->meaning);
+        session.print(json);
+    }
+    return kDone;
+}
+
 constexpr Command kRunCommands[] = {
-    {"start", start, true, true},
-    {"advance", advance},
-    {"tick", tick},
-    {"quit", quit, true, true},
+    {"start", "", "starts the program", start, true, true},
+    {"advance", "MS", "moves the clock by milliseconds and runs the timers that fall due", advance},
+    {"tick", "SCREEN.TIMER", "runs a timer's handler once", tick},
+    {"help", "", "shows the commands", help, true, true},
+    {"quit", "", "ends the tool without the program's own shutdown", quit, true, true},
 };
 
 const Command* findCommand(std::string_view name) {
-    for (const auto commands :
-         {machineCommands(), runCommands(), eventCommands(), lookCommands(), callCommands()}) {
-        for (const Command& command : commands) {
-            if (command.name == name) return &command;
-        }
+    for (const Command* command : allCommands()) {
+        if (command->name == name) return command;
     }
     return nullptr;
 }
@@ -58,6 +67,15 @@ std::string unexpected(std::string_view rest) {
 
 std::span<const Command> runCommands() {
     return kRunCommands;
+}
+
+std::vector<const Command*> allCommands() {
+    std::vector<const Command*> all;
+    for (const auto commands :
+         {machineCommands(), runCommands(), eventCommands(), lookCommands(), callCommands()}) {
+        for (const Command& command : commands) all.push_back(&command);
+    }
+    return all;
 }
 
 Outcome runCommand(Session& session, std::string_view line) {

@@ -4,6 +4,7 @@
 #include "drive/Session.h"
 
 #include <span>
+#include <vector>
 
 namespace gatewise::drive {
 
@@ -11,9 +12,12 @@ namespace gatewise::drive {
 using Outcome = std::optional<std::string>;
 inline constexpr std::nullopt_t kDone = std::nullopt;
 
-/// A command's word and what carries it out, given the rest of the line.
+/// A command's word, what stands behind it and what it does in words, and what carries it out, given the rest
+/// of the line.
 struct Command {
     const char* name;
+    const char* arguments;
+    const char* meaning;
     Outcome (*run)(Session& session, std::string_view rest);
     bool beforeStart = false; // can be given before the program was started
     bool alone = false;       // a word of its own, nothing comes behind it
@@ -28,6 +32,9 @@ std::span<const Command> runCommands();
 std::span<const Command> eventCommands();
 std::span<const Command> lookCommands();
 std::span<const Command> callCommands();
+
+/// Every command, in the order of the lists above.
+std::vector<const Command*> allCommands();
 
 /// Carries out one line.
 Outcome runCommand(Session& session, std::string_view line);

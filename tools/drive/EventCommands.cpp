@@ -1,5 +1,6 @@
 #include "drive/Commands.h"
 #include "drive/Controls.h"
+#include "drive/Escape.h"
 #include "screens/UserEvents.h"
 
 #include <algorithm>
@@ -7,6 +8,8 @@
 namespace gatewise::drive {
 
 namespace {
+
+constexpr long long kMostRepeats = 100000; // of a key that is held
 
 /// The modal screen that keeps input from `screen`: everything behind it waits, what came up over it does
 /// not.
@@ -78,16 +81,37 @@ Outcome drag(Session& session, std::string_view rest) {
     return kDone;
 }
 
+/// "held N" behind a key's name: a held key does what one press does, whatever the number of its repeats.
+Outcome refuseHeld(std::string_view rest) {
+    if (rest.empty()) return kDone;
+    const bool held = takeWord(rest) == "held";
+    const auto repeats = integerArgument(rest);
+    if (!held || !repeats || *repeats < 0 || *repeats > kMostRepeats) return "expected held and a number";
+    return kDone;
+}
+
+Outcome escapeScreen(Session& session, Screen& screen, std::string_view rest) {
+    if (rest != "escape") return "expected escape";
+    if (Outcome refused = refuseScreen(session.program().forms, screen)) return refused;
+    if (screen.visible) pressEscape(screen);
+    return kDone;
+}
+
 Outcome key(Session& session, std::string_view rest) {
+    std::string_view words = rest;
+    Screen* screen = session.program().forms.find(takeWord(words));
+    if (screen != nullptr) return escapeScreen(session, *screen, words);
     Control* control = nullptr;
     if (Outcome refused = reach(session, rest, control)) return refused;
-    if (rest == "enter") {
+    const std::string_view name = takeWord(rest);
+    if (name != "enter" && name != "space" && name != "escape") return "expected enter, space or escape";
+    if (Outcome refused = refuseHeld(rest)) return refused;
+    if (name == "enter")
         user::enter(*control);
-    } else if (rest == "space") {
+    else if (name == "space")
         user::space(*control);
-    } else {
-        return "expected enter or space";
-    }
+    else if (control->enabled && control->screen->visible)
+        pressEscape(*control->screen);
     return kDone;
 }
 
@@ -163,21 +187,22 @@ Outcome path(Session& session, std::string_view rest) {
 }
 
 constexpr Command kEventCommands[] = {
-    {"click", plain<user::click>},
-    {"dblclick", plain<user::doubleClick>},
-    {"press", plain<press>},
-    {"release", plain<release>},
-    {"rightdown", plain<user::rightPress>},
-    {"move", plain<move>},
-    {"drag", drag},
-    {"focus", plain<user::focus>},
-    {"key", key},
-    {"type", type},
-    {"choose", choose},
-    {"check", check},
-    {"slide", slide},
-    {"column", column},
-    {"path", path},
+    {"click", "C", "a full click with the left button", plain<user::click>},
+    {"dblclick", "C", "a double click with the left button", plain<user::doubleClick>},
+    {"press", "C", "left button down", plain<press>},
+    {"release", "C", "left button up", plain<release>},
+    {"rightdown", "C", "right button down", plain<user::rightPress>},
+    {"move", "C", "the mouse moves over the control", plain<move>},
+    {"drag", "SCREEN DX DY", "drags a screen by its ground, in pixels", drag},
+    {"focus", "C", "the control gets the input focus", plain<user::focus>},
+    {"key", "C enter|space|escape [held N]",
+     "a key in a control, held down for N repeats; escape also in a screen", key},
+    {"type", "C TEXT", "the text of a text box is replaced by typing", type},
+    {"choose", "C N", "picks item or row N, from 0", choose},
+    {"check", "C V", "sets a check box (0, 1) or an option box (1)", check},
+    {"slide", "C V", "sets a slider or up-down control", slide},
+    {"column", "C N", "clicks the head of column N, from 0", column},
+    {"path", "C TEXT", "moves a drive or folder list", path},
 };
 
 } // namespace

@@ -74,9 +74,13 @@ void JsonWriter::key(std::string_view name) {
 }
 
 void JsonWriter::text(std::string_view windows1252) {
+    utf8(utf8FromText(windows1252));
+}
+
+void JsonWriter::utf8(std::string_view text) {
     separate();
     line_ += '"';
-    for (const char c : utf8FromText(windows1252)) {
+    for (const char c : text) {
         const auto code = static_cast<unsigned char>(c);
         if (const auto at = kMeanings.find(c); at != std::string_view::npos) {
             line_ += '\\';
@@ -105,7 +109,14 @@ void JsonWriter::null() {
 }
 
 void JsonWriter::single(float value) {
-    raw(std::isfinite(value) ? plainSingle(value) : "null");
+    if (!std::isfinite(value)) {
+        null();
+    } else if (exactSingles) {
+        char digits[32];
+        raw({digits, std::to_chars(digits, digits + sizeof digits, value).ptr});
+    } else {
+        raw(plainSingle(value));
+    }
 }
 
 void JsonWriter::number(double value) {

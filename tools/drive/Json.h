@@ -25,6 +25,7 @@ public:
     void key(std::string_view name);
 
     void text(std::string_view windows1252);
+    void utf8(std::string_view text);
     void boolean(bool value);
     void integer(long long value);
     void null();
@@ -33,6 +34,9 @@ public:
     void number(double value);
     /// A value that is JSON already.
     void raw(std::string_view json);
+
+    /// Singles get the fewest digits that read back as the same value instead.
+    bool exactSingles = false;
 
 private:
     void open(char bracket);

@@ -1,8 +1,10 @@
 #include "drive/Looking.h"
 
 #include "drive/Commands.h"
+#include "drive/FileText.h"
 #include "drive/GlobalsTable.h"
 #include "drive/Properties.h"
+#include "platform/Files.h"
 
 namespace gatewise::drive {
 
@@ -67,8 +69,10 @@ Outcome assign(Session& session, std::string_view rest) {
     return "no value for " + std::string(name);
 }
 
-Outcome plan(Session& session, std::string_view) {
+Outcome plan(Session& session, std::string_view rest) {
+    if (!rest.empty() && rest != "exact") return unexpected(rest);
     JsonWriter json;
+    json.exactSingles = rest == "exact";
     writePlan(json, session.program().g.plan);
     session.print(json);
     return kDone;
@@ -88,18 +92,42 @@ template<void (*Write)(Session&, JsonWriter&)> Outcome taken(Session& session, s
     return kDone;
 }
 
+Outcome file(Session& session, std::string_view rest) {
+    const auto path = pathArgument(rest);
+    if (!path) return "broken text";
+    std::error_code error;
+    const auto size = std::filesystem::file_size(files::resolve(*path), error);
+    if (error || !files::fileExists(*path)) return "no file " + std::string(rest);
+    if (size > kLongestShown) return "longer than 1 MB: " + std::string(rest);
+    const auto bytes = files::readAll(*path);
+    if (!bytes) return "cannot read " + std::string(rest);
+    JsonWriter json;
+    writeFile(json, *bytes);
+    session.print(json);
+    return kDone;
+}
+
+Outcome clipboard(Session& session, std::string_view) {
+    JsonWriter json;
+    json.text(session.machine().desktop.clipboard);
+    session.print(json);
+    return kDone;
+}
+
 /// What needs no screen can be looked at before the program was started.
 constexpr Command kLookCommands[] = {
-    {"get", get},
-    {"dump", dump},
-    {"shown", shown, true, true},
-    {"global", global, true},
-    {"plan", plan, true, true},
-    {"assign", assign, true},
-    {"sounds", taken<writeSounds>, true, true},
-    {"launches", taken<writeLaunches>, true, true},
-    {"printed", taken<writePrinted>, true, true},
-    {"pointer", pointer, true, true},
+    {"get", "C [PROPERTY]", "shows a control's main value, or one property of a control or screen", get},
+    {"dump", "SCREEN", "shows all controls of a screen", dump},
+    {"shown", "", "shows the visible screens, the one in front first", shown, true, true},
+    {"global", "NAME", "shows a piece of the global state", global, true},
+    {"plan", "[exact]", "shows the flight plan, exact: with all digits of its numbers", plan, true},
+    {"assign", "NAME VALUE", "sets a global that calls depend on", assign, true},
+    {"sounds", "", "shows the sound operations since the last time", taken<writeSounds>, true, true},
+    {"launches", "", "shows the programs started since the last time", taken<writeLaunches>, true, true},
+    {"printed", "", "shows the texts printed since the last time", taken<writePrinted>, true, true},
+    {"pointer", "", "shows the mouse pointer: normal or busy", pointer, true, true},
+    {"file", "PATH", "shows a written file of at most 1 MB", file, true},
+    {"clipboard", "", "shows the text that was put there last", clipboard, true, true},
 };
 
 } // namespace

@@ -126,9 +126,14 @@ Outcome seed(Session& session, std::string_view rest) {
 }
 
 constexpr Command kMachineCommands[] = {
-    {"now", now, true},     {"bias", bias, true},         {"locale", locale, true},
-    {"dpi", dpi, true},     {"registry", registry, true}, {"simulator", simulator, true},
-    {"draws", draws, true}, {"seed", seed, true},
+    {"now", "2002-06-15 08:30:00[.250]", "sets the local time", now, true},
+    {"bias", "MINUTES", "sets the time zone: UTC = local + bias", bias, true},
+    {"locale", "KEY [TEXT]", "sets a sign of the locale", locale, true},
+    {"dpi", "N", "sets the dots per inch of the desktop", dpi, true},
+    {"registry", "[PATH]", "sets the simulator's folder in the registry", registry, true},
+    {"simulator", "running|absent", "says whether a simulator window is found", simulator, true},
+    {"draws", "X Y ...", "gives the next random draws, each in [0, 1)", draws, true},
+    {"seed", "N", "seeds the random generator", seed, true},
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "drive/Properties.h"
 
+#include "drive/DrawingJson.h"
 #include "forms/PickForms.h"
 
 #include <span>
@@ -119,6 +120,7 @@ constexpr Property kRange[] = {
     {"min", field<&RangeControl::min>},
     {"max", field<&RangeControl::max>},
 };
+constexpr Property kChart[] = {{"drawing", field<&Chart::drawing>, false}};
 constexpr Property kFlightInfo[] = {
     {"State", field<&forms::FlightInfo::State>},
     {"pointer", field<&forms::FlightInfo::pointer>},
@@ -157,6 +159,7 @@ const KindView kKinds[] = {
     {Kind::FolderList, field<&PathList::path>, kPaths},
     {Kind::FileList, field<&ItemControl::items>, kPaths},
     {Kind::FlightInfo, nothing, kFlightInfo},
+    {Kind::Chart, nothing, kChart},
 };
 
 const KindView& viewOf(const Control& control) {

@@ -36,12 +36,14 @@ public:
         return proposal;
     }
     void notify(const std::string& text) override { notices.push_back(text); }
+    void copy(const std::string& text) override { clipboard = text; }
 
     int dotsPerInch = 96;
     bool busy = false;
     bool minimised = false;
     std::vector<std::string> helpPages;
     std::vector<std::string> notices;
+    std::string clipboard;
 };
 
 class SimulatedRegistry : public Registry {

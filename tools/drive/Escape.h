@@ -1,0 +1,11 @@
+#pragma once
+
+#include "forms/Control.h"
+
+namespace gatewise::drive {
+
+/// What the Escape key does in a screen: it clicks the key that closes it, where it has one that can be used
+/// now.
+void pressEscape(Screen& screen);
+
+} // namespace gatewise::drive
