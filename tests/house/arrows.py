@@ -20,6 +20,7 @@ ROOMS = {
     "export": {"plan", "schedule", "platform"},
     "simulator": {"plan", "schedule", "platform"},
     "gt1": {"plan", "schedule", "platform"},
+    "import": {"gt1", "plan", "schedule", "platform"},
     "logbook": {"platform"},
     "sound": {"platform"},
     "sound_openal": {"sound", "platform"},
