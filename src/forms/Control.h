@@ -339,9 +339,9 @@ struct Screen {
     std::string name;
     std::string caption;           // what a window list or a screen reader calls it
     int designWidth, designHeight; // pixels at 96 dots per inch
-    double left = 0, top = 0;
-    double width, height;
-    std::string picture; // background, below the program folder
+    double left = 0, top = 0;      // of its upper left corner on the desktop, in the desktop's pixels
+    double width, height;          // the design's, smaller after the small-font fix; the same pixels
+    std::string picture;           // background, below the program folder
     bool visible = false;
     bool enabled = true; // takes input; timers run all the same
     bool modal = false;  // shown modally now

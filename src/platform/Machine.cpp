@@ -41,7 +41,6 @@ DateTime fromDaySerial(long long days) {
     out.day = static_cast<int>(dayOfYear - (153 * monthFromMarch + 2) / 5 + 1);
     out.month = static_cast<int>(monthFromMarch < 10 ? monthFromMarch + 3 : monthFromMarch - 9);
     out.year = static_cast<int>(yearOfEra + era * 400 + (out.month <= 2 ? 1 : 0));
-    out.hour = out.minute = 0;
     return out;
 }
 

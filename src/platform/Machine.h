@@ -14,15 +14,15 @@
 
 namespace gatewise {
 
-/// A moment of local time.
+/// A moment of local time; without anything said, the first of the calendar's year 1.
 struct DateTime {
-    int year = 2002;
-    int month = 6; // 1 to 12
-    int day = 15;
-    int hour = 8;
-    int minute = 30;
-    int second = 0;
-    int millisecond = 0;
+    int year = 1;
+    int month = 1;       // 1 to 12
+    int day = 1;         // 1 to 31
+    int hour = 0;        // 0 to 23
+    int minute = 0;      // 0 to 59
+    int second = 0;      // 0 to 59
+    int millisecond = 0; // 0 to 999
 };
 
 /// Days since 30 December 1899, the day in which date serials count, and the way back (midnight).
@@ -88,15 +88,19 @@ public:
     /// Whether a simulator window is up.
     [[nodiscard]] virtual bool simulatorRunning() = 0;
     virtual void bringSimulatorToFront() = 0;
-    /// Starts a program; the result names the process for `ended`, negative when the start failed.
-    virtual int start(const std::string& file, const std::string& parameters, const std::string& folder) = 0;
+    /// Starts a program in a folder. `file` is a path, or a name in that folder; the program gets `parameter`
+    /// as its only one, blanks and all, and none when it is empty. The result names the process for `ended`,
+    /// negative when the start failed.
+    virtual int start(const std::string& file, const std::string& parameter, const std::string& folder) = 0;
     [[nodiscard]] virtual bool ended(int process) = 0;
 };
 
 class Printer {
 public:
     virtual ~Printer() = default;
-    /// Prints the whole text in one piece, the drawings on a sheet behind it.
+    /// Prints the whole text in one piece, its lines ended by LF or CR LF, in a fixed-pitch font of `size`
+    /// points; the drawings stand on a sheet behind it. Where there is no printer, the pages go into a file
+    /// and the person is told where. An error: there are no pages, neither on paper nor in a file.
     virtual std::error_code print(const std::string& font, int size, const std::string& text,
                                   const std::vector<Drawing>& drawings) = 0;
 };

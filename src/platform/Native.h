@@ -24,4 +24,8 @@ std::unique_ptr<Processes> systemProcesses(Notify notify);
 /// Seeded afresh at every start.
 std::unique_ptr<Random> systemRandom();
 
+/// A parameter as Windows programs read their command line: in quotes where it has blanks or quotes of its
+/// own. Empty for an empty one.
+std::string commandLineWord(const std::string& parameter);
+
 } // namespace gatewise::native

@@ -28,4 +28,16 @@ std::unique_ptr<Random> systemRandom() {
     return std::make_unique<SystemRandom>();
 }
 
+std::string commandLineWord(const std::string& parameter) {
+    if (parameter.find_first_of(" \t\"") == std::string::npos) return parameter;
+    std::string out = "\"";
+    std::size_t backslashes = 0; // they count twice where a quote follows
+    for (const char c : parameter) {
+        if (c == '"') out.append(backslashes + 1, '\\');
+        backslashes = c == '\\' ? backslashes + 1 : 0;
+        out += c;
+    }
+    return out.append(backslashes, '\\') + "\"";
+}
+
 } // namespace gatewise::native

@@ -8,7 +8,7 @@
 
 namespace gatewise {
 
-/// What stands for a character that is none.
+/// Stands in a text for bytes that are no character.
 inline constexpr char32_t kReplacement = 0xFFFD;
 
 /// Appends a code point up to 10FFFF; halves of a surrogate pair become the replacement character.

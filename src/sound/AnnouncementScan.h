@@ -83,13 +83,15 @@ struct DueAnnouncement {
 std::optional<DueAnnouncement> scanForAnnouncement(const ScanBoard& board, const AnnouncementWindow& window,
                                                    int start, bool played, AnnouncementRing& ring);
 
-/// One tick of fade_timer. `level` is then to be handed to channel 8.
+/// One tick of fade_timer.
 struct FadeStep {
-    std::int16_t level;
+    std::int16_t level;    // hundredths of a decibel, -9000 to 0: the loudness that channel 8 takes now
     std::string direction; // of the next fade once this one is over
     bool finished = false; // the timer stops
     bool silence = false;  // channel 8 is stopped before it takes the level
 };
+/// From `level` a step louder towards `target` ("in") or softer towards silence ("out"), both in hundredths
+/// of a decibel.
 FadeStep stepFade(std::int16_t level, std::int16_t target, const std::string& direction);
 
 } // namespace gatewise

@@ -14,13 +14,13 @@ using Lines = std::vector<std::string>;
 class CompileErrors : public testing::Test {
 protected:
     Lines errors() {
-        const TemporaryFolder folder;
-        writeFolder(tables, folder.path() / "source");
+        const test::TempFolder folder;
+        writeFolder(tables, folder / "source");
         Report report;
-        compileFolder(folder.path() / "source", folder.path() / "target", std::nullopt, report);
-        EXPECT_EQ(std::filesystem::exists(folder.path() / "target"), !report.failed());
+        compileFolder(folder / "source", folder / "target", std::nullopt, report);
+        EXPECT_EQ(std::filesystem::exists(folder / "target"), !report.failed());
         warnings = report.warnings();
-        source = (folder.path() / "source").string();
+        source = (folder / "source").string();
         return report.errors();
     }
 
@@ -260,25 +260,25 @@ TEST_F(CompileErrors, CharactersOutsideThePageAreAWarning) {
 }
 
 TEST_F(CompileErrors, AFurtherSetBringsNoSharedTables) {
-    const TemporaryFolder folder;
-    writeFolder(tables, folder.path() / "world");
+    const test::TempFolder folder;
+    writeFolder(tables, folder / "world");
     tables.erase("vor.csv");
     tables.erase("ndb.csv");
     tables.erase("jets.csv");
-    writeFolder(tables, folder.path() / "source");
+    writeFolder(tables, folder / "source");
     Report report;
-    compileFolder(folder.path() / "source", folder.path() / "target", folder.path() / "world", report);
+    compileFolder(folder / "source", folder / "target", folder / "world", report);
     ASSERT_EQ(report.errors().size(), 2U);
     EXPECT_EQ(report.errors()[0],
               "aircraft.csv: expected this table in the main set alone, since all sets share it, "
               "found one in " +
-                  (folder.path() / "source").string());
+                  (folder / "source").string());
 }
 
 TEST(CompileFolder, WhereOneFileCannotBeReplacedTheOldSetStaysWhole) {
-    const TemporaryFolder folder;
-    const auto source = folder.path() / "source";
-    const auto target = folder.path() / "target";
+    const test::TempFolder folder;
+    const auto source = folder / "source";
+    const auto target = folder / "target";
     TableTexts tables = tinyWorld();
     writeFolder(tables, source);
     Report first;

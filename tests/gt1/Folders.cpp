@@ -1,6 +1,5 @@
 #include "gt1/Folders.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <sstream>
@@ -8,17 +7,6 @@
 namespace gatewise::gt1 {
 
 namespace fs = std::filesystem;
-
-TemporaryFolder::TemporaryFolder() {
-    std::string name = (fs::temp_directory_path() / "gt1-test-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    path_ = name;
-}
-
-TemporaryFolder::~TemporaryFolder() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-}
 
 TableTexts tinyWorld() {
     return {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Binary.h"
+#include "support/TempFolder.h"
 
 #include <filesystem>
 #include <map>
@@ -9,20 +10,6 @@
 // Folders of tables for the tests of the data set compiler.
 
 namespace gatewise::gt1 {
-
-/// A folder of its own for one test, gone with the object.
-class TemporaryFolder {
-public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    [[nodiscard]] const std::filesystem::path& path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
 
 using TableTexts = std::map<std::string, std::string>;
 

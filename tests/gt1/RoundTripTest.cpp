@@ -31,17 +31,17 @@ Files dumped(const fs::path& folder, const fs::path& out,
 }
 
 void expectInverse(const fs::path& source) {
-    const TemporaryFolder folder;
-    const Files bytes = compiled(source, folder.path() / "one");
+    const test::TempFolder folder;
+    const Files bytes = compiled(source, folder / "one");
     EXPECT_EQ(bytes.size(), 11U);
-    EXPECT_EQ(dumped(folder.path() / "one", folder.path() / "tables"), readFolder(source));
-    EXPECT_EQ(compiled(folder.path() / "tables", folder.path() / "two"), bytes);
+    EXPECT_EQ(dumped(folder / "one", folder / "tables"), readFolder(source));
+    EXPECT_EQ(compiled(folder / "tables", folder / "two"), bytes);
 }
 
 TEST(RoundTrip, TheTinyWorld) {
-    const TemporaryFolder folder;
-    writeFolder(tinyWorld(), folder.path());
-    expectInverse(folder.path());
+    const test::TempFolder folder;
+    writeFolder(tinyWorld(), folder.native());
+    expectInverse(folder.native());
 }
 
 TEST(RoundTrip, TheSampleWorld) {
@@ -49,20 +49,20 @@ TEST(RoundTrip, TheSampleWorld) {
 }
 
 TEST(RoundTrip, AFurtherSetUsesTheWorldOfTheFolderAbove) {
-    const TemporaryFolder folder;
-    compiled(sampleFolder(), folder.path() / "Data");
-    const Files bytes = compiled(smallSampleFolder(), folder.path() / "Data" / "Small", sampleFolder());
+    const test::TempFolder folder;
+    compiled(sampleFolder(), folder / "Data");
+    const Files bytes = compiled(smallSampleFolder(), folder / "Data" / "Small", sampleFolder());
     EXPECT_EQ(bytes.size(), 6U);
-    const Files tables = dumped(folder.path() / "Data" / "Small", folder.path() / "tables");
+    const Files tables = dumped(folder / "Data" / "Small", folder / "tables");
     EXPECT_EQ(tables, readFolder(smallSampleFolder()));
-    EXPECT_EQ(compiled(folder.path() / "tables", folder.path() / "again", sampleFolder()), bytes);
+    EXPECT_EQ(compiled(folder / "tables", folder / "again", sampleFolder()), bytes);
 }
 
 TEST(RoundTrip, AFurtherSetFindsItsWorldWhereItIsTold) {
-    const TemporaryFolder folder;
-    compiled(sampleFolder(), folder.path() / "main");
-    compiled(smallSampleFolder(), folder.path() / "elsewhere" / "set", sampleFolder());
-    EXPECT_EQ(dumped(folder.path() / "elsewhere" / "set", folder.path() / "tables", folder.path() / "main"),
+    const test::TempFolder folder;
+    compiled(sampleFolder(), folder / "main");
+    compiled(smallSampleFolder(), folder / "elsewhere" / "set", sampleFolder());
+    EXPECT_EQ(dumped(folder / "elsewhere" / "set", folder / "tables", folder / "main"),
               readFolder(smallSampleFolder()));
 }
 
@@ -73,11 +73,11 @@ TEST(RoundTrip, FlightsAreGroupedByDepartureAirportInStableOrder) {
         flights.substr(flights.find("AAA,0005"), flights.find("AAA,2359") - flights.find("AAA,0005"));
     edit(flights, first, "");
     flights += first;
-    const TemporaryFolder folder;
-    writeFolder(tables, folder.path() / "source");
-    compiled(folder.path() / "source", folder.path() / "target");
+    const test::TempFolder folder;
+    writeFolder(tables, folder / "source");
+    compiled(folder / "source", folder / "target");
     Report report;
-    const DataSet set = unpackDataSet(folder.path() / "target", report);
+    const DataSet set = unpackDataSet(folder / "target", report);
     ASSERT_EQ(set.flights.size(), 3U);
     EXPECT_EQ(set.flights[0].DepartureTime, 2359);
     EXPECT_EQ(set.flights[1].DepartureTime, 5);
@@ -88,17 +88,16 @@ TEST(RoundTrip, ColumnsMayStandInAnyOrder) {
     TableTexts tables = tinyWorld();
     tables["airlines.csv"] =
         "callsign,code,name\nEXAMPLE,X0,Example Airways\nQUOTE,QQ9,\"Quote \"\"Q\"\" Lines\"\n";
-    const TemporaryFolder folder;
-    writeFolder(tables, folder.path() / "source");
-    writeFolder(tinyWorld(), folder.path() / "straight");
-    EXPECT_EQ(compiled(folder.path() / "source", folder.path() / "a"),
-              compiled(folder.path() / "straight", folder.path() / "b"));
+    const test::TempFolder folder;
+    writeFolder(tables, folder / "source");
+    writeFolder(tinyWorld(), folder / "straight");
+    EXPECT_EQ(compiled(folder / "source", folder / "a"), compiled(folder / "straight", folder / "b"));
 }
 
 TEST(Files, TheTinyWorldByteByByte) {
-    const TemporaryFolder folder;
-    writeFolder(tinyWorld(), folder.path() / "source");
-    Files files = compiled(folder.path() / "source", folder.path() / "target");
+    const test::TempFolder folder;
+    writeFolder(tinyWorld(), folder / "source");
+    Files files = compiled(folder / "source", folder / "target");
     EXPECT_EQ(files["index.gt1"].size(), 3 * 107U);
     EXPECT_EQ(files["index.gt1"].substr(0, 42), "AAAKAAAAlpha Field                        ");
     EXPECT_EQ(files["routes.gt1"].size(), 3 * 32U);
@@ -119,10 +118,10 @@ TEST(Files, TheTinyWorldByteByByte) {
 }
 
 TEST(Dump, FilesThatAreMissingOrCutAreErrors) {
-    const TemporaryFolder folder;
-    writeFolder(tinyWorld(), folder.path() / "source");
-    compiled(folder.path() / "source", folder.path() / "target");
-    const auto target = folder.path() / "target";
+    const test::TempFolder folder;
+    writeFolder(tinyWorld(), folder / "source");
+    compiled(folder / "source", folder / "target");
+    const auto target = folder / "target";
     fs::remove(target / "VOR.gt1");
     fs::resize_file(target / "routes.gt1", 40);
     fs::resize_file(target / "APT.gt1", 50);
@@ -137,16 +136,16 @@ TEST(Dump, FilesThatAreMissingOrCutAreErrors) {
 }
 
 TEST(Dump, HostileNumbersAreErrors) {
-    const TemporaryFolder folder;
-    writeFolder(tinyWorld(), folder.path() / "source");
-    Files files = compiled(folder.path() / "source", folder.path() / "target");
+    const test::TempFolder folder;
+    writeFolder(tinyWorld(), folder / "source");
+    Files files = compiled(folder / "source", folder / "target");
     files["index.gt1"].replace(99, 8, "\xFF\xFF\xFF\x7F\x00\x00\x00\x80",
                                8); // runways without end at no position
     files["routes.gt1"].replace(24, 2, "\xFF\xFF", 2);
     files["Plans.gt1"].replace(4, 4, "\xFF\xFF\xFF\xFF", 4);
-    writeFolder(files, folder.path() / "target");
+    writeFolder(files, folder / "target");
     Report report;
-    dumpFolder(folder.path() / "target", std::nullopt, report);
+    dumpFolder(folder / "target", std::nullopt, report);
     ASSERT_EQ(report.errors().size(), 3U);
     EXPECT_EQ(report.errors()[0], "Plans.gt1: expected plan 2 inside the file, found position -1");
     EXPECT_EQ(report.errors()[2], "routes.gt1: expected airports of the index in record 1, found airport -1");
@@ -169,10 +168,10 @@ Outcome run(const std::string& arguments) {
 }
 
 TEST(Tool, CompilesDumpsAndSaysWhatIsWrong) {
-    const TemporaryFolder folder;
-    const std::string at = folder.path().string();
+    const test::TempFolder folder;
+    const std::string at = folder.native().string();
     TableTexts tables = tinyWorld();
-    writeFolder(tables, folder.path() / "source");
+    writeFolder(tables, folder / "source");
     EXPECT_EQ(run("compile " + at + "/source " + at + "/target").out,
               at + "/target: 3 airports, 2 airlines, 3 flights, 3 plans\n");
 
@@ -185,18 +184,18 @@ TEST(Tool, CompilesDumpsAndSaysWhatIsWrong) {
     EXPECT_EQ(dump.out, expected);
 
     EXPECT_EQ(run("dump " + at + "/target " + at + "/out").code, 0);
-    EXPECT_EQ(readFolder(folder.path() / "out"), tables);
+    EXPECT_EQ(readFolder(folder / "out"), tables);
 
     edit(tables["airlines.csv"], "X0,", "X00Y,");
     edit(tables["ndb.csv"], "61.39528", "north");
-    writeFolder(tables, folder.path() / "source");
+    writeFolder(tables, folder / "source");
     const Outcome wrong = run("compile " + at + "/source " + at + "/nowhere");
     EXPECT_EQ(wrong.code, 1);
     EXPECT_NE(wrong.out.find("error: ndb.csv:2: column 3 (latitude): expected a number from -90 to 90, found "
                              "\"north\"\n"),
               std::string::npos);
     EXPECT_NE(wrong.out.find("error: airlines.csv:2: column 1 (code): "), std::string::npos);
-    EXPECT_FALSE(fs::exists(folder.path() / "nowhere"));
+    EXPECT_FALSE(fs::exists(folder / "nowhere"));
     EXPECT_EQ(run("").code, 2);
     EXPECT_EQ(run("compile one").code, 2);
     EXPECT_EQ(run("dump a --world").code, 2);

@@ -13,12 +13,12 @@ namespace gatewise::gt1 {
 
 const SampleSet& sampleSet() {
     static const SampleSet set = [] {
-        const TemporaryFolder folder;
+        const test::TempFolder folder;
         Report report;
-        compileFolder(sampleFolder(), folder.path(), std::nullopt, report);
-        compileFolder(smallSampleFolder(), folder.path() / "Small", sampleFolder(), report);
-        SampleSet out{unpackDataSet(folder.path(), report), unpackDataSet(folder.path() / "Small", report),
-                      unpackWorld(folder.path(), report)};
+        compileFolder(sampleFolder(), folder.native(), std::nullopt, report);
+        compileFolder(smallSampleFolder(), folder / "Small", sampleFolder(), report);
+        SampleSet out{unpackDataSet(folder.native(), report), unpackDataSet(folder / "Small", report),
+                      unpackWorld(folder.native(), report)};
         EXPECT_EQ(report.errors(), std::vector<std::string>{});
         EXPECT_EQ(report.warnings(), std::vector<std::string>{});
         return out;

@@ -75,15 +75,36 @@ TEST(SystemRandom, DrawsLieInTheUnitInterval) {
     EXPECT_TRUE(differs);
 }
 
-TEST_F(Services, AProgramStartsInItsFolderWithItsArguments) {
-    write(folder / "Helper", "#!/bin/sh\npwd > where.tmp\necho \"$1 $2\" >> where.tmp\nmv where.tmp where\n");
+TEST_F(Services, AProgramStartsInItsFolderWithItsOneParameter) {
+    write(folder / "Helper",
+          "#!/bin/sh\npwd > where.tmp\necho \"$#: $1\" >> where.tmp\nmv where.tmp where\n");
     fs::permissions(folder / "Helper", fs::perms::owner_all);
     fs::create_directories(folder / "work");
     const auto processes = systemProcesses({});
     const int process = processes->start((folder / "helper").string(), "/gt now", (folder / "work").string());
     ASSERT_GT(process, 0);
     EXPECT_TRUE(soon([&] { return processes->ended(process); }));
-    EXPECT_EQ(read(folder / "work" / "where"), (folder / "work").string() + "\n/gt now\n");
+    EXPECT_EQ(read(folder / "work" / "where"), (folder / "work").string() + "\n1: /gt now\n");
+}
+
+TEST_F(Services, AProgramWithoutAParameterGetsNone) {
+    write(folder / "helper", "#!/bin/sh\necho $# > count.tmp\nmv count.tmp count\n");
+    fs::permissions(folder / "helper", fs::perms::owner_all);
+    const auto processes = systemProcesses({});
+    const int process = processes->start("helper", "", folder.string());
+    ASSERT_GT(process, 0);
+    EXPECT_TRUE(soon([&] { return processes->ended(process); }));
+    EXPECT_EQ(read(folder / "count"), "0\n");
+}
+
+TEST(CommandLineWord, IsOneParameterAgainWhereWindowsReadsIt) {
+    EXPECT_EQ(commandLineWord(""), "");
+    EXPECT_EQ(commandLineWord("/gt"), "/gt");
+    EXPECT_EQ(commandLineWord("C:\\PF\\"), "C:\\PF\\");
+    EXPECT_EQ(commandLineWord("/gt now"), "\"/gt now\"");
+    EXPECT_EQ(commandLineWord("C:\\Pro Flight\\"), "\"C:\\Pro Flight\\\\\"");
+    EXPECT_EQ(commandLineWord("a\"b"), "\"a\\\"b\"");
+    EXPECT_EQ(commandLineWord("a\\\"b"), "\"a\\\\\\\"b\"");
 }
 
 TEST_F(Services, WithoutWineThePilotHearsWhatIsMissing) {

@@ -34,7 +34,7 @@ protected:
     }
     /// The marks of a joined file; the sample that ends it left out.
     Bytes marks(const std::string& name) {
-        const Bytes file = folder.read("Wavs/" + name);
+        const Bytes file = folder.bytes("Wavs/" + name);
         if (file.size() < 45) return {};
         return {file.begin() + 44, file.end() - 1};
     }
@@ -44,7 +44,7 @@ protected:
     }
 
     static constexpr std::uint8_t kFirst = 'F', kLast = 'L';
-    TemporaryFolder folder;
+    test::TempFolder folder;
     Listener listener;
     WatchedDevice device;
     ScriptedLoop loop;
@@ -111,7 +111,7 @@ TEST_F(Announcing, VoiceFromElevenOnIsMale) {
 TEST_F(Announcing, OldTargetIsReplacedWhole) {
     folder.write("Wavs/tmp2.wav", Bytes(5000, 0x11));
     announce("DL 1234", 2);
-    EXPECT_EQ(folder.read("Wavs/tmp2.wav").size(), 44U + 7U);
+    EXPECT_EQ(folder.bytes("Wavs/tmp2.wav").size(), 44U + 7U);
 }
 
 TEST_F(Announcing, AirportWithoutRecordingGivesZeroTwiceAndNoLinkingWord) {
@@ -138,7 +138,7 @@ TEST_F(Announcing, MissingNumberSoundsTheChimeAloneAndLeavesAnEmptyFile) {
     EXPECT_TRUE(chimeAlone());
     EXPECT_EQ(flags[0], 0);
     EXPECT_TRUE(folder.has("Wavs/Female/77.wav"));
-    EXPECT_TRUE(folder.read("Wavs/Female/77.wav").empty());
+    EXPECT_TRUE(folder.bytes("Wavs/Female/77.wav").empty());
     EXPECT_FALSE(folder.has("Wavs/tmp1.wav"));
     EXPECT_FALSE(folder.has("Wavs/Male/77.wav"));
 }
@@ -150,7 +150,7 @@ TEST_F(Announcing, FailureDeletesTheOldTargetAllTheSame) {
 }
 
 TEST_F(Announcing, EmptyCityRecordingEndsTheAnnouncement) {
-    folder.write("Wavs/Female/Cities/atl.wav", {});
+    folder.write("Wavs/Female/Cities/atl.wav", Bytes());
     announce("DL 1234", 1);
     EXPECT_TRUE(chimeAlone());
     EXPECT_EQ(flags[0], 0);
@@ -214,7 +214,7 @@ TEST_F(Announcing, WelcomeWithAMissingRecordingIsSilent) {
     std::filesystem::remove(folder / "Wavs/Female/welcome.wav");
     PlayWelcome(engine, folder.path(), "DL 1234", 99, "ATL");
     EXPECT_TRUE(listener.lines.empty());
-    EXPECT_TRUE(folder.read("Wavs/Female/welcome.wav").empty());
+    EXPECT_TRUE(folder.bytes("Wavs/Female/welcome.wav").empty());
     EXPECT_TRUE(folder.has("Wavs/Female/welcome.wav"));
 }
 

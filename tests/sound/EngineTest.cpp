@@ -28,7 +28,7 @@ protected:
         return volume;
     }
 
-    TemporaryFolder folder;
+    test::TempFolder folder;
     Listener listener;
     WatchedDevice device;
     ScriptedLoop loop;

@@ -4,6 +4,7 @@
 #include "platform/Machine.h"
 #include "sound/Device.h"
 #include "sound/SilentDevice.h"
+#include "support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -18,42 +19,6 @@
 namespace gatewise::sound_test {
 
 using Shorts = std::initializer_list<std::int16_t>;
-
-/// A folder of its own for each test, gone afterwards.
-class TemporaryFolder {
-public:
-    TemporaryFolder() {
-        const auto* info = testing::UnitTest::GetInstance()->current_test_info();
-        folder_ = std::filesystem::temp_directory_path() /
-                  (std::string("gatewise-") + info->test_suite_name() + "-" + info->name() + "-" +
-                   std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()));
-        std::filesystem::remove_all(folder_);
-        std::filesystem::create_directories(folder_);
-    }
-    ~TemporaryFolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder_, ignored);
-    }
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
-    [[nodiscard]] std::string path() const { return folder_.string(); }
-    [[nodiscard]] std::filesystem::path operator/(const std::string& tail) const { return folder_ / tail; }
-
-    void write(const std::string& tail, const Bytes& bytes) const {
-        std::filesystem::create_directories((folder_ / tail).parent_path());
-        std::ofstream file(folder_ / tail, std::ios::binary);
-        file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    }
-    [[nodiscard]] Bytes read(const std::string& tail) const {
-        std::ifstream file(folder_ / tail, std::ios::binary);
-        return Bytes(std::istreambuf_iterator<char>(file), {});
-    }
-    [[nodiscard]] bool has(const std::string& tail) const { return std::filesystem::exists(folder_ / tail); }
-
-private:
-    std::filesystem::path folder_;
-};
 
 /// A wave file with the common 44-byte header around `data`.
 inline Bytes waveOf(const Bytes& data, std::uint16_t channels = 1, std::uint32_t rate = 8000,

@@ -15,7 +15,7 @@ protected:
         for (const auto& name : names) paths.push_back(piece(name));
         return joinWaves(paths, piece("out.wav"));
     }
-    TemporaryFolder folder;
+    test::TempFolder folder;
 };
 
 TEST_F(Joiner, EachPieceBeginsOnTheLastByteOfTheOneBefore) {
@@ -29,14 +29,14 @@ TEST_F(Joiner, EachPieceBeginsOnTheLastByteOfTheOneBefore) {
                             0,    0,    0x40, 0x1F, 0,    0,    1,   0, 8,   0,   'd', 'a',  't',
                             'a',  6,    0,    0,    0, //
                             0xA1, 0xA2, 0xA3, 0xB1, 0xB2, 0xC1, 0xC2};
-    EXPECT_EQ(folder.read("out.wav"), expected);
+    EXPECT_EQ(folder.bytes("out.wav"), expected);
 }
 
 TEST_F(Joiner, PieceOfOneSampleIsCoveredWhole) {
     folder.write("a.wav", waveOf({0xA1}));
     folder.write("b.wav", waveOf({0xB1, 0xB2}));
     ASSERT_TRUE(join({"a.wav", "b.wav"}));
-    const Bytes out = folder.read("out.wav");
+    const Bytes out = folder.bytes("out.wav");
     EXPECT_EQ(Bytes(out.begin() + 44, out.end()), (Bytes{0xB1, 0xB2}));
     EXPECT_EQ(out[40], 1);
 }
@@ -44,7 +44,7 @@ TEST_F(Joiner, PieceOfOneSampleIsCoveredWhole) {
 TEST_F(Joiner, SevenPiecesOf1045BytesMake7000In7045) {
     folder.write("a.wav", waveOf(Bytes(1001, 0x80)));
     ASSERT_TRUE(join({"a.wav", "a.wav", "a.wav", "a.wav", "a.wav", "a.wav", "a.wav"}));
-    const Bytes out = folder.read("out.wav");
+    const Bytes out = folder.bytes("out.wav");
     EXPECT_EQ(out.size(), 7045U);
     EXPECT_EQ(numberAt<std::int32_t>(out, 40), 7000);
     EXPECT_EQ(numberAt<std::int32_t>(out, 4), 7036);
@@ -55,7 +55,7 @@ TEST_F(Joiner, HeadersOfThePiecesAreNotRead) {
     odd.insert(odd.end(), {1, 2, 3});
     folder.write("a.wav", odd);
     ASSERT_TRUE(join({"a.wav"}));
-    const Bytes out = folder.read("out.wav");
+    const Bytes out = folder.bytes("out.wav");
     EXPECT_EQ(Bytes(out.begin() + 44, out.end()), (Bytes{1, 2, 3}));
     EXPECT_EQ(numberAt<std::int32_t>(out, 40), 2);
     EXPECT_EQ(readWave(out)->samples, (Bytes{1, 2}));
@@ -66,8 +66,8 @@ TEST_F(Joiner, MissingRecordingsStayBehindEmptyAndThereIsNoTarget) {
     EXPECT_FALSE(join({"x.wav", "a.wav", "y.wav"}));
     EXPECT_TRUE(folder.has("x.wav"));
     EXPECT_TRUE(folder.has("y.wav"));
-    EXPECT_TRUE(folder.read("x.wav").empty());
-    EXPECT_TRUE(folder.read("y.wav").empty());
+    EXPECT_TRUE(folder.bytes("x.wav").empty());
+    EXPECT_TRUE(folder.bytes("y.wav").empty());
     EXPECT_FALSE(folder.has("out.wav"));
     EXPECT_FALSE(join({"x.wav", "a.wav"})) << "an empty recording fails again";
 }

@@ -49,7 +49,7 @@ protected:
                 decibels(amplitudeAt(heard.right, kTone, 0, 9600))};
     }
 
-    TemporaryFolder folder;
+    test::TempFolder folder;
     OpenAlDevice device{loopbackRoad()};
 };
 
@@ -274,7 +274,7 @@ TEST_F(Heard, CloseAndOpenAgain) {
 
 // On headphones the library would otherwise place each side in a virtual room.
 TEST(OpenAlOutside, HeadphonesGetEachSideAsItIs) {
-    TemporaryFolder folder;
+    test::TempFolder folder;
     folder.write("tone.wav", waveOf(tone(16000)));
     OpenAlRoad road = loopbackRoad();
     const auto hrtf = std::ranges::find(road.contextAttributes, ALC_HRTF_SOFT);
@@ -294,7 +294,7 @@ TEST(OpenAlOutside, HeadphonesGetEachSideAsItIs) {
 // What stands outside is slow, or not there.
 
 TEST(OpenAlOutside, NoDeviceIsSilentAndEverythingElseWorks) {
-    TemporaryFolder folder;
+    test::TempFolder folder;
     folder.write("tone.wav", waveOf(tone(800)));
     OpenAlDevice device({.openDevice = []() -> ALCdevice* { return nullptr; }, .contextAttributes = {}});
     EXPECT_TRUE(device.open());
@@ -381,7 +381,7 @@ TEST(OpenAlOutside, SlowDeviceHoldsUpNobodyForLong) {
 }
 
 TEST(OpenAlOutside, SlowDeviceHoldsUpTheStartForAMomentOnlyAndComesInLater) {
-    TemporaryFolder folder;
+    test::TempFolder folder;
     folder.write("tone.wav", waveOf(tone(16000)));
     HeldRoad held;
     OpenAlDevice device(held.road);

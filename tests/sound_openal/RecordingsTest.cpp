@@ -43,13 +43,13 @@ protected:
         EXPECT_EQ(flags[0], -1);
         engine.StopDXSound(7); // the sentence without the chime
         const double heard = heardFor(renderMilliseconds(device, 30000));
-        const auto joined = readWave(folder.read("Wavs/tmp1.wav"));
+        const auto joined = readWave(folder.bytes("Wavs/tmp1.wav"));
         EXPECT_TRUE(joined);
         if (joined) samples = joined->samples.size();
         return heard;
     }
 
-    TemporaryFolder folder;
+    test::TempFolder folder;
     OpenAlDevice device{loopbackRoad()};
     RenderingLoop loop{device};
     DS_Engine engine{device, loop};
@@ -79,7 +79,7 @@ TEST_F(Recordings, SentenceBehindThePageComesFromTheRight) {
 TEST_F(Recordings, AmbienceGoesRoundWithoutASilence) {
     engine.LoadWavToChannel(8, folder.path() + "\\Wavs\\Ambience.wav");
     engine.PlayDXSound(8, true);
-    const auto ambience = readWave(folder.read("Wavs/Ambience.wav"));
+    const auto ambience = readWave(folder.bytes("Wavs/Ambience.wav"));
     ASSERT_TRUE(ambience);
     const auto seconds = static_cast<int>(ambience->samples.size() / 8000);
     EXPECT_GE(seconds, 30);

@@ -24,13 +24,27 @@ public:
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
 
-    [[nodiscard]] std::string path(std::string_view tail = {}) const { return path_ + std::string(tail); }
+    /// As the program writes paths; `tail` may begin with a separator or without one.
+    [[nodiscard]] std::string path(std::string_view tail = {}) const {
+        const bool parted = tail.empty() || tail.front() == '\\' || tail.front() == '/';
+        return path_ + (parted ? "" : "\\") + std::string(tail);
+    }
+    /// As the computer writes them.
+    [[nodiscard]] std::filesystem::path native() const { return path_; }
+    [[nodiscard]] std::filesystem::path operator/(std::string_view tail) const { return native() / tail; }
 
     void write(std::string_view tail, std::string_view text) const { write(tail, viewOf(text)); }
     void write(std::string_view tail, ByteView bytes) const {
         const std::filesystem::path native = files::resolve(path(tail));
         std::filesystem::create_directories(native.parent_path());
         ASSERT_FALSE(files::replace(path(tail), bytes));
+    }
+    [[nodiscard]] bool has(std::string_view tail) const {
+        return std::filesystem::exists(files::resolve(path(tail)));
+    }
+    /// Bytes of a file; empty when there is none.
+    [[nodiscard]] Bytes bytes(std::string_view tail) const {
+        return files::readAll(path(tail)).value_or(Bytes());
     }
     [[nodiscard]] std::string read(std::string_view tail) const {
         const auto bytes = files::readAll(path(tail));

@@ -70,7 +70,7 @@ public:
             spawn({tool.string(), "-x", "-a", std::string(kSimulatorProgram)}, {}, std::nullopt);
     }
 
-    int start(const std::string& file, const std::string& parameters, const std::string& folder) override {
+    int start(const std::string& file, const std::string& parameter, const std::string& folder) override {
         const bool whole = file.find_first_of("\\/") != std::string::npos;
         const fs::path program = files::resolve(whole || folder.empty() ? file : folder + "\\" + file);
         std::error_code error;
@@ -88,8 +88,7 @@ public:
             arguments.push_back(wine.string());
         }
         arguments.push_back(program.string());
-        std::stringstream words(parameters);
-        for (std::string word; words >> word;) arguments.push_back(word);
+        if (!parameter.empty()) arguments.push_back(parameter);
         const fs::path native = folder.empty() ? program.parent_path() : files::resolve(folder);
         return spawn(std::move(arguments), native, prefixOf(program));
     }

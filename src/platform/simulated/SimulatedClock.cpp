@@ -4,12 +4,13 @@ namespace gatewise::simulated {
 
 namespace {
 
+constexpr DateTime kStart{2002, 6, 15, 8, 30};
 constexpr std::int64_t kDay = 24LL * 60 * 60 * 1000;
 
 } // namespace
 
 SimulatedClock::SimulatedClock() {
-    set(DateTime{});
+    set(kStart);
 }
 
 DateTime SimulatedClock::now() const {

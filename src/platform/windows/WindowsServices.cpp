@@ -93,14 +93,15 @@ public:
         if (HWND window = simulatorWindow()) SetForegroundWindow(window);
     }
 
-    int start(const std::string& file, const std::string& parameters, const std::string& folder) override {
+    int start(const std::string& file, const std::string& parameter, const std::string& folder) override {
+        const std::string parameters = commandLineWord(parameter);
         SHELLEXECUTEINFOA info{};
         info.cbSize = sizeof info;
         info.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI;
         info.hwnd = GetDesktopWindow();
         info.lpVerb = "open";
         info.lpFile = file.c_str();
-        info.lpParameters = parameters.empty() ? nullptr : parameters.c_str();
+        info.lpParameters = parameters.c_str();
         info.lpDirectory = folder.c_str();
         info.nShow = SW_SHOWNORMAL;
         if (!ShellExecuteExA(&info)) return -1;
