@@ -121,10 +121,27 @@ void column(ListView& list, int column) {
     list.fire(Event::Column, {column, 0, 0, false});
 }
 
+void widen(ListView& list, int column, int width) {
+    const auto at = static_cast<std::size_t>(column);
+    if (list.enabled && column >= 0 && at < list.columns.size()) list.columns[at].width = std::max(width, 0);
+}
+
 void path(PathList& list, std::string path) {
     if (!list.enabled) return;
     list.path = std::move(path);
     list.fire(Event::Change);
+}
+
+void moveTo(Screen& screen, double left, double top) {
+    screen.left = left;
+    screen.top = top;
+}
+
+void turnTo(Forms& forms, Screen& screen) {
+    const auto at = std::find(forms.front.begin(), forms.front.end(), &screen);
+    if (at == forms.front.end() || &screen == &forms.MainForm) return;
+    if (std::any_of(forms.front.begin(), at, [](const Screen* above) { return above->modal; })) return;
+    std::rotate(forms.front.begin(), at, at + 1);
 }
 
 void tick(Timer& timer) {

@@ -28,8 +28,16 @@ bool choose(Control& control, int place);
 void check(Control& control, int value); // check or option box
 void slide(RangeControl& control, int value);
 void column(ListView& list, int column);
+/// Drags the edge of a column's head to `width` pixels.
+void widen(ListView& list, int column, int width);
 /// Moves a drive or folder list.
 void path(PathList& list, std::string path);
+
+/// The person or the window manager puts a screen elsewhere; pixels of the desk.
+void moveTo(Screen& screen, double left, double top);
+/// The person turned to a screen, which comes before the others. The main screen lies below its dialogs all
+/// the same, and one that a modal screen blocks stays where it is.
+void turnTo(Forms& forms, Screen& screen);
 
 /// What a timer does when it falls due; a timer never ticks inside its own tick.
 void tick(Timer& timer);

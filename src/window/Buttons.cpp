@@ -25,10 +25,6 @@ const char* folderOf(Kind kind) {
     }
 }
 
-bool isEnter(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
 } // namespace
 
 void drawKey(QPainter& painter, const QRect& box, const QString& caption, const Skin& skin, bool lit,
@@ -81,9 +77,20 @@ void ButtonView::byKey(const std::function<void()>& what) {
     actor_.act([&] {
         what();
         // A press lights the picture as under the mouse; without a mouse there, the ground puts it out.
-        Control* ground = control->screen->find(place.container);
-        if (!underMouse() && ground != nullptr && control->screen->visible) user::move(*ground);
+        if (!underMouse()) putOut();
     });
+}
+
+/// Lit keys go out with a move over the ground that they stand on.
+void ButtonView::putOut() {
+    Control* ground = control->screen->find(place.container);
+    if (ground != nullptr && control->screen->visible) user::move(*ground);
+}
+
+/// A fast hand leaves a key without touching the ground beside it.
+void ButtonView::leaveEvent(QEvent* event) {
+    QWidget::leaveEvent(event);
+    actor_.act([this] { putOut(); });
 }
 
 void ButtonView::activate() {
@@ -97,7 +104,7 @@ void ButtonView::activate() {
 
 void ButtonView::keyPressEvent(QKeyEvent* event) {
     if (isEnter(*event) && usable()) {
-        if (!event->isAutoRepeat()) activate();
+        activate();
     } else if (event->key() == Qt::Key_Space && usable()) {
         byKey([&] { user::click(*control); });
     } else {
@@ -133,12 +140,18 @@ QString PushButtonView::spokenName() const {
     return toQt(static_cast<const PushButton&>(*control).text);
 }
 
+std::span<const Event> PushButtonView::emits() const {
+    static constexpr Event kEvents[] = {Event::Press, Event::Release, Event::Click, Event::Enter,
+                                        Event::Focus};
+    return kEvents;
+}
+
 void PushButtonView::activate() {
-    click();
+    pressEnter(actor_, *control);
 }
 
 void PushButtonView::keyPressEvent(QKeyEvent* event) {
-    if (isEnter(*event))
+    if (isEnter(*event) && usable())
         activate();
     else
         QPushButton::keyPressEvent(event);

@@ -24,8 +24,10 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
 private:
+    void putOut();
     [[nodiscard]] SkinnedButton& button() const { return static_cast<SkinnedButton&>(*control); }
     void byKey(const std::function<void()>& what);
     std::string shown_;
@@ -38,6 +40,7 @@ class PushButtonView : public QPushButton, public View {
 public:
     PushButtonView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
     QWidget* widget() override { return this; }
+    [[nodiscard]] std::span<const Event> emits() const override;
     void sync() override;
     [[nodiscard]] QString spokenName() const override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Button; }

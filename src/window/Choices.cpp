@@ -37,6 +37,11 @@ CheckView::CheckView(Actor& actor, Control* control, const ControlLayout& place,
     connect(this, &QCheckBox::clicked, this, [this] { actor_.act([this] { user::click(*this->control); }); });
 }
 
+std::span<const Event> CheckView::emits() const {
+    static constexpr Event kEvents[] = {Event::Click, Event::Focus};
+    return kEvents;
+}
+
 void CheckView::sync() {
     syncCommon();
     const auto& box = static_cast<const Check&>(*control);
@@ -83,6 +88,11 @@ OptionView::OptionView(Actor& actor, Control* control, const ControlLayout& plac
             [this] { actor_.act([this] { user::click(*this->control); }); });
 }
 
+std::span<const Event> OptionView::emits() const {
+    static constexpr Event kEvents[] = {Event::Click, Event::Focus};
+    return kEvents;
+}
+
 void OptionView::sync() {
     syncCommon();
     const auto& option = static_cast<const Option&>(*control);
@@ -118,6 +128,11 @@ SliderView::SliderView(Actor& actor, Control* control, const ControlLayout& plac
     connect(this, &QSlider::valueChanged, this, [this](int value) {
         if (value != range().value) actor_.act([&] { user::slide(range(), value); });
     });
+}
+
+std::span<const Event> SliderView::emits() const {
+    static constexpr Event kEvents[] = {Event::Change, Event::Focus};
+    return kEvents;
 }
 
 void SliderView::sync() {
@@ -175,6 +190,11 @@ UpDownView::UpDownView(Actor& actor, Control* control, const ControlLayout& plac
     });
 }
 
+std::span<const Event> UpDownView::emits() const {
+    static constexpr Event kEvents[] = {Event::Change, Event::Focus};
+    return kEvents;
+}
+
 void UpDownView::sync() {
     syncCommon();
     const QSignalBlocker quiet(this);
@@ -186,26 +206,34 @@ void UpDownView::sync() {
 }
 
 void UpDownView::step() {
-    setValue(value() + repeat_ * range().step);
+    setValue(value() + direction_ * range().step);
 }
 
 void UpDownView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
-    repeat_ = event->position().y() < height() / 2.0 ? 1 : -1;
+    direction_ = event->position().y() < height() / 2.0 ? 1 : -1;
+    held_.start(kFirstRepeat, this);
     step();
-    timer_ = startTimer(kFirstRepeat);
 }
 
 void UpDownView::timerEvent(QTimerEvent* event) {
-    if (event->timerId() != timer_) {
+    if (event->timerId() != held_.timerId()) {
         QSlider::timerEvent(event);
         return;
     }
-    killTimer(timer_);
-    timer_ = 0;
-    if (repeat_ == 0) return;
+    held_.start(kRepeat, this);
     step();
-    timer_ = startTimer(kRepeat);
+}
+
+/// A hand that holds an arrow lets go of one that goes away or takes no input any more.
+void UpDownView::hideEvent(QHideEvent* event) {
+    held_.stop();
+    QSlider::hideEvent(event);
+}
+
+void UpDownView::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::EnabledChange && !isEnabled()) held_.stop();
+    QSlider::changeEvent(event);
 }
 
 void UpDownView::paintEvent(QPaintEvent*) {

@@ -2,6 +2,7 @@
 
 #include "window/View.h"
 
+#include <QBasicTimer>
 #include <QCheckBox>
 #include <QRadioButton>
 #include <QSlider>
@@ -13,6 +14,7 @@ class CheckView : public QCheckBox, public View {
 public:
     CheckView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
     QWidget* widget() override { return this; }
+    [[nodiscard]] std::span<const Event> emits() const override;
     void sync() override;
     [[nodiscard]] QString spokenName() const override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::CheckBox; }
@@ -29,6 +31,7 @@ class OptionView : public QRadioButton, public View {
 public:
     OptionView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
     QWidget* widget() override { return this; }
+    [[nodiscard]] std::span<const Event> emits() const override;
     void sync() override;
     [[nodiscard]] QString spokenName() const override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::RadioButton; }
@@ -46,6 +49,7 @@ class SliderView : public QSlider, public View {
 public:
     SliderView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
     QWidget* widget() override { return this; }
+    [[nodiscard]] std::span<const Event> emits() const override;
     void sync() override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Slider; }
     [[nodiscard]] bool takesFocus() const override { return usable(); }
@@ -67,6 +71,7 @@ class UpDownView : public QSlider, public View {
 public:
     UpDownView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
     QWidget* widget() override { return this; }
+    [[nodiscard]] std::span<const Event> emits() const override;
     void sync() override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::SpinBox; }
     [[nodiscard]] bool takesFocus() const override { return usable(); }
@@ -75,15 +80,17 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent*) override { update(); }
-    void mouseReleaseEvent(QMouseEvent*) override { repeat_ = 0; }
+    void mouseReleaseEvent(QMouseEvent*) override { held_.stop(); }
     void leaveEvent(QEvent*) override { update(); }
+    void hideEvent(QHideEvent* event) override;
+    void changeEvent(QEvent* event) override;
     void timerEvent(QTimerEvent* event) override;
 
 private:
     [[nodiscard]] RangeControl& range() const { return static_cast<RangeControl&>(*control); }
     void step();
-    int repeat_ = 0; // direction of the arrow that is held
-    int timer_ = 0;
+    int direction_ = 0; // of the arrow that is or was held
+    QBasicTimer held_;  // runs while an arrow is held
 };
 
 } // namespace gatewise::window

@@ -1,11 +1,11 @@
 #include "window/Desk.h"
 
+#include "screens/UserEvents.h"
 #include "window/Accessible.h"
 #include "window/QtText.h"
 
 #include <QApplication>
 #include <QScreen>
-#include <QTimer>
 
 #include <algorithm>
 
@@ -13,8 +13,7 @@ namespace gatewise::window {
 
 namespace {
 
-constexpr int kNoteTime = 15000; // milliseconds
-constexpr int kMostRounds = 8;   // of one sync, for changes that bring about further changes
+constexpr int kMostRounds = 8; // of one sync, for changes that bring about further changes
 
 /// A screen without controls, up for a moment of work. It may be gone before the window manager has given it
 /// the keyboard, which would then lie with a hidden window: it never takes it.
@@ -38,6 +37,7 @@ Desk::Desk(Forms& forms, const Skin& skin) : forms_(forms), skin_(skin) {
         main.left = std::max(0, middle.x() - main.designWidth / 2);
         main.top = std::max(0, middle.y() - main.designHeight / 2);
     }
+    qApp->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [](QWidget*, QWidget* now) {
         if (now == nullptr) return;
         if (auto* window = dynamic_cast<ScreenWindow*>(now->window())) window->focusMoved(now);
@@ -76,16 +76,31 @@ void Desk::syncOnce() {
             hidden = true;
         }
     }
-    for (auto at = forms_.front.rbegin(); at != forms_.front.rend(); ++at) {
-        ScreenWindow& window = this->window(**at);
-        window.sync();
-        window.place();
-        if (!window.isVisible()) showWindow(window);
+    // Showing a window moves the focus, whose handlers may show and hide screens: the walk goes over a copy
+    // and asks again at each.
+    const std::vector<Screen*> walk(forms_.front.rbegin(), forms_.front.rend());
+    for (const Screen* screen : walk) {
+        if (screen->visible) syncWindow(window(*screen));
     }
     if (!hidden) return;
     const auto now = std::find_if(forms_.front.begin(), forms_.front.end(),
                                   [this](const Screen* screen) { return !isNotice(forms_, *screen); });
     if (now != forms_.front.end()) window(**now).activateWindow();
+}
+
+void Desk::syncWindow(ScreenWindow& window) {
+    window.sync();
+    window.place();
+    if (!window.isVisible()) showWindow(window);
+}
+
+/// The window that a screen's own one belongs to and lies over: the main one, or that of the innermost modal
+/// screen below it, which would block it otherwise.
+QWidget* Desk::ownerOf(const Screen& screen) const {
+    if (&screen == &forms_.MainForm || &screen == &forms_.SplashForm) return nullptr;
+    const auto modal = std::find_if(forms_.front.begin(), forms_.front.end(),
+                                    [&](const Screen* below) { return below != &screen && below->modal; });
+    return &window(modal == forms_.front.end() ? forms_.MainForm : **modal);
 }
 
 void Desk::showWindow(ScreenWindow& window) {
@@ -96,17 +111,7 @@ void Desk::showWindow(ScreenWindow& window) {
     Qt::WindowFlags flags = Qt::FramelessWindowHint;
     flags |= main ? Qt::Window | Qt::WindowMinimizeButtonHint : splash ? Qt::SplashScreen : Qt::Dialog;
     if (notice) flags |= Qt::WindowDoesNotAcceptFocus;
-    // A screen that comes up over a modal one belongs to it, else the modal one would block it.
-    QWidget* owner = nullptr;
-    if (!main && !splash) {
-        owner = &this->window(forms_.MainForm);
-        for (Screen* below : forms_.front) {
-            if (below != &screen && below->modal) {
-                owner = &this->window(*below);
-                break;
-            }
-        }
-    }
+    QWidget* owner = ownerOf(screen);
     if (window.parentWidget() != owner || window.windowFlags() != flags) window.setParent(owner, flags);
     window.setWindowModality(screen.modal ? Qt::ApplicationModal : Qt::NonModal);
     window.setAttribute(Qt::WA_ShowWithoutActivating, notice);
@@ -135,41 +140,29 @@ ScreenWindow* Desk::front() const {
 }
 
 void Desk::showNote(const QString& text) {
-    ScreenWindow* window = front();
-    if (window == nullptr) return;
     delete note_;
-    note_ = new QLabel(text, window);
-    connect(note_, &QObject::destroyed, this, [this](QObject* gone) {
-        if (gone == note_) note_ = nullptr;
-    });
-    note_->installEventFilter(this);
-    note_->setWordWrap(true);
-    note_->setFont(skin_.font("data"));
-    note_->setTextFormat(Qt::PlainText);
-    note_->setMargin(10);
-    note_->setStyleSheet(QString("background:%1;color:%2;border-radius:4px")
-                             .arg(skin_.style("tooltip.back").name(), skin_.style("tooltip.text").name()));
-    note_->setAccessibleName(text);
-    const int width = std::min(window->width() - 24, 480);
-    note_->setFixedWidth(width);
-    note_->adjustSize();
-    note_->move((window->width() - width) / 2, window->height() - note_->height() - 12);
-    note_->show();
-    note_->raise();
-    QAccessibleEvent event(note_, QAccessible::Alert);
-    QAccessible::updateAccessibility(&event);
-    QTimer::singleShot(kNoteTime, note_, &QObject::deleteLater);
-}
-
-bool Desk::eventFilter(QObject* object, QEvent* event) {
-    if (object != note_ || event->type() != QEvent::MouseButtonPress)
-        return QObject::eventFilter(object, event);
-    note_->deleteLater();
-    return true;
+    if (ScreenWindow* window = front()) note_ = new Note(text, *window, skin_);
 }
 
 QString Desk::note() const {
     return note_ == nullptr ? QString() : note_->text();
+}
+
+void Desk::turnTo(ScreenWindow& window) {
+    user::turnTo(forms_, window.screen());
+    if (front() != &window) return;
+    window.raise();
+    window.activateWindow();
+}
+
+/// A press or a key in a window is the person's turning to it.
+bool Desk::eventFilter(QObject* object, QEvent* event) {
+    const bool turns = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress;
+    if (turns && object->isWidgetType()) {
+        auto* window = dynamic_cast<ScreenWindow*>(static_cast<QWidget*>(object)->window());
+        if (window != nullptr && front() != window) turnTo(*window);
+    }
+    return QObject::eventFilter(object, event);
 }
 
 } // namespace gatewise::window

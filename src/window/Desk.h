@@ -1,10 +1,12 @@
 #pragma once
 
 #include "forms/Forms.h"
+#include "window/HeldKeys.h"
+#include "window/Note.h"
 #include "window/ScreenWindow.h"
 #include "window/Skin.h"
 
-#include <QLabel>
+#include <QPointer>
 
 #include <map>
 #include <memory>
@@ -32,7 +34,7 @@ public:
     [[nodiscard]] ScreenWindow* front() const;
     [[nodiscard]] ScreenWindow& mainWindow() const { return window(forms_.MainForm); }
 
-    /// A note at the foot of the window in front, which goes away by itself or by a click.
+    /// A note in the window in front.
     void showNote(const QString& text);
     [[nodiscard]] QString note() const;
 
@@ -41,11 +43,15 @@ protected:
 
 private:
     void syncOnce();
+    void syncWindow(ScreenWindow& window);
     void showWindow(ScreenWindow& window);
+    void turnTo(ScreenWindow& window);
+    [[nodiscard]] QWidget* ownerOf(const Screen& screen) const;
     Forms& forms_;
     const Skin& skin_;
     std::map<const Screen*, std::unique_ptr<ScreenWindow>> windows_;
-    QLabel* note_ = nullptr;
+    HeldKeys heldKeys_;
+    QPointer<Note> note_;
     bool syncing_ = false;
     bool again_ = false;
     bool painting_ = false;

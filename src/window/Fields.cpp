@@ -35,10 +35,6 @@ QPalette fieldPalette(const Skin& skin, const QPalette& base) {
     return palette;
 }
 
-bool isEnter(const QKeyEvent& event) {
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
 constexpr int kArrowField = 22; // of a combo box, at its right end
 
 } // namespace
@@ -55,6 +51,11 @@ LineView::LineView(Actor& actor, Control* control, const ControlLayout& place, Q
     setFocusPolicy(box().readOnly ? Qt::NoFocus : Qt::StrongFocus);
     connect(this, &QLineEdit::textEdited, this,
             [this](const QString& text) { actor_.act([&] { user::type(box(), fromQt(text)); }); });
+}
+
+std::span<const Event> LineView::emits() const {
+    static constexpr Event kEvents[] = {Event::Focus, Event::Enter, Event::Change};
+    return kEvents;
 }
 
 bool LineView::takesFocus() const {
@@ -121,6 +122,11 @@ NotesView::NotesView(Actor& actor, Control* control, const ControlLayout& place,
     connect(this, &QPlainTextEdit::textChanged, this, [this] { typed(); });
 }
 
+std::span<const Event> NotesView::emits() const {
+    static constexpr Event kEvents[] = {Event::Focus, Event::Change};
+    return kEvents;
+}
+
 void NotesView::typed() {
     if (syncing_) return;
     actor_.act([this] { user::type(box(), fromQt(toPlainText())); });
@@ -167,11 +173,21 @@ ComboView::ComboView(Actor& actor, Control* control, const ControlLayout& place,
                               .arg(skin.style("combo.popupBack").name(), skin.style("combo.text").name(),
                                    skin.style("combo.border").name(), skin.style("combo.popupSelect").name(),
                                    skin.style("combo.popupSelectText").name()));
-    connect(this, &QComboBox::activated, this, [this](int at) {
-        actor_.act([&] {
-            if (!list().locked) user::choose(*this->control, at);
-        });
-    });
+    connect(this, &QComboBox::activated, this, [this](int at) { actor_.act([&] { pick(at); }); });
+}
+
+std::span<const Event> ComboView::emits() const {
+    static constexpr Event kEvents[] = {Event::Click, Event::Focus, Event::Change};
+    return std::span(kEvents).first(control->kind == Kind::DriveList ? 3 : 2);
+}
+
+void ComboView::pick(int at) {
+    if (list().locked) return;
+    const std::string before = list().text();
+    user::choose(*control, at);
+    if (control->kind == Kind::DriveList && list().text() != before) {
+        user::path(static_cast<PathList&>(*control), list().text());
+    }
 }
 
 void ComboView::sync() {
@@ -204,7 +220,7 @@ void ComboView::paintEvent(QPaintEvent*) {
     painter.drawPolyline(tip, 3);
     TextStyle style = skin.text(place.font);
     style.color = skin.style(isEnabled() ? "combo.text" : "combo.disabledText");
-    style.ellipsis = Ellipsis::Right;
+    style.ellipsis = control->kind == Kind::DriveList ? Ellipsis::Left : Ellipsis::Right;
     drawText(painter, QRectF(8, 0, width() - 8 - kArrowField - 4, height()), currentText(), style);
 }
 

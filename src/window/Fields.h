@@ -14,6 +14,7 @@ class LineView : public QLineEdit, public View {
 public:
     LineView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
     QWidget* widget() override { return this; }
+    [[nodiscard]] std::span<const Event> emits() const override;
     void sync() override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::EditableText; }
     [[nodiscard]] bool takesFocus() const override;
@@ -36,6 +37,7 @@ class NotesView : public QPlainTextEdit, public View {
 public:
     NotesView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
     QWidget* widget() override { return this; }
+    [[nodiscard]] std::span<const Event> emits() const override;
     void sync() override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::EditableText; }
     [[nodiscard]] bool takesFocus() const override { return usable(); }
@@ -55,6 +57,7 @@ class ComboView : public QComboBox, public View {
 public:
     ComboView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
     QWidget* widget() override { return this; }
+    [[nodiscard]] std::span<const Event> emits() const override;
     void sync() override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::ComboBox; }
     [[nodiscard]] bool takesFocus() const override { return usable() && !list().locked; }
@@ -64,6 +67,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 
 private:
+    void pick(int at);
     [[nodiscard]] ItemControl& list() const { return static_cast<ItemControl&>(*control); }
     std::vector<std::string> shown_;
 };

@@ -20,16 +20,6 @@ bool rowHandles(const Control& control) {
            control.handles(Event::Click);
 }
 
-/// Enter on something clickable that is no button: what a double click does, else a click.
-void open(Actor& actor, Control& control) {
-    actor.act([&] {
-        if (control.handles(Event::DoubleClick))
-            user::doubleClick(control);
-        else
-            user::click(control);
-    });
-}
-
 } // namespace
 
 GroundView::GroundView(Actor& actor, Control* control, const ControlLayout& place, std::string picture,
@@ -103,7 +93,7 @@ bool LabelView::takesFocus() const {
 }
 
 void LabelView::activate() {
-    open(actor_, *control);
+    pressEnter(actor_, *control);
 }
 
 void LabelView::paintEvent(QPaintEvent*) {
@@ -133,7 +123,7 @@ bool HitAreaView::takesFocus() const {
 }
 
 void HitAreaView::activate() {
-    open(actor_, *control);
+    pressEnter(actor_, *control);
 }
 
 void PictureView::sync() {

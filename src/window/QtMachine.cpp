@@ -39,9 +39,9 @@ void QtDesktop::setPointer(bool busy) {
 }
 
 std::optional<std::string> QtDesktop::askSavePath(const std::string& title, const std::string& proposal) {
-    const QString name = QFileDialog::getSaveFileName(QApplication::activeWindow(), toQt(title),
-                                                      toQt(files::resolve(proposal).string()));
-    return name.isEmpty() ? std::nullopt : std::optional(files::textOf(name.toStdString()));
+    const QString name =
+        QFileDialog::getSaveFileName(QApplication::activeWindow(), toQt(title), nativePath(proposal));
+    return name.isEmpty() ? std::nullopt : std::optional(pathText(name));
 }
 
 void QtDesktop::paint() {

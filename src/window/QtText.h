@@ -27,4 +27,9 @@ inline QString nativePath(const std::string& path) {
                              static_cast<qsizetype>(native.size()));
 }
 
+/// A path of the toolkit as a text of the program.
+inline std::string pathText(const QString& path) {
+    return files::textOf(std::filesystem::path(path.toStdU16String()));
+}
+
 } // namespace gatewise::window

@@ -3,6 +3,7 @@
 #include "screens/UserEvents.h"
 #include "window/QtText.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 #include <algorithm>
@@ -34,6 +35,28 @@ void View::syncCommon() {
 PaintedView::PaintedView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent)
     : QWidget(parent), View(actor, control, place) {
     setMouseTracking(true);
+}
+
+std::span<const Event> PaintedView::emits() const {
+    static constexpr Event kEvents[] = {Event::Press,      Event::Release, Event::Click, Event::DoubleClick,
+                                        Event::RightPress, Event::Move,    Event::Focus, Event::Enter};
+    // The last two belong to the keyboard.
+    return takesFocus() || control == nullptr ? std::span(kEvents) : std::span(kEvents).first(6);
+}
+
+void pressEnter(Actor& actor, Control& control) {
+    actor.act([&] {
+        if (control.handles(Event::Enter))
+            user::enter(control);
+        else if (control.handles(Event::DoubleClick))
+            user::doubleClick(control);
+        else
+            user::click(control);
+    });
+}
+
+bool isEnter(const QKeyEvent& event) {
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
 }
 
 bool PaintedView::handlesAny(std::initializer_list<Event> events) const {
@@ -90,6 +113,8 @@ void PaintedView::mouseMoveEvent(QMouseEvent* event) {
     const QPoint at = groundPosition(*control->screen, *event);
     const bool left = event->buttons().testFlag(Qt::LeftButton);
     actor_.act([&] { user::move(*control, at.x(), at.y(), left); });
+    // A press that no view took drags the window.
+    if (left && !held_) event->ignore();
 }
 
 View* viewOf(QObject* object) {

@@ -7,6 +7,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <span>
 
 namespace gatewise::window {
 
@@ -41,6 +42,8 @@ public:
     [[nodiscard]] virtual bool usable() const;
     /// Whether the Tab key stops here.
     [[nodiscard]] virtual bool takesFocus() const { return false; }
+    /// The events of its control that a person can bring about here.
+    [[nodiscard]] virtual std::span<const Event> emits() const = 0;
     /// What Enter or a screen reader's press does.
     virtual void activate() {}
     /// Puts the box of the layout onto the screen; some kinds draw beyond it.
@@ -70,6 +73,7 @@ class PaintedView : public QWidget, public View {
 public:
     PaintedView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
     QWidget* widget() override { return this; }
+    [[nodiscard]] std::span<const Event> emits() const override;
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;
@@ -81,6 +85,12 @@ private:
     [[nodiscard]] bool handlesAny(std::initializer_list<Event> events) const;
     bool held_ = false;
 };
+
+/// Enter where it means the same as a double click or a click: what the form has for it.
+void pressEnter(Actor& actor, Control& control);
+
+/// Return and the Enter key of the number block.
+bool isEnter(const QKeyEvent& event);
 
 /// Mouse position in pixels of a screen's ground.
 QPoint groundPosition(const Screen& screen, const QMouseEvent& event);

@@ -15,11 +15,11 @@ class StageTest : public testing::Test {
 protected:
     void SetUp() override { makeStage(GATEWISE_PROGRAM_DIR); }
 
-    void makeStage(const std::string& program) {
+    void makeStage(const std::string& program, stage::Time time = stage::Time::Simulated) {
         stage_.reset();
         scratch_ = std::make_unique<QTemporaryDir>();
         const std::string folder = scratch_->path().toStdString();
-        stage_ = std::make_unique<stage::Stage>(stage::makeProgramFolder(program, folder));
+        stage_ = std::make_unique<stage::Stage>(stage::makeProgramFolder(program, folder), time);
         stage_->machine.registry.folder = files::textOf(std::filesystem::path(folder) / "FS2002");
     }
 
@@ -32,6 +32,10 @@ protected:
     }
     stage::Stage& stage() { return *stage_; }
     Forms& forms() { return stage_->forms(); }
+    /// The program's folder on this stage.
+    [[nodiscard]] std::filesystem::path folder() const {
+        return std::filesystem::path(scratch_->path().toStdString()) / "Gatewise";
+    }
 
 private:
     std::unique_ptr<QTemporaryDir> scratch_;

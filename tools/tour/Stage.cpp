@@ -25,6 +25,22 @@ void useRoomyDesk(const std::string& scratch) {
     qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString("offscreen:configfile=" + file));
 }
 
+namespace {
+
+/// A folder of its own with links to the files of another: what the program writes there stays there.
+void linkFiles(const fs::path& from, const fs::path& to) {
+    if (!fs::exists(from)) return;
+    fs::create_directories(to);
+    for (const auto& entry : fs::directory_iterator(from)) {
+        if (entry.is_directory())
+            linkFiles(entry.path(), to / entry.path().filename());
+        else
+            fs::create_symlink(entry.path(), to / entry.path().filename());
+    }
+}
+
+} // namespace
+
 std::string makeProgramFolder(const std::string& program, const std::string& scratch) {
     const fs::path from = program;
     const fs::path to = fs::path(scratch) / "Gatewise";
@@ -33,9 +49,10 @@ std::string makeProgramFolder(const std::string& program, const std::string& scr
     fs::create_directories(simulator);
     // The log book comes to lie beside the data: that folder is a copy.
     if (fs::exists(from / "Data")) fs::copy(from / "Data", to / "Data", fs::copy_options::recursive);
-    for (const char* folder : {"Images", "Fonts", "Wavs", "help"}) {
+    for (const char* folder : {"Images", "Fonts", "help"}) {
         if (fs::exists(from / folder)) fs::create_directory_symlink(from / folder, to / folder);
     }
+    linkFiles(from / "Wavs", to / "Wavs");
     const std::string config = files::textOf(to / "GT.cfg");
     const auto delivered = files::readAll(files::textOf(from / "GT.cfg")).value_or(Bytes());
     Profile settings(asText(delivered));
@@ -63,9 +80,11 @@ void quietHandler(QtMsgType type, const QMessageLogContext& context, const QStri
 
 } // namespace
 
-Stage::Stage(const std::string& appDir)
-    : window({machine.clock, machine.locale, machine.registry, machine.processes, machine.random, sound_,
-              &machine.printer, &timers_, &loop_},
+Stage::Stage(const std::string& appDir, Time time)
+    : loop_(machine.loop, time),
+      window({machine.clock, machine.locale, machine.registry, machine.processes, machine.random, sound_,
+              time == Time::Real ? nullptr : &machine.printer, time == Time::Real ? nullptr : &timers_,
+              &loop_},
              appDir) {
     if (printMessage == nullptr) printMessage = qInstallMessageHandler(quietHandler);
     machine.clock.set({2002, 6, 15, 8, 30, 14, 0});

@@ -22,11 +22,20 @@ void useRoomyDesk(const std::string& scratch);
 /// of its data, settings as delivered, and an empty simulator beside it. Returns the folder's path.
 std::string makeProgramFolder(const std::string& program, const std::string& scratch);
 
-/// Waits take simulated time; a modal screen waits for real events.
+/// Whether timers and waits run on the stage's clock, or on the computer's as they ship. With the latter the
+/// pages go to the printer that ships, too.
+enum class Time { Simulated, Real };
+
+/// The loop that ships, which on a simulated clock waits there; counts the modal screens that wait.
 class StageLoop : public window::QtLoop {
 public:
-    explicit StageLoop(simulated::SimulatedLoop& loop) : loop_(loop) {}
-    void wait(std::int64_t milliseconds) override { loop_.wait(milliseconds); }
+    StageLoop(simulated::SimulatedLoop& loop, Time time) : loop_(loop), time_(time) {}
+    void wait(std::int64_t milliseconds) override {
+        if (time_ == Time::Real)
+            QtLoop::wait(milliseconds);
+        else
+            loop_.wait(milliseconds);
+    }
     void runModal(std::string_view screen, const std::function<bool()>& done) override {
         ++depth;
         QtLoop::runModal(screen, done);
@@ -36,6 +45,7 @@ public:
 
 private:
     simulated::SimulatedLoop& loop_;
+    Time time_;
 };
 
 /// The real windows with a clock, a printer and a simulator of the stage. Steps run one by one between
@@ -44,7 +54,7 @@ class Stage {
 public:
     using Step = std::function<void()>;
 
-    explicit Stage(const std::string& appDir);
+    explicit Stage(const std::string& appDir, Time time = Time::Simulated);
 
     /// Adds a step at the end.
     void then(Step step) { steps_.push_back(std::move(step)); }
@@ -93,7 +103,7 @@ public:
 
 private:
     drive::SimulatedTimers timers_{machine.loop};
-    StageLoop loop_{machine.loop};
+    StageLoop loop_;
     std::deque<Step> steps_;
     std::vector<int> running_; // steps that have not ended, each with the modal waits around its start
 

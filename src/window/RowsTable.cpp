@@ -1,0 +1,253 @@
+#include "window/RowsTable.h"
+
+#include "screens/UserEvents.h"
+#include "window/Drawing.h"
+#include "window/QtText.h"
+#include "window/Skin.h"
+
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+
+#include <cmath>
+
+namespace gatewise::window {
+
+namespace {
+
+constexpr double kCellLeft = 8; // of a cell's text, and what a cell keeps free in all, pixels
+constexpr double kCellPad = 12;
+
+/// Only the height of a row; the table draws whole rows itself.
+class RowHeight : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+        return {10, kRowHeight};
+    }
+    void paint(QPainter*, const QStyleOptionViewItem&, const QModelIndex&) const override {}
+};
+
+QString scrollBarStyle(const Skin& skin) {
+    return QString("QScrollBar:vertical{background:%1;width:12px;border:0}"
+                   "QScrollBar::handle:vertical{background:%2;border-radius:4px;margin:2px;min-height:24px}"
+                   "QScrollBar::handle:vertical:hover{background:%3}"
+                   "QScrollBar::add-line,QScrollBar::sub-line{height:0}"
+                   "QScrollBar::add-page,QScrollBar::sub-page{background:none}")
+        .arg(skin.style("list.scrollTrack").name(), skin.style("list.scrollThumb").name(),
+             skin.style("list.scrollThumbHover").name());
+}
+
+ListView* columnsOf(Control& control) {
+    return control.kind == Kind::ListView ? static_cast<ListView*>(&control) : nullptr;
+}
+
+} // namespace
+
+RowsTable::RowsTable(Actor& actor, Control& control, const ControlLayout& place, RowsModel& model,
+                     QWidget* parent)
+    : QTreeView(parent), actor_(actor), control_(control), place_(place), model_(model),
+      head_(new RowsHead(actor, columnsOf(control), this)) {
+    setFrameShape(QFrame::NoFrame);
+    setRootIsDecorated(false);
+    setIndentation(0);
+    setUniformRowHeights(true);
+    setItemDelegate(new RowHeight(this));
+    setHeader(head_);
+    head_->setSectionsClickable(true); // only now: becoming a tree's header takes it away
+    setHeaderHidden(control.kind != Kind::ListView);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    verticalScrollBar()->setStyleSheet(scrollBarStyle(actor.skin()));
+    viewport()->setAutoFillBackground(false);
+    viewport()->setMouseTracking(true);
+    setModel(&model);
+}
+
+int RowsTable::picked() const {
+    if (control_.kind == Kind::ListView) return static_cast<const ListView&>(control_).picked;
+    return static_cast<const ItemControl&>(control_).picked;
+}
+
+void RowsTable::sync() {
+    syncing_ = true;
+    const int top = verticalScrollBar()->value();
+    const bool fresh = model_.sync();
+    if (control_.kind == Kind::ListView)
+        head_->sync();
+    else
+        head_->resizeSection(0, viewport()->width());
+    const int row = picked();
+    if (fresh || currentIndex().row() != row) {
+        const QModelIndex at = row >= 0 && row < model_.rowCount() ? model_.index(row, 0) : QModelIndex();
+        if (fresh) executeDelayedItemsLayout();
+        if (at.isValid()) {
+            if (fresh) verticalScrollBar()->setValue(top);
+            setCurrentIndex(at);
+        } else {
+            selectionModel()->clear();
+            if (fresh) scrollToTop();
+        }
+        viewport()->update();
+    }
+    syncing_ = false;
+}
+
+void RowsTable::choose(int row) {
+    actor_.act([&] { user::choose(control_, row); });
+}
+
+void RowsTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTreeView::currentChanged(current, previous);
+    if (!syncing_ && current.isValid()) choose(current.row());
+}
+
+void RowsTable::mousePressEvent(QMouseEvent* event) {
+    const QModelIndex at = indexAt(event->position().toPoint());
+    if (event->button() == Qt::RightButton) pressRight(at);
+    if (event->button() != Qt::LeftButton || !at.isValid()) return;
+    const bool again = at.row() == currentIndex().row();
+    setCurrentIndex(at);
+    if (again) choose(at.row());
+}
+
+/// What it tells about is the row under the mouse, which becomes the picked one; beside the rows, the picked
+/// one.
+void RowsTable::pressRight(const QModelIndex& at) {
+    if (!control_.handles(Event::RightPress)) return;
+    if (at.isValid() && at.row() != currentIndex().row()) setCurrentIndex(at);
+    actor_.act([&] { user::rightPress(control_); });
+}
+
+void RowsTable::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !indexAt(event->position().toPoint()).isValid()) return;
+    open(user::doubleClick);
+}
+
+/// A folder that is opened moves its list.
+void RowsTable::open(void (*event)(Control&)) {
+    actor_.act([&] {
+        auto* folders = control_.kind == Kind::FolderList ? static_cast<PathList*>(&control_) : nullptr;
+        const std::string before = folders != nullptr ? folders->path : std::string();
+        event(control_);
+        if (folders != nullptr && folders->path != before) user::path(*folders, folders->path);
+    });
+}
+
+void RowsTable::mouseMoveEvent(QMouseEvent* event) {
+    const QPoint at = groundPosition(*control_.screen, *event);
+    if (control_.handles(Event::Move)) actor_.act([&] { user::move(control_, at.x(), at.y()); });
+}
+
+/// The focus alone picks nothing; the tree would quietly make its first row the current one.
+void RowsTable::focusInEvent(QFocusEvent* event) {
+    const bool none = !currentIndex().isValid();
+    const bool before = syncing_;
+    syncing_ = true;
+    QTreeView::focusInEvent(event);
+    if (none) selectionModel()->clear();
+    syncing_ = before;
+}
+
+void RowsTable::pressSpace() {
+    if (control_.handles(Event::Space))
+        actor_.act([&] { user::space(control_); });
+    else if (currentIndex().isValid())
+        choose(currentIndex().row());
+}
+
+void RowsTable::keyPressEvent(QKeyEvent* event) {
+    switch (event->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        open(control_.handles(Event::Enter) ? user::enter : user::doubleClick);
+        break;
+    case Qt::Key_Space:
+        pressSpace();
+        break;
+    case Qt::Key_Menu:
+        pressRight(QModelIndex());
+        break;
+    case Qt::Key_Escape:
+        event->ignore();
+        break;
+    default:
+        QTreeView::keyPressEvent(event);
+    }
+}
+
+void RowsTable::paintEvent(QPaintEvent* event) {
+    {
+        QPainter painter(viewport());
+        const QColor stripe = actor_.skin().style("list.stripe");
+        const int first = model_.rowCount() > 0 ? verticalScrollBar()->value() : 0;
+        for (int y = 0, row = first; y < viewport()->height(); y += kRowHeight, ++row) {
+            if (row % 2 == 1) painter.fillRect(0, y, viewport()->width(), kRowHeight, stripe);
+        }
+    }
+    QTreeView::paintEvent(event);
+}
+
+QRectF RowsTable::cell(int column, int top) const {
+    const bool columns = control_.kind == Kind::ListView;
+    const int x = columns ? head_->sectionViewportPosition(column) : 0;
+    const int w = columns ? head_->sectionSize(column) : viewport()->width();
+    return {x + kCellLeft, static_cast<double>(top), w - kCellPad, kRowHeight};
+}
+
+TextStyle RowsTable::style(int row) const {
+    return actor_.skin().text(model_.bold(row) ? "caption" : place_.font);
+}
+
+/// What a double click on the edge of a head makes the column: as wide as its longest text.
+int RowsTable::sizeHintForColumn(int column) const {
+    double widest = 0;
+    for (int row = 0; row < model_.rowCount(); ++row) {
+        widest = std::max(widest, advance(model_.index(row, column).data().toString(), style(row)));
+    }
+    return static_cast<int>(std::ceil(widest + kCellPad));
+}
+
+/// A text that is cut in its cell is shown whole beside the pointer.
+bool RowsTable::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        const auto* help = static_cast<QHelpEvent*>(event);
+        const QModelIndex at = indexAt(help->pos());
+        const QString text = at.data().toString();
+        if (at.isValid() && advance(text, style(at.row())) > cell(at.column(), 0).width()) {
+            QToolTip::showText(help->globalPos(), text, viewport());
+            return true;
+        }
+        QToolTip::hideText();
+    }
+    return QTreeView::viewportEvent(event);
+}
+
+void RowsTable::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+    const Skin& skin = actor_.skin();
+    const QRect line(0, option.rect.y(), viewport()->width(), kRowHeight);
+    const bool marked = selectionModel()->isRowSelected(index.row());
+    if (marked) {
+        painter->fillRect(line, skin.style("list.selected"));
+        painter->fillRect(QRect(0, line.y(), 3, kRowHeight), skin.style("list.selectedBar"));
+    }
+    TextStyle style = this->style(index.row());
+    style.color = !isEnabled() ? skin.style("list.disabledText")
+                  : marked     ? skin.style("list.selectedText")
+                               : skin.style("list.text");
+    style.ellipsis =
+        control_.kind == Kind::FolderList ? Ellipsis::Left : Ellipsis::Right; // a path tells by its end
+    const int columns = model_.columnCount();
+    for (int c = 0; c < columns; ++c) {
+        drawText(*painter, cell(c, line.y()), model_.index(index.row(), c).data(Qt::DisplayRole).toString(),
+                 style);
+    }
+}
+
+} // namespace gatewise::window
