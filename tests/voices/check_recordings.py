@@ -14,6 +14,8 @@ import struct
 import sys
 from pathlib import Path
 
+from check_hall import check_hall
+
 RATE = 8000
 HEADER_SIZE = 44
 VOICES = ("Male", "Female")
@@ -33,10 +35,6 @@ QUIET = 2
 LOUDNESS_SPREAD_DB = 1.0
 LOUDNESS_BOUNDS_DB = (-18.0, -14.0)
 PEAK = 126
-
-AMBIENCE_SECONDS = 30.0
-AMBIENCE_BOUNDS_DB = (-36.0, -26.0)
-AMBIENCE_SEAM_DB = 2.5
 
 
 class Report:
@@ -173,33 +171,6 @@ def check_short_sound(wavs, name, bounds, report):
             report.fault(name, "does not start and end in silence")
 
 
-def check_ambience(wavs, report):
-    """Length, level, and that the loop has no seam. Returns (seconds, level in dB, jump at the seam)."""
-    name = "Ambience.wav"
-    samples = read_samples(wavs / name, name, report)
-    if samples is None or len(samples) < 2 * RATE:
-        report.fault(name, "is too short to be measured")
-        return 0.0, 0.0, 0
-    check_peak(samples, name, report)
-    seconds, level = len(samples) / RATE, decibels(power_of(samples))
-    if seconds < AMBIENCE_SECONDS:
-        report.fault(name, f"lasts {seconds:.1f} s, wanted {AMBIENCE_SECONDS} at least")
-    if not AMBIENCE_BOUNDS_DB[0] <= level <= AMBIENCE_BOUNDS_DB[1]:
-        report.fault(name, f"is at {level:.1f} dB, wanted {AMBIENCE_BOUNDS_DB}")
-    offset = sum(samples) / len(samples) - SILENCE
-    if abs(offset) > 0.5:
-        report.fault(name, f"is off centre by {offset:.2f}")
-    jumps = sorted(abs(left - right) for left, right in zip(samples, samples[1:]))
-    usual = jumps[len(jumps) * 99 // 100]
-    seam = abs(samples[-1] - samples[0])
-    if seam > usual:
-        report.fault(name, f"jumps by {seam} at the seam, elsewhere 99 of 100 jumps are at most {usual}")
-    first, last = decibels(power_of(samples[:RATE])), decibels(power_of(samples[-RATE:]))
-    if abs(first - last) > AMBIENCE_SEAM_DB:
-        report.fault(name, f"first second is at {first:.1f} dB, last at {last:.1f}")
-    return seconds, level, seam
-
-
 def check_sample(wavs, sample, report):
     """Every airport and airline of the sample set is spoken. Returns how many there are."""
     count = 0
@@ -229,10 +200,10 @@ def main():
     count, softest, loudest = check_voices(options.wavs, options.tables, report)
     check_short_sound(options.wavs, "Announcements.wav", (0.6, 2.5), report)
     check_short_sound(options.wavs, "click.wav", (0.02, 0.15), report)
-    seconds, level, seam = check_ambience(options.wavs, report)
+    seconds, level, alike = check_hall(options.wavs / "Ambience.wav", report)
     spoken = check_sample(options.wavs, options.sample, report) if options.sample else 0
     print(f"{count} spoken recordings at {softest:.2f} to {loudest:.2f} dB; ambience {seconds:.1f} s at {level:.1f} dB, "
-          f"seam {seam}; {spoken} airports and airlines of the sample set")
+          f"ears alike {alike:.2f}; {spoken} airports and airlines of the sample set")
     for fault in report.faults:
         print(fault, file=sys.stderr)
     return 1 if report.faults else 0

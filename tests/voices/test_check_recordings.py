@@ -4,6 +4,7 @@
     test_check_recordings.py WAVS TABLES
 """
 
+import array
 import os
 import shutil
 import sys
@@ -11,6 +12,7 @@ import tempfile
 import unittest
 from pathlib import Path
 
+import check_hall
 import check_recordings as check
 
 WAVS, TABLES = Path(sys.argv[1]), Path(sys.argv[2])
@@ -54,7 +56,7 @@ class BrokenRecordings(unittest.TestCase):
 
     def test_whole_folder_is_sound(self):
         check.check_voices(self.wavs, TABLES, self.report)
-        check.check_ambience(self.wavs, self.report)
+        check_hall.check_hall(self.wavs / "Ambience.wav", self.report)
         self.assertEqual(self.report.faults, [])
 
     def test_missing(self):
@@ -120,27 +122,44 @@ class BrokenRecordings(unittest.TestCase):
         self.assertEqual(len(self.report.faults), 1, self.report.faults)
         self.assert_fault(self.report.faults, "Female/Cities/jfk.wav", "dB, the others at")
 
-    def test_ambience_with_a_seam(self):
-        samples = bytearray(self.samples("Ambience.wav"))
-        samples[-1] = (samples[0] + 40) % 256
-        self.replace("Ambience.wav", with_header(samples))
-        check.check_ambience(self.wavs, self.report)
-        self.assert_fault(self.report.faults, "Ambience.wav", "at the seam")
+    def hall_faults(self, change):
+        """Puts a changed loop in the place of the finished one; `change` takes the samples of both ears in turns."""
+        samples = array.array("h", self.samples("Ambience.wav"))
+        data = change(samples).tobytes()
+        self.replace("Ambience.wav", check_hall.canonical_header(len(data)) + data)
+        check_hall.check_hall(self.wavs / "Ambience.wav", self.report)
+        return self.report.faults
 
-    def test_ambience_that_fades(self):
-        samples = self.samples("Ambience.wav")
-        faded = samples[:-8000] + louder(samples[-8000:], 0.5)
-        self.replace("Ambience.wav", with_header(faded))
-        check.check_ambience(self.wavs, self.report)
-        self.assert_fault(self.report.faults, "Ambience.wav", "first second")
+    def test_hall_with_a_seam(self):
+        def change(samples):
+            samples[-1] = samples[1] + 4000
+            return samples
 
-    def test_ambience_too_short_too_loud_off_centre(self):
-        samples = self.samples("Ambience.wav")
-        self.replace("Ambience.wav", with_header(louder([sample + 3 for sample in samples[:160000]], 2.5)))
-        check.check_ambience(self.wavs, self.report)
-        self.assert_fault(self.report.faults, "lasts 20.0 s")
-        self.assert_fault(self.report.faults, "wanted (-36.0, -26.0)")
-        self.assert_fault(self.report.faults, "off centre")
+        self.assert_fault(self.hall_faults(change), "Ambience.wav", "at the seam", "right")
+
+    def test_hall_that_fades(self):
+        def change(samples):
+            end = 2 * check_hall.RATE
+            return samples[:-end] + array.array("h", [sample // 2 for sample in samples[-end:]])
+
+        self.assert_fault(self.hall_faults(change), "Ambience.wav", "first second")
+
+    def test_hall_too_short_and_off_centre(self):
+        faults = self.hall_faults(lambda samples: array.array("h", [s + 99 for s in samples[: 40 * check_hall.RATE]]))
+        self.assert_fault(faults, "lasts 20.0 s")
+        self.assert_fault(faults, "off centre")
+
+    def test_hall_of_one_ear(self):
+        def change(samples):
+            samples[1::2] = samples[0::2]
+            return samples
+
+        self.assert_fault(self.hall_faults(change), "alike in both ears")
+
+    def test_hall_in_eight_bits(self):
+        self.replace("Ambience.wav", with_header(self.samples("Announcements.wav") * 60))
+        check_hall.check_hall(self.wavs / "Ambience.wav", self.report)
+        self.assert_fault(self.report.faults, "Ambience.wav", "another header")
 
     def test_chime_that_never_ends(self):
         self.replace("Announcements.wav", with_header(self.samples("Announcements.wav") * 2))

@@ -13,15 +13,17 @@ constexpr double kDecaySeconds = 2.2; // to -60 dB
 constexpr double kDampingHertz = 2600.0;
 constexpr double kFloorHertz = 70.0; // a hall does not carry what lies below
 
-// Prime lengths, so that the echoes of the lines do not fall together.
-constexpr std::array<std::size_t, 4> kLineLengths{359, 449, 563, 677};
+// Prime lengths in samples, 45 to 86 ms, so that the echoes of the lines do not fall together.
+using Lengths = std::array<std::size_t, 4>;
+constexpr Lengths kLeftLengths{1979, 2477, 3109, 3733};
+constexpr Lengths kRightLengths{2039, 2551, 3001, 3671};
 
 // A delay line that gives back what went in a fixed number of samples ago.
 class Line {
 public:
     explicit Line(std::size_t length)
-        : held_(length, 0.0), damping_(kDampingHertz),
-          feedback_(std::pow(10.0, -3.0 * static_cast<double>(length) / (kDecaySeconds * kSampleRate))) {}
+        : held_(length, 0.0), damping_(kDampingHertz, kHallRate),
+          feedback_(std::pow(10.0, -3.0 * static_cast<double>(length) / (kDecaySeconds * kHallRate))) {}
 
     double out() { return damping_.next(held_[at_]) * feedback_; }
     void in(double sample) {
@@ -38,10 +40,10 @@ private:
 
 } // namespace
 
-Samples in_hall(const Samples& dry) {
-    std::array<Line, 4> lines{Line(kLineLengths[0]), Line(kLineLengths[1]), Line(kLineLengths[2]),
-                              Line(kLineLengths[3])};
-    LowPass floor(kFloorHertz);
+Samples in_hall(const Samples& dry, Ear ear) {
+    const Lengths& lengths = ear == Ear::Left ? kLeftLengths : kRightLengths;
+    std::array<Line, 4> lines{Line(lengths[0]), Line(lengths[1]), Line(lengths[2]), Line(lengths[3])};
+    LowPass floor(kFloorHertz, kHallRate);
     Samples wet(dry.size());
     // The first round fills the hall with the loop's end, the second is the one that is kept.
     for (int round = 0; round < 2; ++round) {

@@ -14,9 +14,9 @@ double Random::unit() {
     return static_cast<double>(z >> 11) * (1.0 / 9007199254740992.0);
 }
 
-Resonator::Resonator(double frequency, double bandwidth) {
-    const double radius = std::exp(-kPi * bandwidth / kSampleRate);
-    const double angle = 2.0 * kPi * frequency / kSampleRate;
+Resonator::Resonator(double frequency, double bandwidth, int rate) {
+    const double radius = std::exp(-kPi * bandwidth / rate);
+    const double angle = 2.0 * kPi * frequency / rate;
     a1_ = 2.0 * radius * std::cos(angle);
     a2_ = -radius * radius;
     gain_ = (1.0 - radius) * std::sqrt(1.0 - 2.0 * radius * std::cos(2.0 * angle) + radius * radius);
@@ -29,7 +29,7 @@ double Resonator::next(double input) {
     return y;
 }
 
-LowPass::LowPass(double cutoff) : factor_(1.0 - std::exp(-2.0 * kPi * cutoff / kSampleRate)) {}
+LowPass::LowPass(double cutoff, int rate) : factor_(1.0 - std::exp(-2.0 * kPi * cutoff / rate)) {}
 
 double root_mean_square(const Samples& samples) {
     double sum = 0.0;

@@ -1,4 +1,4 @@
-// Building blocks of the synthesised sounds. Samples are doubles, full scale -1 to 1, at kSampleRate.
+// Building blocks of the synthesised sounds. Samples are doubles, full scale -1 to 1.
 #pragma once
 
 #include <cstddef>
@@ -7,7 +7,9 @@
 
 namespace synth {
 
-inline constexpr int kSampleRate = 8000;
+// Samples a second: of what the public address plays, and of the hall around it.
+inline constexpr int kSpeechRate = 8000;
+inline constexpr int kHallRate = 44100;
 inline constexpr double kPi = 3.14159265358979323846;
 
 using Samples = std::vector<double>;
@@ -32,8 +34,8 @@ private:
 // Two-pole resonator: a band around a frequency, unit gain at its centre.
 class Resonator {
 public:
-    // Both in hertz; the frequency below half the sample rate, the bandwidth above zero.
-    Resonator(double frequency, double bandwidth);
+    // All in hertz; the frequency below half the sample rate, the bandwidth above zero.
+    Resonator(double frequency, double bandwidth, int rate);
     double next(double input);
 
 private:
@@ -47,7 +49,7 @@ private:
 // One-pole low-pass.
 class LowPass {
 public:
-    explicit LowPass(double cutoff);
+    LowPass(double cutoff, int rate); // hertz
     double next(double input) { return state_ += factor_ * (input - state_); }
 
 private:
@@ -61,8 +63,8 @@ inline double& wrapped(Samples& loop, std::size_t at) {
 }
 
 // Number of samples in a time in seconds.
-inline std::size_t samples_in(double seconds) {
-    return static_cast<std::size_t>(seconds * kSampleRate);
+inline std::size_t samples_in(double seconds, int rate) {
+    return static_cast<std::size_t>(seconds * rate);
 }
 
 double root_mean_square(const Samples& samples);

@@ -13,10 +13,10 @@ int main(int argc, char** argv) {
         return 2;
     }
     const std::filesystem::path folder = argv[1];
-    const bool written =
-        synth::write_wave(folder / "Announcements.wav", synth::make_chime(), synth::Dither::Fading) &&
-        synth::write_wave(folder / "click.wav", synth::make_click(), synth::Dither::Fading) &&
-        synth::write_wave(folder / "Ambience.wav", synth::make_ambience(), synth::Dither::Steady);
+    const synth::Hall hall = synth::make_ambience();
+    const bool written = synth::write_speech_wave(folder / "Announcements.wav", synth::make_chime()) &&
+                         synth::write_speech_wave(folder / "click.wav", synth::make_click()) &&
+                         synth::write_hall_wave(folder / "Ambience.wav", hall.left, hall.right);
     if (!written) {
         std::fprintf(stderr, "cannot write into %s\n", folder.string().c_str());
         return 1;

@@ -32,8 +32,8 @@ constexpr double kClickPeak = 0.38;
 constexpr double kClickAttackSeconds = 0.001;
 
 void add_tone(Samples& samples, const Tone& tone) {
-    for (std::size_t at = samples_in(tone.start); at < samples.size(); ++at) {
-        const double time = static_cast<double>(at) / kSampleRate - tone.start;
+    for (std::size_t at = samples_in(tone.start, kSpeechRate); at < samples.size(); ++at) {
+        const double time = static_cast<double>(at) / kSpeechRate - tone.start;
         const double attack = std::min(1.0, time / kAttackSeconds);
         for (const Partial& partial : kBar) {
             samples[at] += attack * partial.strength * std::exp(-time / partial.decay) *
@@ -56,19 +56,19 @@ void finish(Samples& samples, double peak) {
 } // namespace
 
 Samples make_chime() {
-    Samples samples(samples_in(kChimeSeconds), 0.0);
+    Samples samples(samples_in(kChimeSeconds, kSpeechRate), 0.0);
     for (const Tone& tone : kChime) add_tone(samples, tone);
     finish(samples, kChimePeak);
     return samples;
 }
 
 Samples make_click() {
-    Samples samples(samples_in(kClickSeconds), 0.0);
+    Samples samples(samples_in(kClickSeconds, kSpeechRate), 0.0);
     Random random(3);
-    Resonator body(420.0, 160.0);
-    Resonator tip(1900.0, 500.0);
+    Resonator body(420.0, 160.0, kSpeechRate);
+    Resonator tip(1900.0, 500.0, kSpeechRate);
     for (std::size_t at = 0; at < samples.size(); ++at) {
-        const double time = static_cast<double>(at) / kSampleRate;
+        const double time = static_cast<double>(at) / kSpeechRate;
         const double attack = std::min(1.0, time / kClickAttackSeconds);
         const double strike = attack * random.noise() * std::exp(-time / 0.0022);
         samples[at] = 3.0 * body.next(strike) + 0.8 * tip.next(strike);
