@@ -2,6 +2,7 @@
 
 #include "platform/Files.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace gatewise {
@@ -37,14 +38,23 @@ SoundBuffer OpenAlDevice::add(OpenAlVoice voice) {
 
 void OpenAlDevice::catchUp() {
     if (!output_.takeOver()) return;
+    rest_.watch(output_.device());
     const auto now = std::chrono::steady_clock::now();
     for (auto& [buffer, voice] : voices_) {
         attach(voice);
         if (const auto frame = frameNow(voice, now); frame >= 0) startSources(voice, frame);
     }
+    keepAwake();
+}
+
+void OpenAlDevice::keepAwake() {
+    OpenAlRest::Time end = OpenAlRest::Time::min();
+    for (const auto& [buffer, voice] : voices_) end = std::max(end, endOf(voice));
+    rest_.playUntil(end);
 }
 
 void OpenAlDevice::dropOutput() {
+    rest_.release();
     if (output_.ready()) {
         for (auto& [buffer, voice] : voices_) stopSources(voice);
         for (auto& [buffer, voice] : voices_) {
@@ -99,6 +109,7 @@ void OpenAlDevice::release(SoundBuffer buffer) {
     if (OpenAlVoice* voice = find(buffer); voice != nullptr) {
         if (output_.ready()) detach(*voice);
         voices_.erase(buffer);
+        keepAwake();
     }
 }
 
@@ -109,6 +120,7 @@ void OpenAlDevice::play(SoundBuffer buffer, bool loop) {
     voice->playing = true;
     voice->loop = loop;
     voice->started = std::chrono::steady_clock::now();
+    keepAwake();
     startSources(*voice, 0);
 }
 
@@ -118,6 +130,7 @@ void OpenAlDevice::stop(SoundBuffer buffer) {
     if (voice == nullptr) return;
     voice->playing = false;
     stopSources(*voice);
+    keepAwake();
 }
 
 void OpenAlDevice::setVolume(SoundBuffer buffer, std::int32_t volume) {
@@ -135,7 +148,13 @@ void OpenAlDevice::setPan(SoundBuffer buffer, std::int32_t pan) {
 void OpenAlDevice::setFrequency(SoundBuffer buffer, std::int32_t frequency) {
     catchUp();
     OpenAlVoice* voice = find(buffer);
-    if (voice != nullptr && voice->settings.setFrequency(frequency)) applySettings(*voice);
+    if (voice == nullptr) return;
+    const auto now = std::chrono::steady_clock::now();
+    const auto frame = frameNow(*voice, now);
+    if (!voice->settings.setFrequency(frequency)) return;
+    if (frame >= 0) voice->started = startOf(*voice, frame, now);
+    applySettings(*voice);
+    keepAwake();
 }
 
 std::optional<std::int32_t> OpenAlDevice::volume(SoundBuffer buffer) const {

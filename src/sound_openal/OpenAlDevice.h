@@ -2,6 +2,7 @@
 
 #include "sound/Device.h"
 #include "sound_openal/OpenAlOutput.h"
+#include "sound_openal/OpenAlRest.h"
 #include "sound_openal/OpenAlVoice.h"
 
 #include <map>
@@ -37,6 +38,8 @@ public:
 
     /// The outside, for tests that render it.
     [[nodiscard]] const OpenAlOutput& output() const { return output_; }
+    /// Whether the mixer stands still because nothing plays.
+    [[nodiscard]] bool resting() const { return rest_.resting(); }
 
 private:
     OpenAlVoice* find(SoundBuffer buffer);
@@ -45,8 +48,11 @@ private:
     /// Hands all voices to an output that has become ready since.
     void catchUp();
     void dropOutput();
+    /// Tells the mixer how long there is something to play.
+    void keepAwake();
 
     OpenAlOutput output_;
+    OpenAlRest rest_; // lets go of the output's device before that is closed
     std::map<SoundBuffer, OpenAlVoice> voices_;
     std::uint32_t last_ = 0;
     SoundBuffer click_ = SoundBuffer::None;

@@ -125,14 +125,36 @@ void stopSources(const OpenAlVoice& voice) {
     if (hasSources(voice)) alSourceStopv(2, voice.sources.data());
 }
 
-std::int64_t frameNow(const OpenAlVoice& voice, std::chrono::steady_clock::time_point now) {
-    if (!voice.playing) return -1;
+namespace {
+
+std::int64_t framesOf(const OpenAlVoice& voice) {
     const std::size_t frameSize = std::size_t{voice.sound->wave.channels} * voice.sound->wave.bits / 8;
-    const auto length = static_cast<std::int64_t>(voice.sound->wave.samples.size() / frameSize);
+    return static_cast<std::int64_t>(voice.sound->wave.samples.size() / frameSize);
+}
+
+VoiceClock::duration timeOf(const OpenAlVoice& voice, std::int64_t frames) {
+    const std::chrono::duration<double> seconds(static_cast<double>(frames) / voice.settings.frequency);
+    return std::chrono::duration_cast<VoiceClock::duration>(seconds);
+}
+
+} // namespace
+
+std::int64_t frameNow(const OpenAlVoice& voice, VoiceClock::time_point now) {
+    if (!voice.playing) return -1;
+    const auto length = framesOf(voice);
     const double seconds = std::chrono::duration<double>(now - voice.started).count();
     const auto frame = static_cast<std::int64_t>(seconds * voice.settings.frequency);
     if (voice.loop) return frame % length;
     return frame < length ? frame : -1;
+}
+
+VoiceClock::time_point startOf(const OpenAlVoice& voice, std::int64_t frame, VoiceClock::time_point now) {
+    return now - timeOf(voice, frame);
+}
+
+VoiceClock::time_point endOf(const OpenAlVoice& voice) {
+    if (!voice.playing) return VoiceClock::time_point::min();
+    return voice.loop ? VoiceClock::time_point::max() : voice.started + timeOf(voice, framesOf(voice));
 }
 
 } // namespace gatewise

@@ -15,6 +15,8 @@
 
 namespace gatewise {
 
+using VoiceClock = std::chrono::steady_clock;
+
 enum class Side : std::uint8_t { Left, Right };
 
 /// A wave file's sound, shared by a channel and its echoes, with the library's buffers once they are needed.
@@ -28,7 +30,7 @@ struct OpenAlVoice {
     SoundSettings settings;
     bool playing = false; // was started and not stopped; it may have run out
     bool loop = false;
-    std::chrono::steady_clock::time_point started{};
+    VoiceClock::time_point started{};
     std::array<ALuint, 2> sources{}; // by side, 0: none
 };
 
@@ -51,6 +53,10 @@ void stopSources(const OpenAlVoice& voice);
 
 /// The frame at which a voice that was started stands by the clock; negative when it has run out or is
 /// stopped.
-std::int64_t frameNow(const OpenAlVoice& voice, std::chrono::steady_clock::time_point now);
+std::int64_t frameNow(const OpenAlVoice& voice, VoiceClock::time_point now);
+/// When a voice that stands at `frame` now would have been started at its present rate.
+VoiceClock::time_point startOf(const OpenAlVoice& voice, std::int64_t frame, VoiceClock::time_point now);
+/// When a voice runs out: the greatest time for a loop, the least for one that is stopped.
+VoiceClock::time_point endOf(const OpenAlVoice& voice);
 
 } // namespace gatewise

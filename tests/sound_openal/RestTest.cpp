@@ -1,0 +1,111 @@
+#include "sound_openal/Loopback.h"
+
+#include <chrono>
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+// The mixer's rest, on the library's own device that plays to nobody: it mixes in real time as a sound card's
+// does.
+
+namespace gatewise::sound_test {
+
+namespace {
+
+// Chosen before the library looks for the first time what there is.
+const bool kChosen = setenv("ALSOFT_DRIVERS", "null", 1) == 0;
+
+/// A wave file of silence at 8,000 Hz, eight bits.
+std::string silentWave(const std::filesystem::path& folder, int milliseconds) {
+    const auto size = static_cast<std::uint32_t>(8 * milliseconds);
+    std::string bytes = "RIFF";
+    const auto number = [&bytes](std::uint32_t value, int width) {
+        for (int i = 0; i < width; ++i) bytes += static_cast<char>(value >> (8 * i) & 0xFF);
+    };
+    number(size + 36, 4);
+    bytes += "WAVEfmt ";
+    number(16, 4), number(1, 2), number(1, 2), number(8000, 4), number(8000, 4), number(1, 2), number(8, 2);
+    bytes += "data";
+    number(size, 4);
+    bytes.append(size, '\x80');
+    const auto path = folder / ("silence" + std::to_string(milliseconds) + ".wav");
+    std::ofstream(path, std::ios::binary) << bytes;
+    return path.string();
+}
+
+double processorSeconds() {
+    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
+
+class Resting : public testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(kChosen && opens(device_));
+        std::filesystem::create_directories(folder_);
+    }
+    void TearDown() override { std::filesystem::remove_all(folder_); }
+
+    bool rests() {
+        return soon([&] { return device_.resting(); });
+    }
+
+    std::filesystem::path folder_ = std::filesystem::temp_directory_path() /
+                                    ("rest" + std::to_string(std::time(nullptr)) + "_" +
+                                     testing::UnitTest::GetInstance()->current_test_info()->name());
+    OpenAlDevice device_;
+};
+
+} // namespace
+
+TEST_F(Resting, WithoutASoundTheMixerRestsAndCostsNothing) {
+    ASSERT_TRUE(rests());
+    const double before = processorSeconds();
+    std::this_thread::sleep_for(std::chrono::seconds(1));
+    EXPECT_LT(processorSeconds() - before, 0.005);
+}
+
+TEST_F(Resting, ASoundWakesItUntilItHasRunOut) {
+    ASSERT_TRUE(rests());
+    const auto began = std::chrono::steady_clock::now();
+    device_.play(device_.load(silentWave(folder_, 300)), false);
+    EXPECT_FALSE(device_.resting());
+    ASSERT_TRUE(rests());
+    EXPECT_GE(std::chrono::steady_clock::now() - began, std::chrono::milliseconds(300));
+}
+
+TEST_F(Resting, ALoopKeepsItAwakeUntilItIsStopped) {
+    const SoundBuffer buffer = device_.load(silentWave(folder_, 100));
+    device_.play(buffer, true);
+    std::this_thread::sleep_for(std::chrono::milliseconds(900));
+    EXPECT_FALSE(device_.resting());
+    device_.stop(buffer);
+    EXPECT_TRUE(rests());
+}
+
+TEST_F(Resting, ASlowerRateLastsLonger) {
+    const SoundBuffer buffer = device_.load(silentWave(folder_, 200));
+    const auto began = std::chrono::steady_clock::now();
+    device_.play(buffer, false);
+    device_.setFrequency(buffer, 1000);
+    ASSERT_TRUE(rests());
+    EXPECT_GE(std::chrono::steady_clock::now() - began, std::chrono::milliseconds(1500));
+}
+
+TEST_F(Resting, ReleasingTheLastSoundLetsItRest) {
+    const SoundBuffer buffer = device_.load(silentWave(folder_, 100));
+    device_.play(buffer, true);
+    EXPECT_FALSE(device_.resting());
+    device_.release(buffer);
+    EXPECT_TRUE(rests());
+}
+
+TEST_F(Resting, ClosingWhileItRestsEndsCleanly) {
+    ASSERT_TRUE(rests());
+    device_.close();
+    EXPECT_FALSE(device_.resting());
+    EXPECT_TRUE(opens(device_));
+}
+
+} // namespace gatewise::sound_test
