@@ -37,15 +37,35 @@ long long markedDay(std::string_view backup) {
     return floor<days>(file_clock::to_sys(time)).time_since_epoch().count() + kSerialOf1970;
 }
 
-/// Bytes of the file; empty when there is none. An unreadable file is an error, not an empty log.
-std::error_code readOld(std::string_view path, Bytes& bytes) {
-    std::error_code error;
-    auto found = files::readAll(path, &error);
-    if (found)
-        bytes = std::move(*found);
-    else if (error != std::errc::no_such_file_or_directory)
-        return error;
-    return {};
+Bytes bytesOf(const std::vector<LogRecord>& entries) {
+    Bytes out;
+    out.reserve(entries.size() * kRecord);
+    for (const LogRecord& entry : entries) appendRecord(out, entry);
+    return out;
+}
+
+std::string keptPath(std::string_view path) {
+    return besides(path, "LogBook.new");
+}
+
+/// Makes room for a record at `index`: what the file has lost meanwhile comes back from `entries`.
+void reach(Bytes& bytes, std::size_t index, const std::vector<LogRecord>& entries) {
+    if (bytes.size() < index * kRecord) {
+        const std::size_t whole = bytes.size() / kRecord;
+        bytes.resize(whole * kRecord);
+        for (std::size_t i = whole; i < std::min(index, entries.size()); ++i) appendRecord(bytes, entries[i]);
+    }
+    bytes.resize(std::max(bytes.size(), (index + 1) * kRecord));
+}
+
+void store(Bytes& bytes, std::size_t index, const LogRecord& record) {
+    const Bytes field = bytesOf({record});
+    std::copy(field.begin(), field.end(), bytes.begin() + static_cast<std::ptrdiff_t>(index * kRecord));
+}
+
+/// Whether the records of `part` stand in `whole` one behind the other.
+bool holds(const Bytes& whole, const Bytes& part) {
+    return std::search(whole.begin(), whole.end(), part.begin(), part.end()) != whole.end();
 }
 
 } // namespace
@@ -56,9 +76,51 @@ std::vector<LogRecord> logEntriesOf(ByteView bytes) {
     return entries;
 }
 
-std::vector<LogRecord> readLogBook(std::string_view path) {
-    const auto bytes = files::readAll(path);
+std::vector<LogRecord> readLogBook(std::string_view path, std::error_code* error) {
+    std::error_code found;
+    const auto bytes = files::readAll(path, &found);
+    if (found == std::errc::no_such_file_or_directory) found.clear();
+    if (error != nullptr) *error = found;
     return bytes ? logEntriesOf(*bytes) : std::vector<LogRecord>();
+}
+
+std::error_code LogStore::load(std::string_view path, long long today, std::vector<LogRecord>& entries) {
+    std::vector<LogRecord> found = readLogBook(path, &doubt_);
+    if (doubt_) return doubt_;
+    entries = std::move(found);
+    remember(static_cast<long long>(entries.size() * kRecord));
+    takeKept(path, today, entries);
+    return {};
+}
+
+std::error_code LogStore::keepBeside(std::string_view path, const LogRecord& record) {
+    return files::rewrite(keptPath(path), [&](Bytes old) -> std::optional<Bytes> {
+        old.resize(old.size() / kRecord * kRecord);
+        appendRecord(old, record);
+        return old;
+    });
+}
+
+void LogStore::takeKept(std::string_view path, long long today, std::vector<LogRecord>& entries) {
+    const std::vector<LogRecord> kept = readLogBook(keptPath(path));
+    if (kept.empty()) return;
+    // A run that ended between the two steps has filed them already.
+    if (!holds(bytesOf(entries), bytesOf(kept))) {
+        const std::size_t free =
+            static_cast<std::size_t>(kLogEntries) - std::min<std::size_t>(entries.size(), kLogEntries);
+        if (kept.size() > free) return;
+        entries.insert(entries.end(), kept.begin(), kept.end());
+        const auto filed = change(path, today, [&](Bytes bytes) {
+            for (const LogRecord& record : kept) {
+                const std::size_t index = bytes.size() / kRecord;
+                reach(bytes, index, {});
+                store(bytes, index, record);
+            }
+            return bytes;
+        });
+        if (filed) return; // they wait on
+    }
+    (void)files::remove(keptPath(path)); // found to be filed at the next reading
 }
 
 std::error_code LogStore::backUp(std::string_view path, ByteView old, long long today) {
@@ -72,39 +134,44 @@ std::error_code LogStore::backUp(std::string_view path, ByteView old, long long 
     return {};
 }
 
-std::error_code LogStore::replace(std::string_view path, const Bytes& bytes) {
-    const std::error_code error = files::replace(path, bytes);
-    if (!error) remember(static_cast<long long>(bytes.size()));
-    return error;
+std::error_code LogStore::change(std::string_view path, long long today, const Change& change) {
+    if (doubt_) return doubt_;
+    std::error_code backedUp;
+    long long length = 0;
+    const auto error = files::rewrite(path, [&](Bytes old) -> std::optional<Bytes> {
+        backedUp = backUp(path, old, today);
+        if (backedUp) return std::nullopt;
+        Bytes bytes = change(std::move(old));
+        length = static_cast<long long>(bytes.size());
+        return bytes;
+    });
+    if (error || backedUp) return error ? error : backedUp;
+    remember(length);
+    return {};
+}
+
+std::error_code LogStore::add(std::string_view path, const LogRecord& record, long long today,
+                              const std::vector<LogRecord>& entries) {
+    return change(path, today, [&](Bytes bytes) {
+        const std::size_t index = std::max(entries.size(), bytes.size() / kRecord);
+        reach(bytes, index, entries);
+        store(bytes, index, record);
+        return bytes;
+    });
 }
 
 std::error_code LogStore::put(std::string_view path, std::size_t index, const LogRecord& record,
                               long long today, const std::vector<LogRecord>& entries) {
-    Bytes bytes;
-    if (const auto error = readOld(path, bytes)) return error;
-    if (const auto error = backUp(path, bytes, today)) return error;
-    if (bytes.size() < index * kRecord) {
-        const std::size_t whole = bytes.size() / kRecord;
-        bytes.resize(whole * kRecord);
-        for (std::size_t i = whole; i < std::min(index, entries.size()); ++i) appendRecord(bytes, entries[i]);
-    }
-    bytes.resize(std::max(bytes.size(), (index + 1) * kRecord));
-    Bytes field;
-    field.reserve(kRecord);
-    appendRecord(field, record);
-    std::copy(field.begin(), field.end(), bytes.begin() + static_cast<std::ptrdiff_t>(index * kRecord));
-    return replace(path, bytes);
+    return change(path, today, [&](Bytes bytes) {
+        reach(bytes, index, entries);
+        store(bytes, index, record);
+        return bytes;
+    });
 }
 
 std::error_code LogStore::rewrite(std::string_view path, const std::vector<LogRecord>& entries,
                                   long long today) {
-    Bytes old;
-    if (const auto error = readOld(path, old)) return error;
-    if (const auto error = backUp(path, old, today)) return error;
-    Bytes bytes;
-    bytes.reserve(entries.size() * kRecord);
-    for (const LogRecord& entry : entries) appendRecord(bytes, entry);
-    return replace(path, bytes);
+    return change(path, today, [&](const Bytes&) { return bytesOf(entries); });
 }
 
 } // namespace gatewise

@@ -57,11 +57,9 @@ void mergeExchange(ByteView bytes, std::vector<LogRecord>& entries) {
 
 void WriteLogRecords(std::string_view path, const std::vector<LogRecord>& entries) {
     if (entries.empty()) return;
-    std::error_code error;
-    const auto old = files::readAll(path, &error);
-    if (!old && error != std::errc::no_such_file_or_directory) return;
     // Without the simulator there is no folder for it; the log book itself stands already.
-    (void)files::replace(path, exchangeBytes(entries, old ? ByteView(*old) : ByteView()));
+    (void)files::rewrite(
+        path, [&](const Bytes& old) -> std::optional<Bytes> { return exchangeBytes(entries, old); });
 }
 
 void MergeLogRecords(std::string_view path, std::vector<LogRecord>& entries) {

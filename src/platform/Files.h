@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/Binary.h"
+#include "platform/InFile.h"
 
-#include <cstdio>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,19 +13,19 @@
 // Files by the system's own paths: a native absolute folder followed by tails such as "\Data\index.gt1". "\"
 // and "/" are the same; each component is looked up as written first and then without regard to letter case;
 // what does not exist yet is created as written. Paths are texts of the program (Windows-1252); a component
-// that is valid UTF-8 with bytes above 127 is taken as it is, so that folders whose names the page cannot
-// hold still work.
+// that is valid UTF-8 with bytes above 127 is taken as it is, and one that only exists with its bytes as they
+// are is found by them, so that folders whose names the page cannot hold still work.
 
 namespace gatewise::files {
 
-/// The native path that stands for `path` now.
+/// The native path that stands for `path` now; empty for a text with a NUL, which the system would cut there.
 std::filesystem::path resolve(std::string_view path);
 
 /// A native path as a text of the program.
 std::string textOf(const std::filesystem::path& path);
 
-/// No file that the program reads whole comes near this many bytes: what is longer is damaged.
-inline constexpr long long kLongestFile = 1LL << 30U;
+/// No file that the program reads whole comes near this many bytes (64 MB): what is longer is damaged.
+inline constexpr long long kLongestFile = 64LL << 20U;
 
 bool fileExists(std::string_view path);
 bool folderExists(std::string_view path);
@@ -33,16 +33,25 @@ bool folderExists(std::string_view path);
 /// Name of an existing file as its folder spells it, empty when there is none.
 std::string foundName(std::string_view path);
 
-/// Whole file in one read; nothing when it cannot be read, is no plain file or is longer than kLongestFile
-/// (`error` says why).
-std::optional<Bytes> readAll(std::string_view path, std::error_code* error = nullptr);
+/// Whole file from one opening to its end; nothing when it cannot be read, is no plain file or is longer than
+/// kLongestFile (`error` says why). `stamp` becomes that of the file that was read.
+std::optional<Bytes> readAll(std::string_view path, std::error_code* error = nullptr, Stamp* stamp = nullptr);
 
 /// Replaces the file in one step: written beside it, flushed, renamed; through a symbolic link its target is
-/// replaced. On an error the old file is whole. Permissions of an old file are kept.
-[[nodiscard]] std::error_code replace(std::string_view path, ByteView bytes);
+/// replaced. On an error the old file is whole. Permissions of an old file are kept. With `old` only the file
+/// that has this stamp is replaced: interrupted, when another program has changed it meanwhile.
+[[nodiscard]] std::error_code replace(std::string_view path, ByteView bytes, const Stamp* old = nullptr);
 [[nodiscard]] inline std::error_code replace(std::string_view path, std::string_view text) {
     return replace(path, viewOf(text));
 }
+
+/// The new bytes of a file from its old ones, of which there are none where there is no file; nothing to
+/// leave it as it is.
+using Change = std::function<std::optional<Bytes>(Bytes old)>;
+
+/// Reads a file, changes it and replaces it. What another program did to the file meanwhile is read again and
+/// changed in its turn. What is there but cannot be read is an error and is not written over.
+[[nodiscard]] std::error_code rewrite(std::string_view path, const Change& change);
 
 /// No error when there is no such file.
 [[nodiscard]] std::error_code remove(std::string_view path);
@@ -59,12 +68,9 @@ std::vector<Entry> list(std::string_view path);
 class RecordFile {
 public:
     explicit RecordFile(std::string_view path);
-    ~RecordFile();
-    RecordFile(const RecordFile&) = delete;
-    RecordFile& operator=(const RecordFile&) = delete;
 
-    [[nodiscard]] bool isOpen() const { return file_ != nullptr; }
-    [[nodiscard]] long long length() const { return length_; }
+    [[nodiscard]] bool isOpen() const { return file_.isOpen(); }
+    [[nodiscard]] long long length() const { return file_.length(); }
 
     /// Fills `out` from `offset`; false, with `out` untouched, when the range does not lie wholly inside the
     /// file.
@@ -89,7 +95,7 @@ public:
     template<class Record>
     std::optional<std::vector<Record>> records(long long offset, long long count) const {
         constexpr auto size = static_cast<long long>(recordSize<Record>());
-        if (count < 0 || offset < 0 || offset > length_ || count > (length_ - offset) / size)
+        if (count < 0 || offset < 0 || offset > length() || count > (length() - offset) / size)
             return std::nullopt;
         if (count > kLongestFile / size) return std::nullopt;
         Bytes block(static_cast<std::size_t>(count * size));
@@ -101,8 +107,7 @@ public:
     }
 
 private:
-    std::FILE* file_ = nullptr;
-    long long length_ = 0;
+    InFile file_;
 };
 
 } // namespace gatewise::files

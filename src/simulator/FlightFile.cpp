@@ -151,11 +151,9 @@ std::vector<ProfileValue> situationKeys(const SituationInput& in) {
 std::error_code WriteSituationFile(std::string_view templateFile, std::string_view target,
                                    const std::vector<ProfileValue>& keys) {
     std::error_code error;
-    const auto bytes = files::readAll(templateFile, &error);
+    auto bytes = files::readAll(templateFile, &error);
     if (!bytes) return error;
-    Profile copy(asText(*bytes));
-    for (const auto& value : keys) copy.set(value.section, value.key, value.value);
-    return files::replace(target, copy.content());
+    return files::replace(target, contentWith(std::move(*bytes), keys));
 }
 
 std::error_code SetDefaultFlight(std::string_view FsPath, std::string_view stem) {

@@ -180,6 +180,69 @@ TEST_F(LogBook, FolderInItsPlaceIsAnErrorAndNotAnEmptyLog) {
     EXPECT_TRUE(files::folderExists(path()));
 }
 
+TEST_F(LogBook, AnAdditionOfAnotherProgramIsNotWrittenOver) {
+    EXPECT_FALSE(store.add(path(), entry(1), kToday, {}));
+    ASSERT_FALSE(files::replace(path(), bytesOf({entry(1), entry(7)})));
+    EXPECT_FALSE(store.add(path(), entry(2), kToday, {entry(1)}));
+    EXPECT_EQ(read(path()), bytesOf({entry(1), entry(7), entry(2)}));
+}
+
+class LogInDoubt : public LogBook {
+protected:
+    /// A log book of three entries, which cannot be read as long as it bears another name.
+    LogInDoubt() {
+        EXPECT_FALSE(files::replace(path(), bytesOf({entry(1), entry(2), entry(3)})));
+        std::filesystem::rename(path(), path() + ".away");
+        std::filesystem::create_directory(path());
+    }
+    void comeBack() const {
+        std::filesystem::remove(path());
+        std::filesystem::rename(path() + ".away", path());
+    }
+    [[nodiscard]] std::string kept() const { return folder.path("/LogBook.new"); }
+
+    std::vector<LogRecord> entries;
+};
+
+TEST_F(LogInDoubt, NothingIsWrittenOverWhatCouldNotBeRead) {
+    EXPECT_EQ(store.load(path(), kToday, entries), std::errc::is_a_directory);
+    EXPECT_EQ(store.doubt(), std::errc::is_a_directory);
+    comeBack();
+    EXPECT_EQ(store.add(path(), entry(9), kToday, entries), std::errc::is_a_directory);
+    EXPECT_EQ(store.put(path(), 0, entry(9), kToday), std::errc::is_a_directory);
+    EXPECT_EQ(store.rewrite(path(), {}, kToday), std::errc::is_a_directory);
+    EXPECT_EQ(read(path()), bytesOf({entry(1), entry(2), entry(3)}));
+    EXPECT_FALSE(store.load(path(), kToday, entries));
+    EXPECT_FALSE(store.add(path(), entry(9), kToday, entries));
+    EXPECT_EQ(read(path()), bytesOf({entry(1), entry(2), entry(3), entry(9)}));
+}
+
+TEST_F(LogInDoubt, WhatIsKnownStaysKnown) {
+    entries = {entry(1), entry(2), entry(3)};
+    EXPECT_TRUE(store.load(path(), kToday, entries));
+    EXPECT_EQ(entries.size(), 3U);
+}
+
+TEST_F(LogInDoubt, EntriesWaitBesideTheFileAndAreFiledByTheNextReading) {
+    EXPECT_TRUE(store.load(path(), kToday, entries));
+    EXPECT_FALSE(LogStore::keepBeside(path(), entry(8)));
+    EXPECT_FALSE(LogStore::keepBeside(path(), entry(9)));
+    EXPECT_EQ(read(kept()), bytesOf({entry(8), entry(9)}));
+    comeBack();
+    EXPECT_FALSE(store.load(path(), kToday, entries));
+    EXPECT_EQ(bytesOf(entries), bytesOf({entry(1), entry(2), entry(3), entry(8), entry(9)}));
+    EXPECT_EQ(read(path()), bytesOf(entries));
+    EXPECT_FALSE(files::fileExists(kept()));
+}
+
+TEST_F(LogInDoubt, EntriesThatWereFiledAlreadyAreNotFiledTwice) {
+    comeBack();
+    EXPECT_FALSE(LogStore::keepBeside(path(), entry(2)));
+    EXPECT_FALSE(store.load(path(), kToday, entries));
+    EXPECT_EQ(entries.size(), 3U);
+    EXPECT_FALSE(files::fileExists(kept()));
+}
+
 TEST(LogExchange, RecordStandsByteForByteAsTheTableSays) {
     const Bytes b = exchangeBytes({entry(5)}, {});
     ASSERT_EQ(b.size(), 132U);

@@ -83,6 +83,64 @@ TEST(ReadAll, TellsWhyItFailed) {
     EXPECT_EQ(files::readAll(folder.path("/empty"))->size(), 0U);
 }
 
+TEST(Paths, ANulEndsNoPath) {
+    const TempFolder folder;
+    folder.write("/LogBook.gt1", "flights");
+    const std::string cut = folder.path(std::string_view("/LogBook.gt1\0.FLT", 17));
+    EXPECT_TRUE(files::resolve(cut).empty());
+    EXPECT_EQ(files::replace(cut, std::string_view("x")), std::errc::invalid_argument);
+    EXPECT_FALSE(files::fileExists(cut));
+    EXPECT_FALSE(files::readAll(cut));
+    EXPECT_FALSE(files::remove(cut));
+    EXPECT_EQ(folder.read("/LogBook.gt1"), "flights");
+    EXPECT_EQ(files::replace("", std::string_view("x")), std::errc::invalid_argument);
+}
+
+TEST(Paths, FoldersWhoseNamesAreNoUtf8Work) {
+    const TempFolder folder;
+    const std::string raw = std::string(folder.path()) + "/caf\xE9";
+    ASSERT_EQ(::mkdir(raw.c_str(), 0700), 0);
+    const std::string text = files::textOf(std::filesystem::path(raw));
+    EXPECT_TRUE(files::folderExists(text));
+    EXPECT_FALSE(files::replace(text + "\\GT.cfg", std::string_view("x")));
+    EXPECT_TRUE(std::filesystem::exists(raw + "/GT.cfg"));
+    EXPECT_TRUE(files::fileExists(text + "\\gt.CFG"));
+    EXPECT_TRUE(files::folderExists(folder.path("\\CAF\xC9")));
+    EXPECT_EQ(files::list(folder.path()).at(0).name, "caf\xE9");
+}
+
+TEST(Rewrite, WhatAnotherProgramReplacedMeanwhileIsReadAgain) {
+    const TempFolder folder;
+    folder.write("/fs2002.cfg", "old");
+    int calls = 0;
+    EXPECT_FALSE(files::rewrite(folder.path("/fs2002.cfg"), [&](Bytes old) -> std::optional<Bytes> {
+        if (++calls == 1) folder.write("/fs2002.cfg", "of another program");
+        old.push_back('!');
+        return old;
+    }));
+    EXPECT_EQ(folder.read("/fs2002.cfg"), "of another program!");
+    EXPECT_EQ(calls, 2);
+}
+
+TEST(Rewrite, WhatChangesForEverIsLeftToItself) {
+    const TempFolder folder;
+    int calls = 0;
+    const auto error = files::rewrite(folder.path("/a"), [&](const Bytes&) -> std::optional<Bytes> {
+        folder.write("/a", std::to_string(++calls));
+        return Bytes{'x'};
+    });
+    EXPECT_EQ(error, std::errc::interrupted);
+    EXPECT_EQ(folder.read("/a"), std::to_string(calls));
+    EXPECT_FALSE(files::fileExists(folder.path("/a.new~")));
+}
+
+TEST(Replace, OnlyPlainFilesAreReplaced) {
+    const TempFolder folder;
+    ASSERT_EQ(::mkfifo(folder.path("/pipe").c_str(), 0600), 0);
+    EXPECT_EQ(files::replace(folder.path("/pipe"), std::string_view("x")), std::errc::not_supported);
+    EXPECT_EQ(files::replace(folder.path(), std::string_view("x")), std::errc::is_a_directory);
+}
+
 TEST(Remove, ToleratesAMissingFile) {
     const TempFolder folder;
     folder.write("/A.txt", "x");

@@ -2,10 +2,12 @@
 
 #include "support/TempFolder.h"
 
+#include <chrono>
 #include <csignal>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace gatewise {
 namespace {
@@ -103,6 +105,20 @@ TEST(ReadNumber, TakesTheNumberThatAValueBeginsWith) {
     EXPECT_EQ(ReadNumber("A", "x", "/nowhere/at/all.cfg"), 0);
 }
 
+TEST(ReadNumber, TakesTheSystemsOtherDigits) {
+    const Profile profile("[A]\r\na=0x1F\r\nb=-0x10\r\nc=0b101\r\nd=0o17\r\ne=0xg\r\nf=017\r\ng=0x1fFz\r\n"
+                          "h=0X1F\r\ni=4294967297\r\n");
+    EXPECT_EQ(numberIn(profile, "A", "a"), 31);
+    EXPECT_EQ(numberIn(profile, "A", "b"), -16);
+    EXPECT_EQ(numberIn(profile, "A", "c"), 5);
+    EXPECT_EQ(numberIn(profile, "A", "d"), 15);
+    EXPECT_EQ(numberIn(profile, "A", "e"), 0);
+    EXPECT_EQ(numberIn(profile, "A", "f"), 17);
+    EXPECT_EQ(numberIn(profile, "A", "g"), 511);
+    EXPECT_EQ(numberIn(profile, "A", "h"), 0);
+    EXPECT_EQ(numberIn(profile, "A", "i"), 1);
+}
+
 std::string written(std::string_view content, std::string_view section, std::string_view key,
                     std::string_view value) {
     Profile profile(content);
@@ -165,6 +181,95 @@ TEST(ProfileWrite, WhatIsWrittenIsReadBack) {
         EXPECT_EQ(read(content, "Main", "FSPath"), quoted ? "quoted" : value);
         EXPECT_EQ(read(content, "Main", "Index"), "1");
     }
+}
+
+TEST(ProfileWrite, AValueNeverBecomesALineOfItsOwn) {
+    const std::string content = written("[A]\r\nx=1\r\n", "A", "x", "a\r\n[B]\ny=2\rz");
+    EXPECT_EQ(content, "[A]\r\nx=a  [B] y=2 z\r\n");
+    EXPECT_EQ(read(content, "A", "x"), "a  [B] y=2 z");
+    EXPECT_EQ(written("", "A", "x", std::string_view("a\0b\x1A", 4)), "[A]\r\nx=a b \r\n");
+    EXPECT_EQ(written("", "A\r\nB", "x\ny", "1"), "[A  B]\r\nx y=1\r\n");
+}
+
+TEST(ProfileWrite, NewSectionsStandInTheOrderOfTheirKeys) {
+    Profile profile("[A]\r\nx=1\r\n");
+    std::string value;
+    EXPECT_FALSE(profile.find("D", "k", value));
+    for (const auto* section : {"C", "A", "D", "C"}) profile.set(section, "k", "1");
+    profile.set("D", "K", "2");
+    profile.set("C", "l", "3");
+    EXPECT_EQ(profile.content(), "[A]\r\nx=1\r\nk=1\r\n[C]\r\nk=1\r\nl=3\r\n[D]\r\nk=2\r\n");
+    EXPECT_TRUE(profile.find("d", "k", value));
+    EXPECT_EQ(value, "2");
+}
+
+TEST(ProfileWrite, OneBatchIsWhatTheSameWritesOneByOneAre) {
+    const std::string start = "[A]\r\nx=1\r\n\r\n[B]\ny = 2 \n; c\n\n[A]\nx=9\n[C]\nz";
+    const std::vector<ProfileValue> values = {{"C", "z", "1"},   {"A", "w", ""},   {"B", "Y", "long value"},
+                                              {"E", "n", "1"},   {"C", "q", "2"},  {"A", "W", "v"},
+                                              {"B", "y", " b "}, {"E", "m", "\""}, {"A", "x", "12345678"}};
+    std::string single = start;
+    for (const auto& v : values) single = written(single, v.section, v.key, v.value);
+    EXPECT_EQ(contentWith(Bytes(start.begin(), start.end()), values), single);
+}
+
+TEST(ProfileCodings, AMarkOfUtf8IsReadAndKept) {
+    const std::string file = "\xEF\xBB\xBF[Main]\r\nFSPath=C:\\Gen\xC3\xA8ve\r\nLast=\xC5\x81\r\n";
+    EXPECT_EQ(read(file, "Main", "FSPath"), "C:\\Gen\xE8ve");
+    EXPECT_EQ(read(file, "Main", "Last"), "\xC5\x81");
+    EXPECT_EQ(written(file, "Main", "FSPath", "C:\\Z\xFCrich"),
+              "\xEF\xBB\xBF[Main]\r\nFSPath=C:\\Z\xC3\xBCrich\r\nLast=\xC5\x81\r\n");
+}
+
+std::string utf16(std::string_view text, bool big) {
+    std::string out = big ? "\xFE\xFF" : "\xFF\xFE";
+    for (const char c : text) {
+        if (big) out += '\0';
+        out += c;
+        if (!big) out += '\0';
+    }
+    return out;
+}
+
+TEST(ProfileCodings, Utf16IsReadAndKept) {
+    for (const bool big : {false, true}) {
+        const std::string file = utf16("[Main]\r\nIndex=12\r\n", big);
+        EXPECT_EQ(read(file, "Main", "Index"), "12");
+        EXPECT_EQ(written(file, "main", "Index", "13"), utf16("[Main]\r\nIndex=13\r\n", big));
+        EXPECT_EQ(written(file, "main", "Last", "Z\xFC"), utf16("[Main]\r\nIndex=12\r\nLast=Z\xFC\r\n", big));
+    }
+    const std::string pair("\xFF\xFE[\0A\0]\0\n\0x\0=\0\x3D\xD8\x00\xDE\n\0", 22);
+    EXPECT_EQ(read(pair, "A", "x"), "\xF0\x9F\x98\x80");
+    EXPECT_EQ(Profile(pair).content(), pair);
+    EXPECT_EQ(read("\xFF\xFE[", "A", "x"), "");
+}
+
+TEST(ProfileSize, FiftyMegabytesAreReadAndWrittenWithinASecond) {
+    std::string content = "[Main]\r\nIndex=12\r\n";
+    for (int i = 0; content.size() < 50'000'000; ++i)
+        content += "Key number " + std::to_string(i) + " of many=its value\r\n";
+    content += "[Other]\r\nLast=1\r\n";
+    const auto start = std::chrono::steady_clock::now();
+    Profile profile(content);
+    for (int i = 0; i < 200; ++i) profile.set("Main", "WpInfo" + std::to_string(i), "0, 0, 0");
+    EXPECT_EQ(numberIn(profile, "Main", "Index"), 12);
+    EXPECT_EQ(numberIn(profile, "Other", "Last"), 1);
+    profile.set("main", "key number 5 OF many", "changed");
+    const std::string out = profile.content();
+    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+    EXPECT_GT(out.size(), content.size());
+    // The work of one pass; a pass for each key took a quarter of a minute.
+    EXPECT_LT(seconds.count(), 5.0);
+    RecordProperty("seconds", std::to_string(seconds.count()));
+}
+
+TEST(WriteValue, AFileThatCannotBeReadIsNotWrittenOver) {
+    const TempFolder folder;
+    std::filesystem::create_directory(folder.path("/GT.cfg"));
+    EXPECT_EQ(WriteValue("Main", "Index", "2", folder.path("/GT.cfg")), std::errc::is_a_directory);
+    folder.write("/fs2002.cfg", "[A]\r\n");
+    ASSERT_EQ(::truncate(folder.path("/fs2002.cfg").c_str(), files::kLongestFile + 1), 0);
+    EXPECT_EQ(WriteValue("A", "x", "2", folder.path("/fs2002.cfg")), std::errc::file_too_large);
 }
 
 TEST(WriteValue, CreatesTheFileAndKeepsTheOtherKeys) {
