@@ -33,4 +33,7 @@ BUILD_PACKAGES=(g++ cmake ninja-build python3 qt6-base-dev libqt6svg6-dev libgl-
   fontconfig fonts-b612 fonts-roboto-unhinted fonts-dseg fonts-ocr-b flite sox)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libsqlite3-dev clang clang-format clang-tidy libclang-rt-14-dev git)
 
+# What the packages take besides.
+PACKAGE_PACKAGES=(git dpkg-dev lintian patchelf xz-utils file)
+
 launcher() { command -v ccache >/dev/null && echo "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache" || true; }
