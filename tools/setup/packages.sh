@@ -35,5 +35,6 @@ TEST_PACKAGES=(libgtest-dev libbenchmark-dev libsqlite3-dev clang clang-format c
 
 # What the packages take besides.
 PACKAGE_PACKAGES=(git dpkg-dev lintian patchelf xz-utils file)
+WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 zip)
 
 launcher() { command -v ccache >/dev/null && echo "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache" || true; }

@@ -3,7 +3,9 @@
 #include "screens/Messages.h"
 #include "window/WindowProgram.h"
 
-#if GATEWISE_HAS_OPENAL
+#if GATEWISE_HAS_DIRECTSOUND
+#include "sound_directsound/DirectSoundDevice.h"
+#elif GATEWISE_HAS_OPENAL
 #include "sound_openal/OpenAlDevice.h"
 #else
 #include "sound/SilentDevice.h"
@@ -11,13 +13,23 @@
 
 #include <QApplication>
 
+#include <cstdlib>
 #include <iostream>
 #include <memory>
+#include <string_view>
 
 namespace {
 
-std::unique_ptr<gatewise::SoundDevice> soundDevice() {
-#if GATEWISE_HAS_OPENAL
+/// The main window as the system names it, for the sound; null before it is made.
+[[maybe_unused]] void* nativeHandle(gatewise::window::WindowProgram* const& window) {
+    return window != nullptr ? reinterpret_cast<void*>(window->desk.mainWindow().winId()) : nullptr;
+}
+
+std::unique_ptr<gatewise::SoundDevice>
+soundDevice([[maybe_unused]] gatewise::window::WindowProgram*& window) {
+#if GATEWISE_HAS_DIRECTSOUND
+    return gatewise::makeDirectSoundDevice([&window] { return nativeHandle(window); });
+#elif GATEWISE_HAS_OPENAL
     return gatewise::makeOpenAlDevice();
 #else
     return std::make_unique<gatewise::SilentDevice>();
@@ -28,7 +40,13 @@ std::unique_ptr<gatewise::SoundDevice> soundDevice() {
 
 int main(int count, char** arguments) {
     using namespace gatewise;
+    if (count == 2 && std::string_view(arguments[1]) == "--version") {
+        std::cout << "Gatewise Terminal " GATEWISE_VERSION "\n";
+        return EXIT_SUCCESS;
+    }
     QApplication application(count, arguments);
+    // The desktop finds the icon and the name of the window by its entry.
+    QGuiApplication::setDesktopFileName("org.gatewise.terminal");
 
     std::error_code error;
     const std::string appDir = chooseAppDir(error);
@@ -44,9 +62,10 @@ int main(int count, char** arguments) {
     };
     const auto processes = native::systemProcesses(say);
     const auto random = native::systemRandom();
-    const auto sound = soundDevice();
+    const auto sound = soundDevice(window);
     window::WindowProgram program({*clock, *locale, *registry, *processes, *random, *sound}, appDir);
     window = &program;
     program.run(error ? "The program's folder for settings could not be made: " + error.message() : "");
     window = nullptr;
+    return EXIT_SUCCESS;
 }

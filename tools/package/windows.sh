@@ -1,0 +1,48 @@
+#!/usr/bin/env bash
+# A folder for Windows, packed: the program with its window, gtdrive, gtwindow, gt1, resources, Qt and the compiler's
+# libraries. Made from nothing but the distribution's packages; the first run builds Qt and takes half an hour.
+set -euo pipefail
+cd "$(dirname "$0")/../.."
+. tools/setup/packages.sh
+need_packages "${BUILD_PACKAGES[@]}" "${PACKAGE_PACKAGES[@]}" "${WINDOWS_PACKAGES[@]}"
+. tools/package/common.sh
+
+qt=$(tools/package/windows_qt.sh)
+mkdir -p build/package-resources
+# Resources are drawn and spoken by this machine's tools; the programs are the other system's.
+build_shipped build/package-resources /usr -DGATEWISE_WINDOW=OFF
+build_shipped build/package-windows /usr -DCMAKE_TOOLCHAIN_FILE="$PWD/tools/package/mingw-qt.cmake" \
+  -DCMAKE_PREFIX_PATH="$qt" -DCMAKE_FIND_ROOT_PATH="/usr/x86_64-w64-mingw32;$qt" \
+  -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH -DQT_HOST_PATH=/usr \
+  -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake -DCMAKE_AUTORCC_OPTIONS=--no-zstd -DGATEWISE_DATA=OFF
+
+name=Gatewise-$version-win64
+stage=$PWD/build/package-windows/stage
+folder=$stage/$name
+rm -rf "$stage"
+mkdir -p "$folder/platforms"
+DESTDIR=$stage/installed cmake --install build/package-resources >/dev/null
+cp -r "$stage/installed/usr/share/gatewise/." "$folder/"
+rm -rf "$stage/installed"
+cp build/package-windows/Gatewise/gatewise.exe "$folder/"
+for tool in gtdrive gtwindow gt1; do
+  [ -e "build/package-windows/bin/$tool.exe" ] && cp "build/package-windows/bin/$tool.exe" "$folder/"
+done
+cp THIRD-PARTY.md "$folder/" 2>/dev/null || true
+cp packaging/linux/copyright "$folder/LICENCE.txt"
+
+for library in Qt6Core Qt6Gui Qt6Widgets Qt6PrintSupport Qt6Test; do
+  cp "$qt/bin/$library.dll" "$folder/" 2>/dev/null || [ "$library" = Qt6Test ]
+done
+for platform in qwindows qoffscreen; do cp "$qt/plugins/platforms/$platform.dll" "$folder/platforms/"; done
+for library in libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll; do
+  cp "$(x86_64-w64-mingw32-g++-posix -print-file-name=$library)" "$folder/" 2>/dev/null ||
+    cp "/usr/x86_64-w64-mingw32/lib/$library" "$folder/"
+done
+find "$folder" \( -name '*.exe' -o -name '*.dll' \) -exec x86_64-w64-mingw32-strip --strip-unneeded {} +
+
+same_dates "$stage"
+archive=$out/$name.zip
+rm -f "$archive"
+(cd "$stage" && find "$name" -type f | sort | zip -X -q -9 "$archive" -@)
+echo "$archive"
