@@ -24,12 +24,13 @@ ROOMS = {
     "logbook": {"platform"},
     "sound": {"platform"},
     "sound_openal": {"sound", "platform"},
+    "sound_directsound": {"sound", "platform"},
 }
 JOBS = {"board", "plan", "selection", "export", "simulator", "logbook", "sound", "schedule", "platform"}
 ROOMS["state"] = JOBS | {"forms"}
 ROOMS["screens"] = ROOMS["state"] | {"state"}
 ROOMS["app"] = ROOMS["screens"] | {"screens"}
-ROOMS["window"] = ROOMS["app"] | {"app", "sound_openal"}
+ROOMS["window"] = ROOMS["app"] | {"app", "sound_openal", "sound_directsound"}
 
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"/]+)/')
 TOOLKIT = re.compile(r'^\s*#\s*include\s+[<"](Q[A-Z]\w*|Qt\w*/|AL/)')
