@@ -1,7 +1,6 @@
 #include "drive/Commands.h"
 
 #include "drive/Controls.h"
-#include "screens/UserEvents.h"
 
 namespace gatewise::drive {
 
@@ -18,14 +17,14 @@ Outcome advance(Session& session, std::string_view rest) {
     constexpr long long kLongest = 1000LL * 365 * 24 * 60 * 60 * 1000; // a thousand years
     if (!milliseconds || *milliseconds < 0 || *milliseconds > kLongest)
         return "expected a number of milliseconds";
-    session.machine().loop.advance(*milliseconds);
+    session.backend().advance(*milliseconds);
     return kDone;
 }
 
 Outcome tick(Session& session, std::string_view rest) {
     Timer* timer = controlAs<Timer>(session.program().forms.control(rest));
     if (timer == nullptr) return "no timer " + std::string(rest);
-    user::tick(*timer);
+    session.backend().tick(*timer);
     return kDone;
 }
 

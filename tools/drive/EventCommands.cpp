@@ -1,7 +1,5 @@
 #include "drive/Commands.h"
 #include "drive/Controls.h"
-#include "drive/Escape.h"
-#include "screens/UserEvents.h"
 
 #include <algorithm>
 
@@ -43,24 +41,12 @@ Outcome reach(Session& session, std::string_view& rest, Control*& control) {
 }
 
 /// Events that need nothing but the control.
-template<void (*Act)(Control&)> Outcome plain(Session& session, std::string_view rest) {
+template<void (Backend::*Act)(Control&)> Outcome plain(Session& session, std::string_view rest) {
     Control* control = nullptr;
     if (Outcome refused = reach(session, rest, control)) return refused;
     if (!rest.empty()) return unexpected(rest);
-    Act(*control);
+    (session.backend().*Act)(*control);
     return kDone;
-}
-
-void press(Control& control) {
-    user::press(control);
-}
-
-void release(Control& control) {
-    user::release(control);
-}
-
-void move(Control& control) {
-    user::move(control);
 }
 
 Outcome drag(Session& session, std::string_view rest) {
@@ -75,25 +61,33 @@ Outcome drag(Session& session, std::string_view rest) {
     const auto near = [](long long pixels) { return pixels >= -100000 && pixels <= 100000; };
     if (!dx || !dy || !near(*dx) || !near(*dy)) return "expected two numbers of pixels";
     if (Outcome refused = refuseScreen(forms, *screen)) return refused;
-    user::press(*ground, 0, 0);
-    user::move(*ground, static_cast<int>(*dx), static_cast<int>(*dy), true);
-    user::release(*ground, static_cast<int>(*dx), static_cast<int>(*dy));
+    session.backend().drag(*ground, static_cast<int>(*dx), static_cast<int>(*dy));
     return kDone;
 }
 
-/// "held N" behind a key's name: a held key does what one press does, whatever the number of its repeats.
-Outcome refuseHeld(std::string_view rest) {
-    if (rest.empty()) return kDone;
+constexpr std::pair<std::string_view, Key> kKeys[] = {
+    {"enter", Key::Enter}, {"space", Key::Space}, {"escape", Key::Escape}};
+
+std::optional<Key> keyNamed(std::string_view name) {
+    for (const auto& [word, key] : kKeys) {
+        if (word == name) return key;
+    }
+    return std::nullopt;
+}
+
+/// The number of repeats behind a key's name, "held N"; none when nothing stands there.
+std::optional<int> repeatsArgument(std::string_view rest) {
+    if (rest.empty()) return 0;
     const bool held = takeWord(rest) == "held";
     const auto repeats = integerArgument(rest);
-    if (!held || !repeats || *repeats < 0 || *repeats > kMostRepeats) return "expected held and a number";
-    return kDone;
+    if (!held || !repeats || *repeats < 0 || *repeats > kMostRepeats) return std::nullopt;
+    return static_cast<int>(*repeats);
 }
 
 Outcome escapeScreen(Session& session, Screen& screen, std::string_view rest) {
     if (rest != "escape") return "expected escape";
     if (Outcome refused = refuseScreen(session.program().forms, screen)) return refused;
-    if (screen.visible) pressEscape(screen);
+    session.backend().escape(screen);
     return kDone;
 }
 
@@ -103,15 +97,11 @@ Outcome key(Session& session, std::string_view rest) {
     if (screen != nullptr) return escapeScreen(session, *screen, words);
     Control* control = nullptr;
     if (Outcome refused = reach(session, rest, control)) return refused;
-    const std::string_view name = takeWord(rest);
-    if (name != "enter" && name != "space" && name != "escape") return "expected enter, space or escape";
-    if (Outcome refused = refuseHeld(rest)) return refused;
-    if (name == "enter")
-        user::enter(*control);
-    else if (name == "space")
-        user::space(*control);
-    else if (control->enabled && control->screen->visible)
-        pressEscape(*control->screen);
+    const auto key = keyNamed(takeWord(rest));
+    if (!key) return "expected enter, space or escape";
+    const auto repeats = repeatsArgument(rest);
+    if (!repeats) return "expected held and a number";
+    session.backend().key(*control, *key, *repeats);
     return kDone;
 }
 
@@ -122,7 +112,7 @@ Outcome type(Session& session, std::string_view rest) {
     if (box == nullptr) return control->fullName() + " is no text box";
     auto text = textArgument(rest);
     if (!text) return "broken text";
-    user::type(*box, std::move(*text));
+    session.backend().type(*box, std::move(*text));
     return kDone;
 }
 
@@ -135,7 +125,7 @@ Outcome choose(Session& session, std::string_view rest) {
     const auto place = integerArgument(rest);
     const long long count = list != nullptr ? list->count() : static_cast<long long>(view->rows.size());
     if (!place || *place < 0 || *place >= count) return noSuch("item", rest);
-    user::choose(*control, static_cast<int>(*place));
+    session.backend().choose(*control, static_cast<int>(*place));
     return kDone;
 }
 
@@ -147,7 +137,7 @@ Outcome check(Session& session, std::string_view rest) {
         return control->fullName() + " is no check or option box";
     const auto value = integerArgument(rest);
     if (!value || *value > 1 || *value < (option ? 1 : 0)) return option ? "expected 1" : "expected 0 or 1";
-    user::check(*control, static_cast<int>(*value));
+    session.backend().check(*control, static_cast<int>(*value));
     return kDone;
 }
 
@@ -158,7 +148,7 @@ Outcome slide(Session& session, std::string_view rest) {
     if (range == nullptr) return control->fullName() + " is no slider or up-down control";
     const auto value = integerArgument(rest);
     if (!value) return "expected a number";
-    user::slide(*range, static_cast<int>(std::clamp<long long>(*value, range->min, range->max)));
+    session.backend().slide(*range, static_cast<int>(std::clamp<long long>(*value, range->min, range->max)));
     return kDone;
 }
 
@@ -170,7 +160,7 @@ Outcome column(Session& session, std::string_view rest) {
     const auto number = integerArgument(rest);
     if (!number || *number < 0 || *number >= static_cast<long long>(view->columns.size()))
         return noSuch("column", rest);
-    user::column(*view, static_cast<int>(*number));
+    session.backend().column(*view, static_cast<int>(*number));
     return kDone;
 }
 
@@ -182,19 +172,19 @@ Outcome path(Session& session, std::string_view rest) {
         return control->fullName() + " is no drive or folder list";
     auto target = pathArgument(rest);
     if (!target) return "broken text";
-    user::path(*list, std::move(*target));
+    session.backend().path(*list, std::move(*target));
     return kDone;
 }
 
 constexpr Command kEventCommands[] = {
-    {"click", "C", "a full click with the left button", plain<user::click>},
-    {"dblclick", "C", "a double click with the left button", plain<user::doubleClick>},
-    {"press", "C", "left button down", plain<press>},
-    {"release", "C", "left button up", plain<release>},
-    {"rightdown", "C", "right button down", plain<user::rightPress>},
-    {"move", "C", "the mouse moves over the control", plain<move>},
+    {"click", "C", "a full click with the left button", plain<&Backend::click>},
+    {"dblclick", "C", "a double click with the left button", plain<&Backend::doubleClick>},
+    {"press", "C", "left button down", plain<&Backend::press>},
+    {"release", "C", "left button up", plain<&Backend::release>},
+    {"rightdown", "C", "right button down", plain<&Backend::rightPress>},
+    {"move", "C", "the mouse moves over the control", plain<&Backend::move>},
     {"drag", "SCREEN DX DY", "drags a screen by its ground, in pixels", drag},
-    {"focus", "C", "the control gets the input focus", plain<user::focus>},
+    {"focus", "C", "the control gets the input focus", plain<&Backend::focus>},
     {"key", "C enter|space|escape [held N]",
      "a key in a control, held down for N repeats; escape also in a screen", key},
     {"type", "C TEXT", "the text of a text box is replaced by typing", type},

@@ -10,13 +10,29 @@ namespace gatewise::drive {
 
 namespace {
 
+Outcome different(const std::string& what) {
+    return "window differs: " + what;
+}
+
+/// The first difference of a screen and all of its controls.
+std::optional<std::string> differenceOf(Session& session, const Screen& screen) {
+    if (auto difference = session.backend().differs(screen)) return difference;
+    for (const Control* control : screen.controls) {
+        if (auto difference = session.backend().differs(*control)) return difference;
+    }
+    return std::nullopt;
+}
+
 Outcome get(Session& session, std::string_view rest) {
     const std::string_view name = takeWord(rest);
     Forms& forms = session.program().forms;
     JsonWriter json;
+    std::optional<std::string> difference;
     if (const Screen* screen = forms.find(name)) {
         if (!writeProperty(json, *screen, rest)) return "no property " + std::string(rest) + " of a screen";
+        difference = session.backend().differs(*screen);
     } else if (const Control* control = forms.control(name)) {
+        difference = session.backend().differs(*control);
         if (rest.empty()) {
             writeMainValue(json, *control);
         } else if (!writeProperty(json, *control, rest)) {
@@ -25,6 +41,7 @@ Outcome get(Session& session, std::string_view rest) {
     } else {
         return "no control " + std::string(name);
     }
+    if (difference) return different(*difference);
     session.print(json);
     return kDone;
 }
@@ -32,6 +49,7 @@ Outcome get(Session& session, std::string_view rest) {
 Outcome dump(Session& session, std::string_view rest) {
     const Screen* screen = session.program().forms.find(rest);
     if (screen == nullptr) return "no screen " + std::string(rest);
+    if (const auto difference = differenceOf(session, *screen)) return different(*difference);
     JsonWriter json;
     writeScreen(json, *screen);
     session.print(json);
@@ -39,6 +57,9 @@ Outcome dump(Session& session, std::string_view rest) {
 }
 
 Outcome shown(Session& session, std::string_view) {
+    for (const Screen* screen : session.program().forms.all()) {
+        if (const auto difference = session.backend().differs(*screen)) return different(*difference);
+    }
     JsonWriter json;
     json.beginArray();
     for (const Screen* screen : session.program().forms.front) json.text(screen->name);
@@ -80,7 +101,7 @@ Outcome plan(Session& session, std::string_view rest) {
 
 Outcome pointer(Session& session, std::string_view) {
     JsonWriter json;
-    json.text(session.machine().desktop.busy ? "busy" : "normal");
+    json.text(session.backend().busy() ? "busy" : "normal");
     session.print(json);
     return kDone;
 }
@@ -109,7 +130,7 @@ Outcome file(Session& session, std::string_view rest) {
 
 Outcome clipboard(Session& session, std::string_view) {
     JsonWriter json;
-    json.text(session.machine().desktop.clipboard);
+    json.text(session.backend().clipboard());
     session.print(json);
     return kDone;
 }

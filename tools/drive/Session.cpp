@@ -1,20 +1,16 @@
 #include "drive/Session.h"
 
-#include "app/StartUp.h"
 #include "drive/Commands.h"
 #include "drive/Looking.h"
-#include "screens/Screens.h"
-#include "screens/UserEvents.h"
 
 #include <cstdlib>
 
 namespace gatewise::drive {
 
-Session::Session(std::string appDir, std::istream& in, std::ostream& out)
-    : in_(in), out_(out), appDir_(std::move(appDir)), program_(machine_.machine, appDir_) {
-    machine_.loop.tick = [](void* timer) { user::tick(*static_cast<Timer*>(timer)); };
-    machine_.loop.modal = [this](std::string_view, const std::function<bool()>& done) { runModal(done); };
-    machine_.loop.stopped = [this] { return program_.ending; };
+Session::Session(Bench& bench, Backend& backend, std::istream& in, std::ostream& out)
+    : bench_(bench), backend_(backend), in_(in), out_(out) {
+    machine().loop.modal = [this](std::string_view, const std::function<bool()>& done) { runModal(done); };
+    machine().loop.stopped = [this] { return program().ending; };
 }
 
 void Session::run() {
@@ -24,17 +20,13 @@ void Session::run() {
 
 void Session::start() {
     started_ = true;
-    bindScreens(program_);
-    program_.forms.attachTimers(&timers_);
-    startUp(program_);
+    backend_.start();
 }
 
 void Session::print(const JsonWriter& json) {
     out_ << json.line() << '\n';
 }
 
-/// Reads and carries out one command; false at the end of input. Where its remaining work goes on behind a
-/// modal screen, the command stays open.
 bool Session::readCommand() {
     std::string line;
     do {
@@ -51,15 +43,14 @@ void Session::handle(std::string_view line) {
     if (refused) {
         // What was typed is echoed, and need not be UTF-8.
         close("error: " + utf8FromText(textFromUtf8(*refused)));
-    } else if (program_.ending) {
+    } else if (program().ending) {
         finish();
     }
 }
 
-/// Answers the command that is still open.
 void Session::settle() {
     if (!open_) return;
-    const Screen* modal = program_.forms.modalScreen();
+    const Screen* modal = program().forms.modalScreen();
     close(modal != nullptr ? "modal " + modal->name : "ok");
 }
 
@@ -95,7 +86,6 @@ void Session::finish() {
     endProcess();
 }
 
-/// Work may still stand behind a modal screen; the process ends over its head, as that of the program does.
 void Session::endProcess() {
     out_.flush();
     std::exit(EXIT_SUCCESS);

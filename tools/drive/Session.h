@@ -1,9 +1,6 @@
 #pragma once
 
-#include "drive/SimulatedTimers.h"
-#include "drive/SoundRecorder.h"
-#include "platform/simulated/SimulatedMachine.h"
-#include "state/Program.h"
+#include "drive/Backend.h"
 
 #include <istream>
 #include <ostream>
@@ -15,12 +12,23 @@ namespace gatewise::drive {
 /// waits, and its remaining work runs under the command that hides the screen.
 class Session {
 public:
-    /// `appDir` is a text of the program.
-    Session(std::string appDir, std::istream& in, std::ostream& out);
+    /// Modal waits of the bench's own loop read further commands.
+    Session(Bench& bench, Backend& backend, std::istream& in, std::ostream& out);
 
     /// Reads commands to the end of input, to "quit", or until the program has shut down; then ends the
     /// process.
     [[noreturn]] void run();
+
+    // One turn of that, for a back end whose own loop runs between commands.
+
+    /// Answers the command that is still open.
+    void settle();
+    /// Reads and carries out one command; false at the end of input. Where its remaining work goes on behind
+    /// a modal screen, the command stays open.
+    bool readCommand();
+    /// Work may still stand behind a modal screen; the process ends over its head, as that of the program
+    /// does.
+    [[noreturn]] void endProcess();
 
     /// Prints one value line.
     void print(const JsonWriter& json);
@@ -32,26 +40,21 @@ public:
     /// Ends the process without the program's own shutdown.
     [[noreturn]] void quit();
 
-    simulated::SimulatedMachine& machine() { return machine_; }
-    SoundRecorder& sounds() { return sounds_; }
-    Program& program() { return program_; }
+    simulated::SimulatedMachine& machine() { return bench_.machine; }
+    SoundRecorder& sounds() { return bench_.sounds; }
+    Program& program() { return backend_.program(); }
+    Backend& backend() { return backend_; }
 
 private:
-    bool readCommand();
     void handle(std::string_view line);
-    void settle();
     void close(std::string_view closing);
     void runModal(const std::function<bool()>& done);
     [[noreturn]] void finish();
-    [[noreturn]] void endProcess();
 
+    Bench& bench_;
+    Backend& backend_;
     std::istream& in_;
     std::ostream& out_;
-    std::string appDir_;
-    SoundRecorder sounds_{appDir_};
-    simulated::SimulatedMachine machine_{sounds_.device};
-    SimulatedTimers timers_{machine_.loop};
-    Program program_;
     bool started_ = false;
     bool open_ = false; // a command waits for its closing line
 };

@@ -1,3 +1,4 @@
+#include "drive/FormBackend.h"
 #include "drive/Session.h"
 
 #include "platform/Files.h"
@@ -20,6 +21,8 @@ int main(int count, char** arguments) {
         return EXIT_FAILURE;
     }
     std::ios::sync_with_stdio(false);
-    gatewise::drive::Session session(gatewise::files::textOf(folder), std::cin, std::cout);
+    gatewise::drive::Bench bench(gatewise::files::textOf(folder));
+    gatewise::drive::FormBackend backend(bench);
+    gatewise::drive::Session session(bench, backend, std::cin, std::cout);
     session.run();
 }
