@@ -8,7 +8,6 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDeadlineTimer>
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QUrl>
@@ -82,31 +81,24 @@ void QtLoop::runModal(std::string_view, const std::function<bool()>& done) {
 
 void QtLoop::wait(std::int64_t milliseconds) {
     if (desk_ != nullptr) desk_->sync();
-    const QDeadlineTimer end(milliseconds);
-    QTimer wake;
-    wake.setSingleShot(true);
-    wake.setTimerType(Qt::PreciseTimer);
-    wake.start(static_cast<int>(milliseconds));
-    while (!end.hasExpired()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    time_.pass(milliseconds);
+}
+
+QtTimers::QtTimers(TimeSource& time) : time_(time) {
+    time_.due = [this](Timer& timer) { due(timer); };
+}
+
+QtTimers::~QtTimers() {
+    time_.due = nullptr;
 }
 
 void QtTimers::arm(Timer& timer) {
-    QTimer*& clock = running_[&timer];
-    if (clock == nullptr) {
-        clock = new QTimer(this);
-        clock->setTimerType(Qt::PreciseTimer);
-        connect(clock, &QTimer::timeout, this, [this, &timer] { due(timer); });
-    }
-    if (timer.interval() > 0)
-        clock->start(timer.interval());
-    else
-        clock->stop();
+    time_.arm(timer, timer.interval());
 }
 
 void QtTimers::disarm(Timer& timer) {
     late_.erase(&timer);
-    const auto at = running_.find(&timer);
-    if (at != running_.end()) at->second->stop();
+    time_.disarm(timer);
 }
 
 void QtTimers::due(Timer& timer) {

@@ -2,11 +2,8 @@
 
 #include "forms/Control.h"
 #include "platform/Machine.h"
+#include "window/TimeSource.h"
 
-#include <QObject>
-#include <QTimer>
-
-#include <map>
 #include <set>
 #include <string>
 
@@ -41,11 +38,13 @@ private:
 
 class QtLoop : public EventLoop {
 public:
+    explicit QtLoop(TimeSource& time) : time_(time) {}
     void attach(Desk* desk) { desk_ = desk; }
     void runModal(std::string_view screen, const std::function<bool()>& done) override;
     void wait(std::int64_t milliseconds) override;
 
 private:
+    TimeSource& time_;
     Desk* desk_ = nullptr;
 };
 
@@ -53,13 +52,15 @@ private:
 class QtTimers : public QObject, public TimerHost {
     Q_OBJECT
 public:
+    explicit QtTimers(TimeSource& time);
+    ~QtTimers() override;
     void attach(Desk* desk) { desk_ = desk; }
     void arm(Timer& timer) override;
     void disarm(Timer& timer) override;
 
 private:
     void due(Timer& timer);
-    std::map<Timer*, QTimer*> running_;
+    TimeSource& time_;
     std::set<Timer*> late_; // fell due during a paint
     Desk* desk_ = nullptr;
 };

@@ -26,7 +26,9 @@ void dressApplication(const Skin& skin) {
 }
 
 WindowProgram::WindowProgram(const Services& s, const std::string& appDir)
-    : desktop(appDir), ownPrinter_(appDir, desktop), loop_(s.loop != nullptr ? *s.loop : ownLoop_),
+    : desktop(appDir), ownLoop_(s.time != nullptr ? *s.time : static_cast<TimeSource&>(ownTime_)),
+      timers_(s.time != nullptr ? *s.time : static_cast<TimeSource&>(ownTime_)), ownPrinter_(appDir, desktop),
+      loop_(s.loop != nullptr ? *s.loop : ownLoop_),
       machine_{
           s.clock,    s.locale,    desktop,
           s.registry, s.processes, s.printer != nullptr ? *s.printer : static_cast<Printer&>(ownPrinter_),
@@ -35,21 +37,25 @@ WindowProgram::WindowProgram(const Services& s, const std::string& appDir)
     dressApplication(skin);
     desktop.attach(&desk);
     loop_.attach(&desk);
-    ownTimers_.attach(&desk);
+    timers_.attach(&desk);
     bindScreens(program);
-    program.forms.attachTimers(s.timers != nullptr ? s.timers : &ownTimers_);
+    program.forms.attachTimers(&timers_);
 }
 
 WindowProgram::~WindowProgram() {
     program.forms.attachTimers(nullptr);
     desktop.attach(nullptr);
     loop_.attach(nullptr);
-    ownTimers_.attach(nullptr);
+    timers_.attach(nullptr);
+}
+
+void WindowProgram::start() {
+    startUp(program);
+    desk.sync();
 }
 
 void WindowProgram::run(const std::string& note) {
-    startUp(program);
-    desk.sync();
+    start();
     if (!note.empty()) desktop.notify(note);
     while (!program.ending) {
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

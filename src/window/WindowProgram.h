@@ -22,9 +22,9 @@ public:
         Processes& processes;
         Random& random;
         SoundDevice& sound;
-        Printer* printer = nullptr;  // null: the computer's own
-        TimerHost* timers = nullptr; // null: the toolkit's
-        QtLoop* loop = nullptr;      // null: the plain one
+        Printer* printer = nullptr; // null: the computer's own
+        TimeSource* time = nullptr; // null: the computer's own
+        QtLoop* loop = nullptr;     // null: the plain one
     };
 
     /// `appDir` is a text of the program.
@@ -33,12 +33,15 @@ public:
 
     /// Start-up, then events until the program has ended. A `note` is shown when the main screen is up.
     void run(const std::string& note = {});
+    /// The start-up alone.
+    void start();
 
     QtDesktop desktop;
 
 private:
+    RealTime ownTime_;
     QtLoop ownLoop_;
-    QtTimers ownTimers_;
+    QtTimers timers_;
     QtPrinter ownPrinter_;
     QtLoop& loop_;
     Machine machine_;

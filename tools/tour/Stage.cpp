@@ -81,15 +81,13 @@ void quietHandler(QtMsgType type, const QMessageLogContext& context, const QStri
 } // namespace
 
 Stage::Stage(const std::string& appDir, Time time)
-    : loop_(machine.loop, time),
+    : loop_(timeOf(time)),
       window({machine.clock, machine.locale, machine.registry, machine.processes, machine.random, sound_,
-              time == Time::Real ? nullptr : &machine.printer, time == Time::Real ? nullptr : &timers_,
-              &loop_},
+              time == Time::Real ? nullptr : &machine.printer, &timeOf(time), &loop_},
              appDir) {
     if (printMessage == nullptr) printMessage = qInstallMessageHandler(quietHandler);
     machine.clock.set({2002, 6, 15, 8, 30, 14, 0});
     machine.clock.setBias(300);
-    machine.loop.tick = [](void* timer) { user::tick(*static_cast<Timer*>(timer)); };
     machine.loop.stopped = [this] { return window.program.ending; };
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "drive/SimulatedTimers.h"
+#include "gtwindow/SimulatedTime.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "sound/SilentDevice.h"
 #include "window/WindowProgram.h"
@@ -26,26 +26,16 @@ std::string makeProgramFolder(const std::string& program, const std::string& scr
 /// pages go to the printer that ships, too.
 enum class Time { Simulated, Real };
 
-/// The loop that ships, which on a simulated clock waits there; counts the modal screens that wait.
+/// The loop that ships, which counts how deep it is.
 class StageLoop : public window::QtLoop {
 public:
-    StageLoop(simulated::SimulatedLoop& loop, Time time) : loop_(loop), time_(time) {}
-    void wait(std::int64_t milliseconds) override {
-        if (time_ == Time::Real)
-            QtLoop::wait(milliseconds);
-        else
-            loop_.wait(milliseconds);
-    }
+    using QtLoop::QtLoop;
     void runModal(std::string_view screen, const std::function<bool()>& done) override {
         ++depth;
         QtLoop::runModal(screen, done);
         --depth;
     }
     int depth = 0; // modal waits now, one inside the other
-
-private:
-    simulated::SimulatedLoop& loop_;
-    Time time_;
 };
 
 /// The real windows with a clock, a printer and a simulator of the stage. Steps run one by one between
@@ -102,7 +92,12 @@ public:
     simulated::SimulatedMachine machine{sound_};
 
 private:
-    drive::SimulatedTimers timers_{machine.loop};
+    window::TimeSource& timeOf(Time time) {
+        if (time == Time::Real) return realTime_;
+        return time_;
+    }
+    window::RealTime realTime_;
+    gtwindow::SimulatedTime time_{machine.loop};
     StageLoop loop_;
     std::deque<Step> steps_;
     std::vector<int> running_; // steps that have not ended, each with the modal waits around its start
