@@ -1,0 +1,86 @@
+"""Holds the documents against the code.
+
+    documents.py driver GTDRIVE PROJECT   docs/gtdrive.md names the driver's commands, functions and properties, and no others
+    documents.py paths PROJECT            the files and folders that the documents name are there
+    documents.py --self-test
+"""
+
+import json
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+SPAN = re.compile(r'`([^`\n]+)`')
+PATH = re.compile(r'(?:src|tools|tests|docs|data|assets|bench|cmake|\.ci)/[\w./-]+')
+
+
+def differences(what, code, document):
+    return [f'{what} not in the document: {name}' for name in sorted(code - document)] + \
+           [f'{what} that the code does not have: {name}' for name in sorted(document - code)]
+
+
+def commands_of(driver):
+    with tempfile.TemporaryDirectory() as folder:
+        answer = subprocess.run([driver, folder], input='help\nquit\n', capture_output=True, text=True, check=True).stdout
+    lines = [json.loads(line) for line in answer.splitlines() if line.startswith('"')]
+    return {line.split(': ', 1)[0] for line in lines}
+
+
+def commands_in(text):
+    """First cells of the tables, the command in backticks."""
+    rows = re.findall(r'^\| `((?:[^`|]|\\\|)+)` \|', text, re.MULTILINE)
+    return {row.replace('\\|', '|') for row in rows}
+
+
+def section(text, start, end):
+    return text[text.index(start):].split(end)[0]
+
+
+def driver_faults(driver, project):
+    text = (project / 'docs/gtdrive.md').read_text(encoding='utf-8')
+    tables = text[text.index('## The simulated machine'):]
+    found = differences('command', commands_of(driver), commands_in(tables))
+
+    calls = set(re.findall(r'\{"(\w+)", Call<', (project / 'tools/drive/Calls.cpp').read_text(encoding='utf-8')))
+    named = {span.split()[0] for span in SPAN.findall(section(text, 'Functions of `call`', '\n\n')[len('Functions of `call`'):])}
+    found += differences('function', calls, named)
+
+    source = (project / 'tools/drive/Properties.cpp').read_text(encoding='utf-8')
+    properties = set(re.findall(r'\{"(\w+)", (?:field|screenField|itemText|row\w+|interval)', source)) | {'enabled'}
+    named = set(SPAN.findall(section(text, '| kind | properties |', '\n\n')))
+    return found + differences('property', properties, named)
+
+
+def path_faults(project):
+    found = []
+    for document in [*project.glob('*.md'), *project.glob('docs/**/*.md')]:
+        for span in SPAN.findall(document.read_text(encoding='utf-8')):
+            placeholder = re.search(r'/[A-Z]{4,}', span)
+            if PATH.fullmatch(span) and not placeholder and not (project / span).exists():
+                found.append(f'{document.relative_to(project)}: there is no {span}')
+    return found
+
+
+def self_test():
+    text = '| `get C [PROPERTY]` | shows |\n| `simulator running\\|absent` | says |\n| plain | row |\n'
+    if commands_in(text) != {'get C [PROPERTY]', 'simulator running|absent'}:
+        sys.exit(f'commands: {commands_in(text)}')
+    if len(differences('word', {'a', 'b'}, {'b', 'c'})) != 2:
+        sys.exit('a difference is not seen')
+    with tempfile.TemporaryDirectory() as folder:
+        project = pathlib.Path(folder)
+        (project / 'docs').mkdir()
+        (project / 'docs/a.md').write_text('`docs/a.md` `docs/none.md` `word`')
+        if path_faults(project) != ['docs/a.md: there is no docs/none.md']:
+            sys.exit(f'paths: {path_faults(project)}')
+
+
+if __name__ == '__main__':
+    if sys.argv[1:] == ['--self-test']:
+        self_test()
+        sys.exit(0)
+    wrong = driver_faults(sys.argv[2], pathlib.Path(sys.argv[3])) if sys.argv[1] == 'driver' \
+        else path_faults(pathlib.Path(sys.argv[2]))
+    sys.exit('\n'.join(wrong) if wrong else 0)
