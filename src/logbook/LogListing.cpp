@@ -65,7 +65,8 @@ std::string right(const std::string& text, std::size_t width) {
 }
 
 constexpr std::size_t kLine = 80;
-constexpr std::size_t kHours = 8; // width of each of the two columns of hours
+constexpr std::size_t kHours = 8;   // width of each of the two columns of hours
+constexpr std::size_t kIndent = 12; // of the lines below a flight
 
 std::string sumLine(const std::string& words, const std::string& instrument, const std::string& pilot) {
     return right(words, kLine - 2 * kHours) + right(instrument, kHours) + right(pilot, kHours) + "\n";
@@ -99,6 +100,7 @@ std::string logListing(const std::vector<LogRecord>& entries, int page, const st
     out += padded("DATE        FLIGHT", kLine - 2 * kHours) + right("INST.", kHours) + right("PIC", kHours) +
            "\n";
     out += std::string(kLine, '-') + "\n";
+    const std::string indent(kIndent, ' ');
     for (int row = 0; row < kLogRows; ++row) {
         const auto i = static_cast<std::size_t>(page - 1) * kLogRows + static_cast<std::size_t>(row);
         if (i >= entries.size()) break;
@@ -108,11 +110,10 @@ std::string logListing(const std::vector<LogRecord>& entries, int page, const st
             std::string(entry.airline.trimmed()) + " " + std::to_string(entry.flightNumber);
         out += padded(isoDate(entry.date) + "  " + flight, kLine - 2 * kHours) +
                right(text.instrument, kHours) + right(text.pilot, kHours) + "\n";
-        out += "            " + hhmmText(entry.actualDeparture) + " " +
-               std::string(trimmed(text.departure)).substr(0, kLine - 18) + "\n";
-        out += "            " + hhmmText(entry.actualArrival) + " " +
-               std::string(trimmed(text.arrival)).substr(0, kLine - 18) + "\n";
-        out += "            " + std::string(trimmed(text.notes)).substr(0, kLine - 12) + "\n\n";
+        // Code and name of an airport always fit; comments may be longer than a line.
+        out += indent + hhmmText(entry.actualDeparture) + " " + std::string(trimmed(text.departure)) + "\n";
+        out += indent + hhmmText(entry.actualArrival) + " " + std::string(trimmed(text.arrival)) + "\n";
+        out += indent + std::string(trimmed(text.notes)).substr(0, kLine - kIndent) + "\n\n";
     }
     out += std::string(kLine, '-') + "\n";
     out += sumLine("Totals this page", texts.pageInstrument, texts.pagePilot);

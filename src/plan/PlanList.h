@@ -13,11 +13,9 @@
 
 namespace gatewise {
 
-inline constexpr std::array<const char*, 6> kPlanListHeaders = {"ID",      "Name",     "Route",
-                                                                "Heading", "Distance", "Altitude"};
-
 struct PlanListRow {
-    std::array<std::string, 6> cells; // in the order of the headers; the first begins with a blank
+    /// ID (begins with a blank), name, route, heading, distance, altitude.
+    std::array<std::string, 6> cells;
     std::array<bool, 6> bold{};
 };
 

@@ -106,6 +106,17 @@ TEST(Regions, ShowFourConsecutiveZones) {
     EXPECT_TRUE(zoneClocks(7).empty());
 }
 
+TEST(Regions, NameTheCitiesOfTheirZones) {
+    const std::array<std::string, kZones> cities = {
+        "Midway",   "Honolulu",  "Anchorage", "San Francisco", "Denver",      "Chicago",
+        "New York", "Santiago",  "Brasilia",  "Mid-Atlantic",  "Azores",      "London",
+        "Rome",     "Cairo",     "Moscow",    "Abu Dhabi",     "Islamabad",   "Colombo",
+        "Bangkok",  "Hong Kong", "Tokyo",     "Sydney",        "Solomon Is.", "Auckland"};
+    for (int region = 1; region <= 6; ++region) {
+        for (const ZoneClock& clock : zoneClocks(region)) EXPECT_EQ(clock.city, cities.at(clock.element));
+    }
+}
+
 TEST(Regions, StartByTheBias) {
     for (const auto& [bias, region] : std::vector<std::pair<int, int>>{{-180, 1},
                                                                        {0, 1},

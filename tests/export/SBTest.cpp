@@ -47,6 +47,13 @@ TEST(SB, TheLastFixGoesDownToTheDestinationsElevation) {
     EXPECT_EQ(lines[3], "I:ABC:33.942500:-118.408000:236:03000:00013:094");
 }
 
+TEST(SB, TheDestinationsElevationIsNotTheAltitudeOfItsRow) {
+    Plan plan = planOf(kFrom, kTo, {point("V ", 3000)}, 93.5F);
+    plan.at(plan.planLast).pointAltitude = 2500;
+    const std::string text = squawkBoxPlan(plan, {}, {});
+    EXPECT_EQ(field(text.substr(text.find("V:")), 7), "00013");
+}
+
 TEST(SB, TopsAreWrittenWithAnX) {
     const auto lines = linesOf({point("TC", 5000), point("TD", 5000)});
     EXPECT_EQ(field(lines[1], 1), "X");

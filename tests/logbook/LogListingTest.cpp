@@ -67,5 +67,16 @@ TEST(LogListing, ShowsThePageWithItsSums) {
               "                                                  Totals to date     8.0    60.8\n");
 }
 
+TEST(LogListing, CommentsEndWithTheLineAndAirportsAreWhole) {
+    LogRecord full = entry();
+    full.departureName = std::string(35, 'D');
+    full.comments = std::string(68, 'c') + "x";
+    const std::string text = logListing({full}, 1, "", {});
+    EXPECT_NE(text.find("07:35 KATL - " + std::string(35, 'D') + "\n"), std::string::npos);
+    EXPECT_NE(text.find("\n            " + std::string(68, 'c') + "\n"), std::string::npos);
+    full.comments = std::string(67, 'c') + "x";
+    EXPECT_NE(logListing({full}, 1, "", {}).find("cx\n"), std::string::npos);
+}
+
 } // namespace
 } // namespace gatewise

@@ -107,6 +107,11 @@ TEST(StepTime, HoursWrap) {
     EXPECT_EQ(stepTime(15, "timeHr_dn"), 2315);
     EXPECT_EQ(stepTime(1015, "timeHr_up"), 1115);
 }
+TEST(StepTime, MidnightIsZeroFromBothSides) {
+    EXPECT_EQ(stepTime(2300, "timeHr_up"), 0);
+    EXPECT_EQ(stepTime(1, "timeMin_dn"), 0);
+    EXPECT_EQ(stepTime(100, "timeHr_dn"), 0);
+}
 TEST(StepTime, DigitsOfATimeBelowZeroAreThoseThatAreWritten) {
     EXPECT_EQ(stepTime(-2498, "timeMin_dn"),
               2261); // -2499, -99, whose last two digits are above 59: -139, 2261

@@ -36,7 +36,10 @@ struct Prefixes : ::testing::Test {
         setenv("HOME", home.c_str(), 1);
         unsetenv("WINEPREFIX");
     }
-    ~Prefixes() override { fs::remove_all(home); }
+    ~Prefixes() override {
+        fs::remove_all(home);
+        unsetenv("WINEPREFIX");
+    }
 
     static void write(const fs::path& file, const std::string& text) {
         fs::create_directories(file.parent_path());
@@ -108,6 +111,21 @@ TEST_F(Prefixes, AFolderThatIsGoneGivesWayToOneThatIsThere) {
     EXPECT_EQ(systemRegistry()->simulatorFolder(), usual.string());
     write(second / "drive_c/FS2002/fs2002.cfg", "");
     EXPECT_EQ(systemRegistry()->simulatorFolder(), (second / "drive_c/FS2002").string());
+}
+
+TEST_F(Prefixes, AreFoundOnEveryShelfOfTheHome) {
+    std::vector<fs::path> all = {home / "named", home / ".wine"};
+    for (const char* shelf :
+         {".local/share/wineprefixes", ".PlayOnLinux/wineprefix", "Games", ".cxoffice",
+          ".local/share/bottles/bottles", ".var/app/com.usebottles.bottles/data/bottles/bottles"})
+        all.push_back(home / shelf / "flying");
+    for (const fs::path& prefix : all) fs::create_directories(prefix / "drive_c");
+    fs::create_directories(home / "Games" / "no prefix");
+    setenv("WINEPREFIX", (home / "named").c_str(), 1);
+    EXPECT_EQ(winePrefixes(), all);
+    setenv("WINEPREFIX", (home / ".wine").c_str(), 1); // named once
+    all.erase(all.begin());
+    EXPECT_EQ(winePrefixes(), all);
 }
 
 TEST_F(Prefixes, UsualFoldersAreLookedIntoWithoutARegistryValue) {

@@ -184,6 +184,13 @@ TEST_F(MagneticHeading, AShortFileHasNoValueForWhatItLacks) {
     EXPECT_EQ(table().magneticHeading(0, 0, 100), 100);
 }
 
+TEST_F(MagneticHeading, ALatitudeOffTheGlobeReadsNoOtherColumn) {
+    setCell(whole, 28, 22, 1000); // where 5000 rows on would be
+    write(whole);
+    EXPECT_EQ(table().magneticHeading(5000, 0, 100), 100);
+    EXPECT_FLOAT_EQ(table().magneticHeading(22 - 90, 28, 100), 94.5F);
+}
+
 TEST_F(MagneticHeading, PositionsOffTheGlobeStayTrue) {
     write(whole);
     const float big = std::numeric_limits<float>::max();

@@ -31,6 +31,12 @@ TEST(EffectiveClimbRate, FourRowsOfARateOf2400) {
     EXPECT_EQ(effectiveClimbRate(plan, 2400, 30000), 1000);
 }
 
+TEST(EffectiveClimbRate, TheFactorOfABandIsThatOfItsRow) {
+    EXPECT_EQ(effectiveClimbRate(Plan(), 3030, 24999), 2100); // 0.83: 2,095.75 and 99
+    EXPECT_EQ(effectiveClimbRate(Plan(), 3030, 25000), 1700); // 0.67: 1,691.75 and 99
+    EXPECT_EQ(effectiveClimbRate(Plan(), 3030, 30000), 1300); // 0.5: 1,262.5 and 99
+}
+
 TEST(EffectiveClimbRate, TheDivisorIsThe32BitFloatNearestTo1_2) {
     EXPECT_EQ(effectiveClimbRate(Plan(), 2301, 0), 1900); // 2,400 / 1.2000000477 stays below 2,000
     EXPECT_EQ(effectiveClimbRate(Plan(), 2302, 0), 2000);

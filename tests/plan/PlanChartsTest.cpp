@@ -93,5 +93,115 @@ TEST(MapDrawing, APolarRouteStaysOnTheSheet) {
     }
 }
 
+/// Two airports at sea level 1,000 miles apart and two fixes between them, for the words of the marks.
+Plan twoFixes(float miles1, std::int32_t feet1, float miles2, std::int32_t feet2) {
+    Plan plan = flown(0, 0, 10);
+    plan.departureAirport.Elevation = plan.destinationAirport.Elevation = 0;
+    plan.planLast = 3;
+    plan.totalDistance = 1000;
+    plan.at(3) = plan.at(2);
+    plan.at(3).pointTotalDistance = 1000;
+    plan.at(1).pointName = "ONE";
+    plan.at(2).pointName = "TWO";
+    plan.at(1).pointType = plan.at(2).pointType = "V ";
+    plan.at(1).pointTotalDistance = miles1;
+    plan.at(2).pointTotalDistance = miles2;
+    plan.at(1).pointAltitude = feet1;
+    plan.at(2).pointAltitude = feet2;
+    return plan;
+}
+
+std::string wordsOf(const Drawing& drawing) {
+    std::string words;
+    for (const DrawingMark& mark : drawing.marks) words += mark.label + "/";
+    return words;
+}
+
+TEST(ProfileDrawing, AWordGivesWayToOneThatStandsClose) {
+    // A sheet 0.88 wide shows 1,000 miles, one 0.8 high 44,000 feet: a word takes 125 miles and 6,600 feet.
+    const auto words = [](float miles2, std::int32_t feet2) {
+        return wordsOf(profileDrawing(twoFixes(400, 40000, miles2, feet2)));
+    };
+    EXPECT_EQ(words(524, 40000), "KAAA/KBBB/ONE//");
+    EXPECT_EQ(words(526, 40000), "KAAA/KBBB/ONE/TWO/");
+    EXPECT_EQ(words(276, 40000), "KAAA/KBBB/ONE//");
+    EXPECT_EQ(words(274, 40000), "KAAA/KBBB/ONE/TWO/");
+    EXPECT_EQ(words(400, 33450), "KAAA/KBBB/ONE//");
+    EXPECT_EQ(words(400, 33350), "KAAA/KBBB/ONE/TWO/");
+}
+
+TEST(MapDrawing, AWordGivesWayToOneThatStandsClose) {
+    // Ten degrees of the equator in a sheet of twelve: a word takes 2.88 of them across and 0.96 upward.
+    const auto words = [](float latitude1, float latitude2, float longitude2) {
+        Plan plan = twoFixes(400, 0, 500, 0);
+        plan.at(1).pointLatitude = latitude1;
+        plan.at(1).pointLongitude = 5;
+        plan.at(2).pointLatitude = latitude2;
+        plan.at(2).pointLongitude = longitude2;
+        plan.at(3).pointLongitude = 10;
+        return wordsOf(mapDrawing(plan));
+    };
+    EXPECT_EQ(words(4, 0, 2.92F), "KAAA/KBBB/ONE/TWO/");
+    EXPECT_EQ(words(4, 0, 2.84F), "KAAA/KBBB/ONE//"); // the departure stands too close
+    EXPECT_EQ(words(4, 0, 7.06F), "KAAA/KBBB/ONE/TWO/");
+    EXPECT_EQ(words(4, 0, 7.16F), "KAAA/KBBB/ONE//");
+    EXPECT_EQ(words(0, 0.94F, 5), "KAAA/KBBB/ONE//");
+    EXPECT_EQ(words(0, 0.98F, 5), "KAAA/KBBB/ONE/TWO/");
+    EXPECT_EQ(words(0, -0.98F, 5), "KAAA/KBBB/ONE/TWO/");
+}
+
+TEST(MapDrawing, WordsOfAirportsComeBeforeThoseOfTopsAndFixes) {
+    Plan plan = twoFixes(400, 0, 500, 0);
+    plan.at(1).pointLongitude = 1;
+    plan.at(2).pointLongitude = 5;
+    plan.at(2).pointType = "TD";
+    plan.at(3).pointLongitude = 10;
+    EXPECT_EQ(wordsOf(mapDrawing(plan)), "KAAA/KBBB/TWO//");
+    plan.at(1).pointLongitude = 4;
+    EXPECT_EQ(wordsOf(mapDrawing(plan)), "KAAA/KBBB/TWO//");
+}
+
+/// Points of the grid of one degree inside the sheet, every line looked at: azimuthal equidistant around the
+/// middle, 12 degrees to either side and 4.8 up and down.
+double gridPoints(double middle) {
+    const double degree = std::acos(-1.0) / 180;
+    const auto inside = [&](double latitude, double longitude) {
+        const double phi = latitude * degree;
+        const double lambda = (longitude - 4.5) * degree;
+        const double cosine = std::sin(middle * degree) * std::sin(phi) +
+                              std::cos(middle * degree) * std::cos(phi) * std::cos(lambda);
+        const double arc = std::acos(std::clamp(cosine, -1.0, 1.0)) / degree;
+        const double east = std::cos(phi) * std::sin(lambda);
+        const double north = std::cos(middle * degree) * std::sin(phi) -
+                             std::sin(middle * degree) * std::cos(phi) * std::cos(lambda);
+        const double size = std::hypot(east, north);
+        const double scale = size > 0 ? arc / size : 0;
+        return std::fabs(east * scale) <= 12 && std::fabs(north * scale) <= 4.8;
+    };
+    double count = 0;
+    for (int line = -80; line <= 80; ++line) {
+        for (int tenth = -1800; tenth <= 1800; ++tenth) count += inside(line, tenth / 10.0) ? 1 : 0;
+    }
+    for (int line = -180; line < 180; ++line) {
+        for (int tenth = -800; tenth <= 800; ++tenth) count += inside(tenth / 10.0, line) ? 1 : 0;
+    }
+    return count;
+}
+
+TEST(MapDrawing, TheGridFillsTheSheetAtEveryLatitude) {
+    for (const float middle : {0.25F, 44.25F, -70.25F, 83.75F}) {
+        Plan plan = flown(middle, 4.5F, 4.5F);
+        plan.at(0).pointLatitude = middle - 4;
+        plan.at(2).pointLatitude = middle + 4;
+        double drawn = 0;
+        for (const DrawingLine& line : mapDrawing(plan).lines)
+            drawn += line.tone == Tone::Grid ? static_cast<double>(line.points.size()) : 0;
+        // A piece of a single point is none; where a line meets the edge, the last digit decides.
+        const double all = gridPoints(static_cast<double>(middle));
+        EXPECT_GT(drawn, 100) << middle;
+        EXPECT_NEAR(drawn, all, 6) << middle;
+    }
+}
+
 } // namespace
 } // namespace gatewise

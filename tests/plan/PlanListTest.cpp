@@ -102,10 +102,5 @@ TEST(PlanList, HeadingsAreMagneticAtTheirPoint) {
     EXPECT_EQ(without[1].cells[3], "090");
 }
 
-TEST(PlanList, HeadersOfTheColumns) {
-    const std::array<std::string, 6> headers = {"ID", "Name", "Route", "Heading", "Distance", "Altitude"};
-    for (std::size_t i = 0; i < headers.size(); ++i) EXPECT_EQ(kPlanListHeaders[i], headers[i]);
-}
-
 } // namespace
 } // namespace gatewise

@@ -94,6 +94,15 @@ TEST(PrintedPlan, TheWholeListingOfOneFix) {
                                   "05NOV");
 }
 
+TEST(PrintedPlan, EveryMonthHasItsName) {
+    std::string months;
+    for (int month = 1; month <= 12; ++month)
+        months += printFlightPlan(handMade(1), flight(), {2002, month, 7}, "", MagneticTable(), kPoint)
+                      .substr(0, 5) +
+                  " ";
+    EXPECT_EQ(months, "07JAN 07FEB 07MAR 07APR 07MAY 07JUN 07JUL 07AUG 07SEP 07OCT 07NOV 07DEC ");
+}
+
 TEST(PrintedPlan, ThreeFixesAndTheDestinationMakeTwoParts) {
     const std::string text = print(handMade(3));
     EXPECT_EQ(count(text, "PARTS FOLLOW\n"

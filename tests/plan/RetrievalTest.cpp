@@ -332,6 +332,14 @@ TEST(Facilities, RunwaysAndRadiosOfTheAirports) {
     EXPECT_EQ(world.plan.alternateAirport.radio.towerFreq.view(), "121.10");
     input.HaveAlternate = true;
 
+    // An airport without a block has neither runways nor radios, however many runways its record counts.
+    world.plan.departureAirport.RunwayOffset = 0;
+    world.plan.departureAirport.radio = {};
+    loadAirportFacilities(world.plan, input);
+    EXPECT_TRUE(world.plan.departureAirport.runways.empty());
+    EXPECT_EQ(world.plan.departureAirport.radio.towerFreq.trimmed(), "");
+    world.plan.departureAirport.RunwayOffset = 1;
+
     bytes.resize(34 + 10); // the second runway is cut
     world.folder.write("/Data/APT.gt1", bytes);
     loadAirportFacilities(world.plan, input);

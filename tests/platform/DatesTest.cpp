@@ -33,6 +33,20 @@ TEST(DaySerial, ComesBack) {
     }
 }
 
+TEST(DaySerial, TheEndsOfFebruaryAndOfTheYearComeBack) {
+    const auto text = [](long long serial) {
+        const DateTime d = fromDaySerial(serial);
+        return std::to_string(d.year) + "-" + std::to_string(d.month) + "-" + std::to_string(d.day);
+    };
+    EXPECT_EQ(text(36585), "2000-2-29"); // the last day of four centuries
+    EXPECT_EQ(text(36586), "2000-3-1");
+    EXPECT_EQ(text(61), "1900-3-1"); // no leap year
+    EXPECT_EQ(text(60), "1900-2-28");
+    EXPECT_EQ(text(38046), "2004-2-29");
+    EXPECT_EQ(text(36891), "2000-12-31");
+    EXPECT_EQ(text(36892), "2001-1-1");
+}
+
 TEST(CalendarDay, IsNothingForWhatNoCalendarHolds) {
     const auto day = calendarDay(37422.9);
     ASSERT_TRUE(day);
@@ -54,7 +68,7 @@ TEST(TimeOfDay, IsTheFirstTwoAndTheLastTwoDigits) {
     EXPECT_EQ(timeOfDay(2359), 23 * 60 + 59);
     EXPECT_EQ(timeOfDay(12345), 12 * 60 + 45);
     EXPECT_EQ(timeOfDay(123456), 12 * 60 + 56);
-    for (const int none : {-1, -735, 60, 1160, 2400, 9999, 24000, 12360})
+    for (const int none : {-1, -735, 60, 1160, 2400, 9930, 9999, 24000, 12360})
         EXPECT_FALSE(timeOfDay(none)) << none;
 }
 

@@ -64,6 +64,12 @@ TEST(PassDate, IsTheDayAndTheMonthInUpperCase) {
     EXPECT_EQ(passDate(today), "31DEC");
 }
 
+TEST(PassDate, EveryMonthHasItsName) {
+    std::string months;
+    for (int month = 1; month <= 12; ++month) months += passDate({2002, month, 7}).substr(2);
+    EXPECT_EQ(months, "JANFEBMARAPRMAYJUNJULAUGSEPOCTNOVDEC");
+}
+
 TEST(Seat, ComesFromTheSecond) {
     EXPECT_EQ(seatText(0), "1B");
     EXPECT_EQ(seatText(30), "8B");

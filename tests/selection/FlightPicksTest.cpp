@@ -29,6 +29,14 @@ TEST(FlightPicks, HoldThePositionsOfTheFlightsToTheDestinationOnTheDay) {
     EXPECT_EQ(monday.FlightPicks[1], 3);
 }
 
+TEST(FlightLine, APositionJustBehindTheListHasNoTexts) {
+    const std::vector<FlightRecord> flights = {test::flight("AA", 12, 735, 1000)};
+    const FlightLine behind = flightLine(Tables(), flights, 1);
+    EXPECT_EQ(behind.key, "Flight1");
+    EXPECT_EQ(behind.text + behind.equipment + behind.departs + behind.arrives, "");
+    EXPECT_EQ(flightLine(Tables(), flights, 0).text, " AA 12");
+}
+
 TEST(FlightPicks, TheDestinationIsComparedWithAllThreeCharacters) {
     const auto flights = flightsTo("AB", 1);
     EXPECT_EQ(pickFlights(flights, "AB ", 0).FlightPickCount, 0);

@@ -74,6 +74,14 @@ TEST_F(Picks, OfEqualLinesTheLastStays) {
     EXPECT_EQ(airportItems(tables, finder, "york").size(), 2U);
 }
 
+TEST_F(Picks, AlternatesOfASearchStandInTheirOrder) {
+    std::swap(tables.airports[0], tables.airports[1]); // New York before Atlanta
+    finder = AirportFinder(tables.airports);
+    EXPECT_EQ(texts(alternateItems(tables, finder, "k")),
+              (std::vector<std::string>{"albuquerque - Sunport (ABQ)", "Atlanta - Hartsfield (ATL)",
+                                        "New York - Kennedy (JFK)", "New York - La Guardia (LGA)"}));
+}
+
 TEST_F(Picks, AlternatesAreSearchedTrimmedAndWithoutTheBlankAirport) {
     EXPECT_EQ(texts(alternateItems(tables, finder, "  sun  ")),
               std::vector<std::string>{"albuquerque - Sunport (ABQ)"});
@@ -111,6 +119,12 @@ TEST_F(Picks, EqualTextsStayInTheOrderInWhichTheyWereAdded) {
     std::vector<PickItem> items = {{"b", 1}, {"A", 2}, {"B", 3}, {"a", 4}, {"_", 5}};
     sortItems(items);
     EXPECT_EQ(items, (std::vector<PickItem>{{"A", 2}, {"a", 4}, {"b", 1}, {"B", 3}, {"_", 5}}));
+}
+
+TEST_F(Picks, LettersBeyondAsciiStandBehindThoseOfAscii) {
+    std::vector<PickItem> items = {{"A\xC9", 1}, {"AZ", 2}, {"Long enough \xC9", 3}, {"Long enough Z", 4}};
+    sortItems(items);
+    EXPECT_EQ(texts(items), (std::vector<std::string>{"AZ", "A\xC9", "Long enough Z", "Long enough \xC9"}));
 }
 
 TEST_F(Picks, TheOrderIsThatOfFoldedTextsOnRandomLines) {

@@ -3,11 +3,17 @@
 #include "platform/Profile.h"
 #include "support/TempFolder.h"
 
+#include <atomic>
+#include <chrono>
 #include <ctime>
+#include <fcntl.h>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <map>
 #include <random>
+#include <sys/stat.h>
+#include <thread>
+#include <unistd.h>
 
 namespace gatewise {
 namespace {
@@ -60,6 +66,25 @@ TEST(AircraftVariations, ATitleThatBeginsWithTitleEndsItsFolder) {
     EXPECT_EQ(titlesOf("[fltsim.0]\ntitle=A\n[fltsim.1]\ntitle=TiTlEist\n[fltsim.2]\ntitle=C\n"),
               (Titles{"A"}));
     EXPECT_EQ(titlesOf("[fltsim.0]\ntitle=Titl\n"), (Titles{"Titl"}));
+}
+
+/// Whoever opened the pipe would wait for its end; after a while it comes.
+TEST(FilesSearchFolder, APipeNamedAsTheConfigurationIsNotOpened) {
+    TempFolder folder;
+    install(folder, "A", "[fltsim.0]\ntitle=Plane\n");
+    const auto pipe = folder / "Aircraft/B/aircraft.cfg";
+    std::filesystem::create_directories(pipe.parent_path() / "panel");
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    const int writer = ::open(pipe.c_str(), O_RDWR | O_NONBLOCK);
+    ASSERT_EQ(::write(writer, "[fltsim.0]\ntitle=Pipe\n", 22), 22);
+    std::atomic<bool> over = false;
+    std::thread end([&] {
+        for (int i = 0; i < 500 && !over; ++i) std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        ::close(writer);
+    });
+    EXPECT_EQ(offered(folder), Titles{"Plane"});
+    over = true;
+    end.join();
 }
 
 TEST(AircraftVariations, SectionsAndKeysWithoutRegardToCase) {

@@ -62,6 +62,8 @@ TEST(WaveFile, RefusesWhatItCannotPlay) {
     EXPECT_FALSE(readWave(waveOf(data, 0)));
     EXPECT_FALSE(readWave(waveOf(data, 3)));
     EXPECT_FALSE(readWave(waveOf(data, 1, 99)));
+    EXPECT_TRUE(readWave(waveOf(data, 1, 100)));
+    EXPECT_TRUE(readWave(waveOf(data, 1, 100000)));
     EXPECT_FALSE(readWave(waveOf(data, 1, 100001)));
     EXPECT_FALSE(readWave(waveOf(data, 1, 8000, 24)));
     EXPECT_FALSE(readWave(waveOf({1}, 1, 8000, 16)));

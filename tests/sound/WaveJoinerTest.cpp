@@ -95,5 +95,12 @@ TEST_F(Joiner, TargetThatCannotBeWrittenFails) {
     EXPECT_FALSE(joinWaves(std::vector{piece("a.wav")}, piece("none\\out.wav")));
 }
 
+TEST_F(Joiner, WhatCouldNotBeWrittenWholeIsGone) {
+    folder.write("a.wav", waveOf({1, 2}));
+    std::filesystem::create_symlink("/dev/full", folder / "out.wav"); // takes a file and not one byte
+    EXPECT_FALSE(join({"a.wav"}));
+    EXPECT_FALSE(std::filesystem::is_symlink(folder / "out.wav"));
+}
+
 } // namespace
 } // namespace gatewise::sound_test
