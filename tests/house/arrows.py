@@ -18,6 +18,7 @@ ROOMS = {
     "plan": {"schedule", "platform"},
     "selection": {"plan", "schedule", "platform"},
     "export": {"plan", "schedule", "platform"},
+    "programs": {"plan", "schedule", "platform"},
     "simulator": {"plan", "schedule", "platform"},
     "gt1": {"plan", "schedule", "platform"},
     "import": {"gt1", "plan", "schedule", "platform"},
@@ -26,7 +27,7 @@ ROOMS = {
     "sound_openal": {"sound", "platform"},
     "sound_directsound": {"sound", "platform"},
 }
-JOBS = {"board", "plan", "selection", "export", "simulator", "logbook", "sound", "schedule", "platform"}
+JOBS = {"board", "plan", "selection", "export", "programs", "simulator", "logbook", "sound", "schedule", "platform"}
 ROOMS["state"] = JOBS | {"forms"}
 ROOMS["screens"] = ROOMS["state"] | {"state"}
 ROOMS["app"] = ROOMS["screens"] | {"screens"}
