@@ -1,15 +1,15 @@
 #include "app/StartUp.h"
 
-#include "screens/Clocks.h"
-#include "screens/DataSets.h"
-#include "screens/Dispatch.h"
-#include "screens/LocaleFix.h"
-#include "screens/LocateSimulator.h"
-#include "screens/LogScreens.h"
-#include "screens/MainPages.h"
-#include "screens/Screens.h"
+#include "pages/ConfigFile.h"
+#include "pages/LocateSimulator.h"
+#include "pages/MainClocks.h"
+#include "pages/MainData.h"
+#include "pages/MainLog.h"
+#include "pages/MainPass.h"
+#include "pages/MainTabs.h"
+#include "pages/Placement.h"
+#include "pages/Screens.h"
 #include "sound/DS_Engine.h"
-#include "state/ConfigFile.h"
 
 namespace gatewise {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/Program.h"
+#include "pages/Program.h"
 
 namespace gatewise {
 

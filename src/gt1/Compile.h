@@ -7,9 +7,6 @@
 
 namespace gatewise::gt1 {
 
-/// The most points that a plan may have: the program's plan table has room for 200 with the two airports.
-inline constexpr int mostPlanPoints = 198;
-
 /// The tables of `folder` that all data sets share: aircraft, vor, ndb, fixes, jets.
 World readWorld(const std::filesystem::path& folder, Report& report);
 

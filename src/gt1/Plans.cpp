@@ -1,7 +1,5 @@
 #include "gt1/Plans.h"
 
-#include "gt1/Compile.h"
-
 #include <map>
 
 namespace gatewise::gt1 {

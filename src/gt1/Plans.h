@@ -6,6 +6,9 @@
 
 namespace gatewise::gt1 {
 
+/// The most points that a plan may have: the program's plan table has room for 200 with the two airports.
+inline constexpr int mostPlanPoints = 198;
+
 /// The route entries of each plan, every fix resolved; checks that the plans are numbered and ordered without
 /// gaps, that each flight has its plan and that origin and destination are those of its flights.
 std::vector<std::vector<RouteEntry>> linkPlans(const Table<PlanRow>& plans, const Table<FlightRow>& flights,

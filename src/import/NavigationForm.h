@@ -1,7 +1,7 @@
 #pragma once
 
 #include "import/Cells.h"
-#include "import/Kinds.h"
+#include "import/Kind.h"
 
 #include <span>
 #include <string>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plan/GetFlightPlan.h"
+#include "plan/PlanInput.h"
 #include "plan/PlanTable.h"
 
 #include <string>

@@ -1,6 +1,6 @@
 #include "window/Choices.h"
 
-#include "screens/UserEvents.h"
+#include "input/UserEvents.h"
 #include "window/Drawing.h"
 #include "window/LabelText.h"
 #include "window/QtText.h"

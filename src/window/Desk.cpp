@@ -1,6 +1,6 @@
 #include "window/Desk.h"
 
-#include "screens/UserEvents.h"
+#include "input/UserEvents.h"
 #include "window/Accessible.h"
 #include "window/QtText.h"
 

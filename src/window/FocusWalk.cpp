@@ -1,6 +1,6 @@
 #include "window/FocusWalk.h"
 
-#include "screens/UserEvents.h"
+#include "input/UserEvents.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "window/QtMachine.h"
 
+#include "input/UserEvents.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
-#include "screens/UserEvents.h"
 #include "window/Desk.h"
 #include "window/QtText.h"
 

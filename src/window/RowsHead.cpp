@@ -1,6 +1,6 @@
 #include "window/RowsHead.h"
 
-#include "screens/UserEvents.h"
+#include "input/UserEvents.h"
 #include "window/LabelText.h"
 #include "window/Skin.h"
 

@@ -1,6 +1,6 @@
 #include "window/RowsTable.h"
 
-#include "screens/UserEvents.h"
+#include "input/UserEvents.h"
 #include "window/Drawing.h"
 #include "window/QtText.h"
 #include "window/Skin.h"

@@ -1,6 +1,6 @@
 #include "window/View.h"
 
-#include "screens/UserEvents.h"
+#include "input/UserEvents.h"
 #include "window/QtText.h"
 
 #include <QKeyEvent>

@@ -21,7 +21,7 @@ public:
     [[nodiscard]] virtual const Skin& skin() const = 0;
 };
 
-/// Shows one control of a form and turns what a person does there into the calls of screens/UserEvents.h.
+/// Shows one control of a form and turns what a person does there into the calls of input/UserEvents.h.
 /// There is one class for each kind of control and none for a single control.
 class View {
 public:

@@ -1,7 +1,7 @@
 #include "window/WindowProgram.h"
 
 #include "app/StartUp.h"
-#include "screens/Screens.h"
+#include "input/Bind.h"
 
 #include <QApplication>
 #include <QStyleFactory>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/Program.h"
+#include "pages/Program.h"
 #include "window/Desk.h"
 #include "window/QtMachine.h"
 #include "window/Skin.h"

@@ -1,6 +1,6 @@
 #include "dispatch/Terminal.h"
-#include "screens/Dispatch.h"
-#include "screens/FlightScreens.h"
+#include "pages/FlightForm.h"
+#include "pages/MainPass.h"
 
 namespace gatewise::test {
 

@@ -1,5 +1,5 @@
 #include "dispatch/Terminal.h"
-#include "screens/Dispatch.h"
+#include "pages/MainPass.h"
 
 namespace gatewise::test {
 

@@ -1,5 +1,7 @@
 #include "dispatch/Terminal.h"
 
+#include "input/Bind.h"
+
 namespace gatewise::test {
 
 void Schedule::complete() {

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/StartUp.h"
+#include "input/UserEvents.h"
+#include "pages/Screens.h"
 #include "platform/simulated/SimulatedMachine.h"
-#include "screens/Screens.h"
-#include "screens/UserEvents.h"
 #include "sound/DS_Engine.h"
 #include "sound/SilentDevice.h"
 #include "support/Schedule.h"

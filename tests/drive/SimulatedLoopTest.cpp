@@ -1,7 +1,7 @@
 #include "drive/SimulatedTimers.h"
 #include "forms/Control.h"
+#include "input/UserEvents.h"
 #include "platform/simulated/SimulatedMachine.h"
-#include "screens/UserEvents.h"
 
 #include <gtest/gtest.h>
 

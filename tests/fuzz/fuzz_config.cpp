@@ -1,9 +1,9 @@
 #include "OutsideFile.h"
+#include "pages/ConfigFile.h"
 #include "platform/Profile.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "sound/DS_Engine.h"
 #include "sound/SilentDevice.h"
-#include "state/ConfigFile.h"
 
 #include <memory>
 

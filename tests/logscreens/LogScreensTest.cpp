@@ -1,8 +1,9 @@
-#include "screens/LogScreens.h"
 #include "dispatch/Terminal.h"
 #include "logbook/LogExchange.h"
 #include "logbook/LogListing.h"
-#include "state/ConfigFile.h"
+#include "pages/ClockForm.h"
+#include "pages/ConfigFile.h"
+#include "pages/MainLog.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 #include "dispatch/Terminal.h"
 
+#include "input/UserEvents.h"
+#include "pages/ViewPlan.h"
 #include "plan/Editing.h"
-#include "screens/PlanScreens.h"
-#include "screens/UserEvents.h"
 
 #include <gtest/gtest.h>
 

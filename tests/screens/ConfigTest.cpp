@@ -1,7 +1,7 @@
 #include "dispatch/Terminal.h"
+#include "input/Shutdown.h"
+#include "pages/ConfigFile.h"
 #include "platform/Profile.h"
-#include "screens/Shutdown.h"
-#include "state/ConfigFile.h"
 
 #include <filesystem>
 

@@ -1,5 +1,5 @@
 #include "dispatch/Terminal.h"
-#include "screens/Shutdown.h"
+#include "input/Shutdown.h"
 
 #include <filesystem>
 

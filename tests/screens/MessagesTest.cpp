@@ -1,5 +1,5 @@
-#include "screens/Messages.h"
 #include "dispatch/Terminal.h"
+#include "pages/MsgForm.h"
 
 namespace gatewise::test {
 

@@ -1,5 +1,7 @@
 #include "dispatch/Terminal.h"
-#include "screens/Shutdown.h"
+
+#include "input/Bind.h"
+#include "input/Shutdown.h"
 
 #include <algorithm>
 #include <filesystem>

@@ -1,7 +1,7 @@
 #include "window/StageTest.h"
 
-#include "screens/Screens.h"
-#include "screens/UserEvents.h"
+#include "input/UserEvents.h"
+#include "pages/Screens.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "drive/Bench.h"
-#include "state/Program.h"
+#include "pages/Program.h"
 
 #include <optional>
 

@@ -1,4 +1,5 @@
 #include "drive/Commands.h"
+#include "pages/MainBoard.h"
 #include "plan/Coordinates.h"
 #include "plan/Geometry.h"
 #include "plan/Performance.h"
@@ -6,7 +7,6 @@
 #include "platform/Numbers.h"
 #include "platform/Profile.h"
 #include "schedule/Lookups.h"
-#include "screens/BoardInformation.h"
 #include "simulator/SituationTexts.h"
 #include "sound/DS_Engine.h"
 

@@ -1,6 +1,6 @@
 #include "drive/Escape.h"
 
-#include "screens/UserEvents.h"
+#include "input/UserEvents.h"
 
 namespace gatewise::drive {
 

@@ -2,8 +2,8 @@
 
 #include "app/StartUp.h"
 #include "drive/Escape.h"
-#include "screens/Screens.h"
-#include "screens/UserEvents.h"
+#include "pages/Screens.h"
+#include "input/UserEvents.h"
 
 namespace gatewise::drive {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "drive/Json.h"
-#include "state/Program.h"
+#include "pages/Program.h"
 
 #include <string_view>
 

@@ -1,8 +1,8 @@
 #include "tour/Stage.h"
 
+#include "input/UserEvents.h"
 #include "platform/Files.h"
 #include "platform/Profile.h"
-#include "screens/UserEvents.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -1,7 +1,7 @@
 #include "tour/Tour.h"
 
-#include "screens/Screens.h"
-#include "screens/UserEvents.h"
+#include "input/UserEvents.h"
+#include "pages/Screens.h"
 #include "window/QtText.h"
 
 #include <algorithm>

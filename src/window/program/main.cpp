@@ -1,6 +1,6 @@
+#include "pages/MsgForm.h"
 #include "platform/AppFolder.h"
 #include "platform/Native.h"
-#include "screens/Messages.h"
 #include "window/WindowProgram.h"
 
 #if GATEWISE_HAS_DIRECTSOUND

@@ -1,10 +1,11 @@
 #pragma once
 
 #include "export/ExportFlights.h"
+#include "input/Bind.h"
+#include "input/UserEvents.h"
+#include "pages/MsgForm.h"
+#include "pages/Screens.h"
 #include "platform/simulated/SimulatedMachine.h"
-#include "screens/Messages.h"
-#include "screens/Screens.h"
-#include "screens/UserEvents.h"
 #include "sound/DS_Engine.h"
 #include "sound/SilentDevice.h"
 #include "support/TempFolder.h"

@@ -1,6 +1,6 @@
 #include "Desk.h"
 
-#include "screens/ExportScreens.h"
+#include "pages/ExportForm.h"
 
 namespace gatewise::test {
 

@@ -1,7 +1,7 @@
 #include "Desk.h"
 
+#include "pages/ExportForm.h"
 #include "platform/Profile.h"
-#include "screens/ExportScreens.h"
 
 namespace gatewise::test {
 

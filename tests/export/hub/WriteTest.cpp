@@ -1,7 +1,7 @@
 #include "Desk.h"
 
+#include "pages/ExportFiles.h"
 #include "platform/Profile.h"
-#include "screens/ExportFiles.h"
 
 #include <csignal>
 #include <filesystem>

@@ -1,9 +1,10 @@
-#include "screens/FlyScreen.h"
+#include "pages/FlyForm.h"
 
 #include "../FlightWorld.h"
+#include "input/Bind.h"
+#include "input/UserEvents.h"
+#include "pages/Screens.h"
 #include "platform/simulated/SimulatedMachine.h"
-#include "screens/Screens.h"
-#include "screens/UserEvents.h"
 #include "sound/SilentDevice.h"
 #include "support/TempFolder.h"
 

@@ -1,0 +1,137 @@
+#include "pages/MainForm.h"
+#include "board/Paging.h"
+#include "pages/ExportForm.h"
+#include "pages/MainBoard.h"
+#include "pages/MainPages.h"
+#include "pages/Pictures.h"
+#include "pages/Placement.h"
+#include "pages/Screens.h"
+#include "pages/SelectForm.h"
+#include "pages/ViewPlan.h"
+
+#include <array>
+
+namespace gatewise {
+
+namespace {
+
+constexpr Color kWhite{255, 255, 255};
+constexpr Color kGrey{190, 190, 190};
+constexpr Color kCyan{0, 255, 255};
+
+std::array<Label*, 5> tabs(forms::MainForm& f) {
+    return {&f.main_LABEL, &f.statusboard_LABEL, &f.log_LABEL, &f.pf2k_LABEL, &f.export_LABEL};
+}
+
+/// The label under the mouse in cyan, the other tabs white; nullptr for none.
+void highlightTab(forms::MainForm& f, const Label* under) {
+    for (Label* tab : tabs(f)) tab->color = tab == under ? kCyan : kWhite;
+}
+
+void colorRows(forms::MainForm& f) {
+    for (int i = 0; i < kRowsOnPage; ++i) {
+        for (auto* column : {&f.fltnum_LABEL, &f.city_LABEL, &f.time_LABEL, &f.status_LABEL}) {
+            (*column)(i).color = i % 2 == 0 ? kWhite : kGrey;
+        }
+    }
+}
+
+void loadMainForm(Program& p) {
+    auto& f = p.forms.MainForm;
+    ApplySmallFontFix(p, f);
+    colorRows(f);
+    for (Label* red : {&f.gt_hoursLABEL, &f.gt_sepLABEL, &f.gt_minutesLABEL}) red->color = {255, 0, 0};
+    f.dayCombo.select(0);
+    showPage(p, f.main_pic);
+    ShowHelpText(p, 0);
+    f.statusboard_LABEL.enabled = false;
+    f.pf2k_LABEL.enabled = false;
+    f.export_LABEL.enabled = false;
+    RefreshMainButtons(p, " ");
+    f.GTclock_Timer.enable(true);
+    f.timeCheck_Timer.enable(true);
+}
+
+void dragWindow(Program& p, const EventArgs& args) {
+    auto& f = p.forms.MainForm;
+    if (p.g.DragActive == kFalse || !args.left) return;
+    f.left += args.x - p.g.DragX;
+    f.top += args.y - p.g.DragY;
+    for (Screen* screen :
+         {static_cast<Screen*>(&p.forms.SettingsForm), static_cast<Screen*>(&p.forms.FlyForm)}) {
+        if (screen->visible) CenterOnMain(p, *screen);
+    }
+}
+
+void bindMoves(Program& p) {
+    auto& f = p.forms.MainForm;
+    for (Label* tab : tabs(f)) {
+        tab->on(Event::Move, [&f, tab] { highlightTab(f, tab); });
+    }
+    f.BG.on(Event::Move, [&p](const EventArgs& args) {
+        highlightTab(p.forms.MainForm, nullptr);
+        RefreshMainButtons(p, " ");
+        dragWindow(p, args);
+    });
+    f.main_pic.on(Event::Move, [&p] {
+        highlightTab(p.forms.MainForm, nullptr);
+        RefreshMainButtons(p, " ");
+    });
+    f.status_pic.on(Event::Move, [&p] {
+        highlightTab(p.forms.MainForm, nullptr);
+        RefreshMainButtons(p, " ");
+        RefreshBoardButtons(p, " ");
+    });
+    f.log_pic.on(Event::Move, [&p] { RefreshLogButtons(p, ""); });
+    f.BG.on(Event::Press, [&p](const EventArgs& args) {
+        p.g.DragX = args.x;
+        p.g.DragY = args.y;
+        p.g.DragActive = kTrue;
+    });
+    f.BG.on(Event::Release, [&p] { p.g.DragActive = kFalse; });
+}
+
+void openPicker(Program& p, const char* mode) {
+    p.g.SelectMode = mode;
+    showScreen(p, p.forms.SelectForm);
+}
+
+void leaveForExport(Program& p) {
+    auto& f = p.forms.MainForm;
+    if (!f.export_LABEL.enabled) return;
+    playClick(p);
+    preparePlan(p);
+    stopBoardTimers(p);
+    showMainPage(p);
+    showModal(p, p.forms.ExportForm);
+}
+
+void handToProFlight(Program& p) {
+    if (!p.forms.MainForm.pf2k_LABEL.enabled) return;
+    playClick(p);
+    preparePlan(p);
+    SendToProFlight(p);
+}
+
+} // namespace
+
+void bindMainForm(Program& p) {
+    auto& f = p.forms.MainForm;
+    f.load = [&p] { loadMainForm(p); };
+    bindMoves(p);
+    for (TextBox* box : {&f.departureText, &f.arrSearch, &f.altSearch}) {
+        box->on(Event::Focus, [box] { box->selectAll = true; });
+    }
+    f.departureText.on(Event::Enter, [&p] { searchDeparture(p); });
+    f.arrSearch.on(Event::Enter, [&p] { openPicker(p, "arrival"); });
+    f.altSearch.on(Event::Enter, [&p] { openPicker(p, "alternate"); });
+    f.dayCombo.on(Event::Click, [&p] {
+        if (p.g.StartupDone != kFalse) RefreshBoard(p);
+    });
+    for (const Event key : {Event::Click, Event::Enter}) {
+        f.export_LABEL.on(key, [&p] { leaveForExport(p); });
+        f.pf2k_LABEL.on(key, [&p] { handToProFlight(p); });
+    }
+}
+
+} // namespace gatewise

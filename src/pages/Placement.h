@@ -1,0 +1,22 @@
+#pragma once
+
+#include "pages/Program.h"
+
+namespace gatewise {
+
+/// Takes the locale's signs; the monetary decimal sign is the one that files are freed from.
+void ReadLocale(Program& p);
+
+/// True when the desktop has 96 dots per inch; leaves its value in ScreenDpi.
+bool IsNormalFontSize(Program& p);
+
+/// First act of every screen's load: scales it where the desktop's fonts are not of the normal size.
+void ApplySmallFontFix(Program& p, Screen& screen);
+
+/// Puts a screen over the middle of the main screen's content area.
+void CenterOnMain(Program& p, Screen& screen);
+
+/// What every screen's load begins with: the font fix, then its place.
+void placeScreen(Program& p, Screen& screen);
+
+} // namespace gatewise

@@ -1,0 +1,15 @@
+#include "pages/Program.h"
+
+#include "sound/DS_Engine.h"
+
+namespace gatewise {
+
+Program::Program(Machine& m, std::string appDir) : machine(m) {
+    g.AppDir = std::move(appDir);
+}
+
+Program::~Program() {
+    forms.attachTimers(nullptr);
+}
+
+} // namespace gatewise

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "pages/Program.h"
+
+namespace gatewise {
+
+void bindSettingsForm(Program& p);
+
+} // namespace gatewise
