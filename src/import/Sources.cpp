@@ -1,5 +1,6 @@
 #include "import/Sources.h"
 
+#include "import/Kinds.h"
 #include "import/Navigation.h"
 #include "import/OpenFlights.h"
 #include "import/OurAirports.h"

@@ -1,6 +1,8 @@
 #pragma once
 
-#include "programs/Route.h"
+#include "programs/RoutePoint.h"
+
+#include <vector>
 
 namespace gatewise::programs {
 

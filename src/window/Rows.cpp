@@ -1,9 +1,5 @@
 #include "window/Rows.h"
 
-<<<<<<< HEAD
-=======
-#include "input/UserEvents.h"
->>>>>>> 3629493 (House: the screens in storeys, no cycle of modules in any room)
 #include "window/Drawing.h"
 #include "window/Skin.h"
 

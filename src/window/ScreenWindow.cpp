@@ -1,14 +1,7 @@
 #include "window/ScreenWindow.h"
 
-<<<<<<< HEAD
 #include "input/UserEvents.h"
 #include "window/ClosingKey.h"
-=======
-#include "input/UserEvents.h"
-#include "window/Buttons.h"
-#include "window/ChartView.h"
-#include "window/Choices.h"
->>>>>>> 3629493 (House: the screens in storeys, no cycle of modules in any room)
 #include "window/Drawing.h"
 #include "window/QtText.h"
 #include "window/ScreenNames.h"

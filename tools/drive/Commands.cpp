@@ -1,10 +1,6 @@
 #include "drive/Commands.h"
 
 #include "drive/Controls.h"
-<<<<<<< HEAD
-=======
-#include "input/UserEvents.h"
->>>>>>> 3629493 (House: the screens in storeys, no cycle of modules in any room)
 
 namespace gatewise::drive {
 

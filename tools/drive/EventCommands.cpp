@@ -1,10 +1,5 @@
 #include "drive/Commands.h"
 #include "drive/Controls.h"
-<<<<<<< HEAD
-=======
-#include "drive/Escape.h"
-#include "input/UserEvents.h"
->>>>>>> 3629493 (House: the screens in storeys, no cycle of modules in any room)
 
 #include <algorithm>
 

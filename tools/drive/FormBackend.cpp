@@ -2,8 +2,9 @@
 
 #include "app/StartUp.h"
 #include "drive/Escape.h"
-#include "pages/Screens.h"
+#include "input/Bind.h"
 #include "input/UserEvents.h"
+#include "pages/Screens.h"
 
 namespace gatewise::drive {
 

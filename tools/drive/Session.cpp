@@ -2,11 +2,6 @@
 
 #include "drive/Commands.h"
 #include "drive/Looking.h"
-<<<<<<< HEAD
-=======
-#include "input/Bind.h"
-#include "input/UserEvents.h"
->>>>>>> 3629493 (House: the screens in storeys, no cycle of modules in any room)
 
 #include <cstdlib>
 

@@ -1,13 +1,6 @@
 #pragma once
 
-<<<<<<< HEAD
 #include "drive/Backend.h"
-=======
-#include "drive/SimulatedTimers.h"
-#include "drive/SoundRecorder.h"
-#include "pages/Program.h"
-#include "platform/simulated/SimulatedMachine.h"
->>>>>>> 3629493 (House: the screens in storeys, no cycle of modules in any room)
 
 #include <istream>
 #include <ostream>
