@@ -1,15 +1,17 @@
 #include "app/StartUp.h"
 
-#include "pages/ConfigFile.h"
-#include "pages/LocateSimulator.h"
-#include "pages/MainClocks.h"
+#include "pages/DirForm.h"
+#include "pages/LoadSettings.h"
 #include "pages/MainData.h"
-#include "pages/MainLog.h"
-#include "pages/MainPass.h"
+#include "pages/MainDispatch.h"
 #include "pages/MainTabs.h"
 #include "pages/Placement.h"
 #include "pages/Screens.h"
 #include "sound/DS_Engine.h"
+#include "work/Clocks.h"
+#include "work/DataSets.h"
+#include "work/LogWork.h"
+#include "work/ReadLocale.h"
 
 namespace gatewise {
 
@@ -44,37 +46,44 @@ void loadGraphics(Program& p) {
 }
 
 void disableProFlight(Program& p) {
-    if (p.g.ProFlightFound != kFalse) return;
+    if (p.session.simulator.ProFlightFound != kFalse) return;
     p.forms.SettingsForm.pf2_FltNumCHECK.enabled = false;
     p.forms.SettingsForm.pf2_CallsignCHECK.enabled = false;
     p.forms.MainForm.pf2k_LABEL.enabled = false;
 }
 
+/// Tables, log book, screens: what the splash tells of.
+void loadAll(Program& p) {
+    Session& s = p.session;
+    LoadTables(s.AppDir, s.settings.DataSetPath, s.schedule,
+               [&p](const char* message) { sayOnSplash(p, message); });
+    LoadLogBook(logFiles(s.AppDir, s.settings.FsPath), s.log);
+    loadGraphics(p);
+    sayOnSplash(p, "Finding Flights, Standby...");
+}
+
 } // namespace
 
 void startUp(Program& p) {
-    p.g.StartupDone = kFalse;
-    ReadConfig(p);
-    LocateSimulator(p);
-    if (p.ending) return;
+    Session& s = p.session;
+    s.desk.StartupDone = kFalse;
+    loadSettings(p);
+    if (LocateSimulator(p) == Waited::Ended) return;
     DiscoverDataSets(p);
     p.SoundEngine = std::make_unique<DS_Engine>(p.machine.sound, p.machine.loop);
-    p.g.AmbienceLevel = kFadeStart;
-    takeTimeZone(p);
-    ReadLocale(p);
+    s.hall.AmbienceLevel = kFadeStart;
+    takeTimeZone(s.clock, p.machine.clock.bias());
+    ReadLocale(p.machine.locale, s.locale);
     showSplash(p);
-    p.g.HourOffset = p.g.MinuteOffset = p.g.LastHourOffset = p.g.LastMinuteOffset = 0;
-    LoadTables(p, [&p](const char* message) { sayOnSplash(p, message); });
-    LoadLogBook(p);
-    loadGraphics(p);
-    sayOnSplash(p, "Finding Flights, Standby...");
-    LoadHomeFlights(p);
-    if (p.ending) return;
-    p.g.StartupDone = kTrue;
+    s.clock.HourOffset = s.clock.MinuteOffset = 0;
+    rememberOffsets(s.clock);
+    loadAll(p);
+    if (LoadHomeFlights(p) == Waited::Ended) return;
+    s.desk.StartupDone = kTrue;
     disableProFlight(p);
     hideScreen(p, p.forms.SplashForm);
-    if (p.forms.SettingsForm.statusboardCHECK.value == 1) StartBoard(p);
-    if (!p.ending) showScreen(p, p.forms.MainForm);
+    if (s.settings.StatusBoard == 1 && StartBoard(p) == Waited::Ended) return;
+    showScreen(p, p.forms.MainForm);
 }
 
 } // namespace gatewise

@@ -35,7 +35,7 @@ std::int16_t stored(int value) {
 
 } // namespace
 
-int UpdateClockHours(const BoardClock& clock, int systemHour) {
+int UpdateClockHours(BoardClock& clock, int systemHour) {
     int h = systemHour + clock.HourOffset;
     while (h < 0) h += kHoursOfDay;
     while (h >= kHoursOfDay) h -= kHoursOfDay;
@@ -44,7 +44,7 @@ int UpdateClockHours(const BoardClock& clock, int systemHour) {
     return h;
 }
 
-ClockReading UpdateClockMinutes(const BoardClock& clock, int systemHour, int systemMinute) {
+ClockReading UpdateClockMinutes(BoardClock& clock, int systemHour, int systemMinute) {
     ClockReading reading;
     int m = systemMinute + clock.MinuteOffset;
     while (m < 0 || m >= kMinutesOfHour) {
@@ -60,7 +60,7 @@ ClockReading UpdateClockMinutes(const BoardClock& clock, int systemHour, int sys
     return reading;
 }
 
-void UpdateZones(const BoardClock& clock) {
+void UpdateZones(BoardClock& clock) {
     if (clock.ClockHours < 0)
         clock.ClockHours = stored(clock.ClockHours + kHoursOfDay);
     else if (clock.ClockHours >= kHoursOfDay)

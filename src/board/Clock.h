@@ -14,20 +14,18 @@ namespace gatewise {
 
 inline constexpr int kZones = 24;
 
-/// The clock's part of the global state. `Bias` is minutes with UTC = local time + bias.
+/// The board's clock. The offsets are the pilot's shift of it, as he steps them.
 struct BoardClock {
-    int Bias;
-    std::int16_t& HourOffset;
-    std::int16_t& MinuteOffset;
-    std::int16_t& ClockHours;
-    std::int16_t& ClockMinutes;
-    std::array<std::int16_t, kZones>& ZoneHours;
-    std::array<std::int16_t, kZones>& ZoneMinutes;
-    std::array<std::int16_t, kZones>& ZoneShade;
+    int Bias = 0;                 // minutes with UTC = local time + bias, taken once at start-up
+    std::int16_t ClockRegion = 1; // 1 to 6: which four world clocks are shown
+    std::int16_t HourOffset = 0, MinuteOffset = 0;
+    std::int16_t LastHourOffset = 0, LastMinuteOffset = 0; // for which the board was built
+    std::int16_t ClockHours = 0, ClockMinutes = 0;         // UTC
+    std::array<std::int16_t, kZones> ZoneHours{}, ZoneMinutes{}, ZoneShade{};
 };
 
 /// Recomputes the hour and the zones. Returns the hour of the big clock, 0 to 23.
-int UpdateClockHours(const BoardClock& clock, int systemHour);
+int UpdateClockHours(BoardClock& clock, int systemHour);
 
 struct ClockReading {
     int minutes = 0;          // of the big clock, 0 to 59
@@ -36,10 +34,10 @@ struct ClockReading {
 
 /// Folds minutes beyond the hour into the hour offset, then recomputes the minute and the zones. The zones'
 /// minutes stay as they come out, below 0 or above 59 under a bias of half hours.
-ClockReading UpdateClockMinutes(const BoardClock& clock, int systemHour, int systemMinute);
+ClockReading UpdateClockMinutes(BoardClock& clock, int systemHour, int systemMinute);
 
 /// Hours, minutes and shades of all zones from ClockHours and ClockMinutes.
-void UpdateZones(const BoardClock& clock);
+void UpdateZones(BoardClock& clock);
 
 /// One of the four world clocks: its name and its element in the zone arrays.
 struct ZoneClock {

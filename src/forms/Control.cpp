@@ -54,7 +54,10 @@ void Check::set(int newValue) {
 void Option::set(bool on) {
     if (on == value) return;
     value = on;
-    if (!on) return;
+    if (!on) {
+        fire(Event::Change);
+        return;
+    }
     for (Control* other : screen->controls) {
         if (other != this && other->kind == Kind::Option) static_cast<Option*>(other)->value = false;
     }
@@ -143,6 +146,19 @@ SkinnedButton::SkinnedButton(Screen& screen, std::string name, Kind kind, std::s
     : Control(screen, std::move(name), kind, index), State(state), button_type(std::move(type)),
       picture(std::move(pictureName)) {
     if (kind == Kind::FormButton) Timer1 = std::make_unique<Timer>(screen, this->name + ".Timer1", 500);
+}
+
+SkinnedButton* skinnedButton(Control* control) {
+    switch (control->kind) {
+    case Kind::FlatButton:
+    case Kind::FormButton:
+    case Kind::boardButton:
+    case Kind::switchButton:
+    case Kind::midButton:
+        return static_cast<SkinnedButton*>(control);
+    default:
+        return nullptr;
+    }
 }
 
 Control* Screen::find(std::string_view controlName, int index) const {

@@ -144,7 +144,8 @@ struct Check : Control {
     int value = 0;
 };
 
-/// Option box: turning one on turns its group (the other options of its screen) off.
+/// Option box: turning one on turns its group (the other options of its screen) off and counts as a click;
+/// turning one off by itself is a change.
 struct Option : Control {
     Option(Screen& screen, std::string name, std::string text)
         : Control(screen, std::move(name), Kind::Option), text(std::move(text)) {}
@@ -250,6 +251,9 @@ struct SkinnedButton : Control {
     std::string picture;           // name of the bitmap in the folder of the class
     std::unique_ptr<Timer> Timer1; // FormButton only: repeats the click while the button is held
 };
+
+/// The button that a control is; nullptr for a control of another class.
+SkinnedButton* skinnedButton(Control* control);
 
 /// A standard push button.
 struct PushButton : Control {

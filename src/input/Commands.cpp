@@ -2,82 +2,83 @@
 
 #include "input/Shutdown.h"
 #include "pages/ClockForm.h"
-#include "pages/ConfigFile.h"
+#include "pages/DirExportForm.h"
 #include "pages/DirForm.h"
 #include "pages/ExportForm.h"
 #include "pages/FlightForm.h"
 #include "pages/FlyForm.h"
 #include "pages/MainBoard.h"
-#include "pages/MainClocks.h"
 #include "pages/MainLog.h"
 #include "pages/MainTabs.h"
 #include "pages/OptionsForm.h"
 #include "pages/PlanCharts.h"
-#include "pages/Screens.h"
+#include "pages/SaveSettings.h"
 #include "pages/SelectForm.h"
 #include "pages/ViewPlan.h"
+#include "work/Clocks.h"
+#include "work/ExportKinds.h"
+
+#include <span>
 
 namespace gatewise {
 
 namespace {
 
-using Action = void (*)(Program&, SkinnedButton&);
+using Action = Waited (*)(Program&, SkinnedButton&);
 
 struct Command {
     const char* button_type;
     Action act;
 };
 
-template<auto Form> void hide(Program& p, SkinnedButton&) {
+template<auto Form> Waited hide(Program& p, SkinnedButton&) {
     hideScreen(p, p.forms.*Form);
+    return waited(p);
 }
-template<auto Form> void show(Program& p, SkinnedButton&) {
+template<auto Form> Waited show(Program& p, SkinnedButton&) {
     showScreen(p, p.forms.*Form);
+    return waited(p);
 }
-template<auto Form> void modal(Program& p, SkinnedButton&) {
-    showModal(p, p.forms.*Form);
+template<auto Form> Waited modal(Program& p, SkinnedButton&) {
+    return showModal(p, p.forms.*Form);
 }
-template<auto Run> void run(Program& p, SkinnedButton&) {
+/// A function of a page that may wait, or one that never does.
+template<Waited (*Run)(Program&)> Waited run(Program& p, SkinnedButton&) {
+    return Run(p);
+}
+template<void (*Run)(Program&)> Waited run(Program& p, SkinnedButton&) {
     Run(p);
+    return waited(p);
 }
-void shutDown(Program& p, SkinnedButton&) {
-    Shutdown(p);
-}
-void stepClock(Program& p, SkinnedButton& b) {
-    stepBoardClock(p, b.button_type);
-}
-void stepVolume(Program& p, SkinnedButton& b) {
-    stepAmbience(p, b.button_type);
-}
-void stepField(Program& p, SkinnedButton& b) {
-    stepLogField(p, b.button_type);
-}
-void exportKind(Program& p, SkinnedButton& b) {
-    openExportPicker(p, b.button_type);
+/// One that the button's type goes to.
+template<void (*Run)(Program&, std::string_view)> Waited typed(Program& p, SkinnedButton& b) {
+    Run(p, b.button_type);
+    return waited(p);
 }
 
-void help(Program& p, SkinnedButton&) {
-    p.machine.desktop.showHelp(p.appPath("\\GThelp.chm::/gt_gt.htm"));
+void stepClock(Program& p, std::string_view type) {
+    stepBoardClock(p.session.clock, type);
 }
-void minimise(Program& p, SkinnedButton&) {
+void turnClockRegion(Program& p) {
+    nextClockRegion(p.session.clock);
+}
+void help(Program& p) {
+    p.machine.desktop.showHelp(p.session.appPath("\\GThelp.chm::/gt_gt.htm"));
+}
+void minimise(Program& p) {
     p.machine.desktop.minimise();
 }
 
-void fly(Program& p, SkinnedButton&) {
-    preparePlan(p);
-    showScreen(p, p.forms.FlyForm);
-}
-
 constexpr Command kFlatButton[] = {
-    {"exit", shutDown},
+    {"exit", run<Shutdown>},
     {"settings", show<&Forms::SettingsForm>},
     {"print", run<printFlightPlan>},
-    {"fly", fly},
-    {"help", help},
+    {"fly", run<showFlyForm>},
+    {"help", run<help>},
 };
 
 constexpr Command kFormButton[] = {
-    {"close", shutDown},
+    {"close", run<Shutdown>},
     {"close_export", hide<&Forms::ExportForm>},
     {"close_select", hide<&Forms::SelectForm>},
     {"close_dispatch", hide<&Forms::FlightForm>},
@@ -92,19 +93,19 @@ constexpr Command kFormButton[] = {
     {"charts", run<showCharts>},
     {"log_csv", run<exportLogBook>},
     {"log_print", run<printLogPage>},
-    {"min", minimise},
-    {"hr_up", stepClock},
-    {"hr_dn", stepClock},
-    {"min_up", stepClock},
-    {"min_dn", stepClock},
-    {"vol_dn", stepVolume},
-    {"vol_up", stepVolume},
-    {"timeHr_up", stepField},
-    {"timeHr_dn", stepField},
-    {"timeMin_up", stepField},
-    {"timeMin_dn", stepField},
+    {"min", run<minimise>},
+    {"hr_up", typed<stepClock>},
+    {"hr_dn", typed<stepClock>},
+    {"min_up", typed<stepClock>},
+    {"min_dn", typed<stepClock>},
+    {"vol_dn", typed<changeVolume>},
+    {"vol_up", typed<changeVolume>},
+    {"timeHr_up", typed<stepLogField>},
+    {"timeHr_dn", typed<stepLogField>},
+    {"timeMin_up", typed<stepLogField>},
+    {"timeMin_dn", typed<stepLogField>},
     {"enter", run<searchDeparture>},
-    {"time", run<nextClockRegion>},
+    {"time", run<turnClockRegion>},
 };
 
 constexpr Command kBoardButton[] = {
@@ -112,49 +113,49 @@ constexpr Command kBoardButton[] = {
     {"prev1", run<PreviousPage>},
 };
 
-void messageOk(Program& p, SkinnedButton&) {
+Waited messageOk(Program& p) {
     auto& f = p.forms.MsgForm;
-    if (p.g.MessageMode == "del_log") {
-        DeleteLogEntry(p);
+    const std::string mode = p.session.desk.MessageMode;
+    if (mode == "del_log") {
+        if (DeleteLogEntry(p) == Waited::Ended) return Waited::Ended;
         hideScreen(p, f);
-    } else if (p.g.MessageMode == "path") {
-        hideScreen(p, f);
-        showModal(p, p.forms.DirForm);
-        hideScreen(p, f);
-    } else {
-        hideScreen(p, f);
+        return Waited::Answered;
     }
+    hideScreen(p, f);
+    if (mode != "path") return waited(p);
+    if (showModal(p, p.forms.DirForm) == Waited::Ended) return Waited::Ended;
+    hideScreen(p, f); // a message that came up behind the folders
+    return Waited::Answered;
 }
 
-void messageFly(Program& p, SkinnedButton&) {
+void messageFly(Program& p) {
     hideScreen(p, p.forms.MsgForm);
     FSRunning(p);
     Shutdown(p);
 }
 
-void messageCancel(Program& p, SkinnedButton&) {
+void messageCancel(Program& p) {
     hideScreen(p, p.forms.MsgForm);
-    if (p.g.MessageMode == "path") Shutdown(p);
+    if (p.session.desk.MessageMode == "path") Shutdown(p);
 }
 
 constexpr Command kMidButton[] = {
-    {"ok", messageOk},
-    {"fly", messageFly},
-    {"cancel", messageCancel},
+    {"ok", run<messageOk>},
+    {"fly", run<messageFly>},
+    {"cancel", run<messageCancel>},
     {"print_plan", run<printFlightPlan>},
     {"continue_view", hide<&Forms::ViewPlan>},
     {"recalc_fltplan", run<recalculateShownPlan>},
     {"remove_point", run<removeShownPoint>},
 };
 
-void turnBoard(Program& p, SkinnedButton&) {
-    p.g.BoardPage = 0;
-    SwitchBoard(p, p.g.BoardMode);
+Waited turnBoard(Program& p) {
+    p.session.board.BoardPage = 0;
+    return SwitchBoard(p, p.session.board.BoardMode);
 }
 
-template<const char* Mode> void pick(Program& p, SkinnedButton&) {
-    p.g.SelectMode = Mode;
-    showModal(p, p.forms.SelectForm);
+template<const char* Mode> Waited pickIn(Program& p, SkinnedButton&) {
+    return pick(p, Mode);
 }
 
 constexpr char kAirline[] = "airline";
@@ -162,18 +163,18 @@ constexpr char kArrival[] = "arrival";
 constexpr char kAlternate[] = "alternate";
 constexpr char kHomeAirline[] = "home_airline";
 
-void closeSettings(Program& p, SkinnedButton&) {
+void closeSettings(Program& p) {
     hideScreen(p, p.forms.SettingsForm);
-    WriteConfig(p);
+    saveSettings(p);
 }
 
 constexpr Command kSwitchButton[] = {
-    {"airline", pick<kAirline>},
+    {"airline", pickIn<kAirline>},
     {"select", run<acceptPick>},
-    {"switch", turnBoard},
+    {"switch", run<turnBoard>},
     {"edit", run<editLogEntry>},
-    {"arr", pick<kArrival>},
-    {"alt", pick<kAlternate>},
+    {"arr", pickIn<kArrival>},
+    {"alt", pickIn<kAlternate>},
     {"close", hide<&Forms::InfoForm>},
     {"log", run<AddLogEntry>},
     {"prev", run<previousLogPage>},
@@ -182,12 +183,7 @@ constexpr Command kSwitchButton[] = {
     {"selflt", run<takePickedFlight>},
     {"cont", hide<&Forms::ExportForm>},
     {"fmc", run<exportToFmc>},
-    {"fsnav", exportKind},
-    {"sb", exportKind},
-    {"rc2", exportKind},
-    {"fs2k", exportKind},
-    {"acs", exportKind},
-    {"continue_set", closeSettings},
+    {"continue_set", run<closeSettings>},
     {"path", modal<&Forms::DirForm>},
     {"select_dir", run<takeSimulatorFolder>},
     {"home", run<searchHome>},
@@ -196,43 +192,41 @@ constexpr Command kSwitchButton[] = {
     {"options", show<&Forms::OptionsForm>},
     {"continue_opt", run<takeBoardOptions>},
     {"continue_fly", run<sendFlight>},
-    {"air_search", pick<kHomeAirline>},
+    {"air_search", pickIn<kHomeAirline>},
     {"save_log", run<saveEditedEntry>},
     {"close_log", run<closeLogEntry>},
     {"delete", run<askToDelete>},
     {"export", run<writeExport>},
 };
 
-template<std::size_t N> void runFirst(const Command (&table)[N], Program& p, SkinnedButton& button) {
+/// The kinds of export come from their own table.
+Waited exportByKind(Program& p, SkinnedButton& button) {
+    return exportKindOf(button.button_type) != nullptr ? openExportPicker(p, button.button_type) : waited(p);
+}
+
+Waited runFirst(std::span<const Command> table, Program& p, SkinnedButton& button, Action otherwise) {
     for (const auto& command : table) {
-        if (button.button_type == command.button_type) {
-            command.act(p, button);
-            return;
-        }
+        if (button.button_type == command.button_type) return command.act(p, button);
     }
+    return otherwise != nullptr ? otherwise(p, button) : waited(p);
 }
 
 } // namespace
 
-void runCommand(Program& p, SkinnedButton& button) {
+Waited runCommand(Program& p, SkinnedButton& button) {
     switch (button.kind) {
     case Kind::FlatButton:
-        runFirst(kFlatButton, p, button);
-        break;
+        return runFirst(kFlatButton, p, button, nullptr);
     case Kind::FormButton:
-        runFirst(kFormButton, p, button);
-        break;
+        return runFirst(kFormButton, p, button, nullptr);
     case Kind::boardButton:
-        runFirst(kBoardButton, p, button);
-        break;
+        return runFirst(kBoardButton, p, button, nullptr);
     case Kind::midButton:
-        runFirst(kMidButton, p, button);
-        break;
+        return runFirst(kMidButton, p, button, nullptr);
     case Kind::switchButton:
-        runFirst(kSwitchButton, p, button);
-        break;
+        return runFirst(kSwitchButton, p, button, exportByKind);
     default:
-        break;
+        return waited(p);
     }
 }
 

@@ -1,6 +1,6 @@
 #include "input/Shutdown.h"
 
-#include "pages/ConfigFile.h"
+#include "pages/SaveSettings.h"
 #include "pages/Screens.h"
 #include "sound/DS_Engine.h"
 
@@ -9,11 +9,11 @@ namespace gatewise {
 void Shutdown(Program& p) {
     if (p.ending) return;
     p.ending = true;
-    p.g.board = {};
-    p.g.DepartureFlights.clear();
-    p.g.BoardFlights.clear();
+    p.session.board.board = {};
+    p.session.schedule.DepartureFlights.clear();
+    p.session.schedule.BoardFlights.clear();
     if (p.SoundEngine) p.SoundEngine->Terminate_Engine();
-    WriteConfig(p);
+    saveSettings(p);
     p.forms.attachTimers(nullptr);
     for (Screen* screen : p.forms.all()) hideScreen(p, *screen);
 }

@@ -2,18 +2,18 @@
 
 #include "input/Commands.h"
 #include "pages/ButtonPictures.h"
-#include "pages/ExportForm.h"
+#include "pages/DirExportForm.h"
 #include "pages/Pictures.h"
 
 namespace gatewise {
 
 namespace {
 
-void clicked(Program& p, SkinnedButton& button) {
-    if (p.ending) return;
-    if (button.hasState() && button.State != 1) return;
+Waited clicked(Program& p, SkinnedButton& button) {
+    if (p.ending) return Waited::Ended;
+    if (button.hasState() && button.State != 1) return Waited::Answered;
     if (button.kind != Kind::boardButton) playClick(p);
-    runCommand(p, button);
+    return runCommand(p, button);
 }
 
 void bindFormButton(Program& p, SkinnedButton& b) {
@@ -38,7 +38,7 @@ void bindFormButton(Program& p, SkinnedButton& b) {
         const char* stem = formStem(b.button_type);
         if (stem != nullptr && releasesToMouse(b.button_type)) b.picture = std::string(stem) + "_mouse";
     });
-    b.Timer1->on(Event::Tick, [&p, &b] { clicked(p, b); });
+    b.Timer1->on(Event::Tick, [&p, &b] { return clicked(p, b); });
 }
 
 void bindBoardButton(Program& p, SkinnedButton& b) {
@@ -53,7 +53,7 @@ void bindBoardButton(Program& p, SkinnedButton& b) {
     b.on(Event::Release, [&p, &b] {
         RefreshMainButtons(p, b.button_type);
         RefreshBoardButtons(p, b.button_type);
-        clicked(p, b);
+        return clicked(p, b);
     });
 }
 
@@ -81,7 +81,7 @@ void bindMidButton(Program& p, SkinnedButton& b) {
 }
 
 void bindButton(Program& p, SkinnedButton& b) {
-    const auto act = [&p, &b] { clicked(p, b); };
+    const auto act = [&p, &b] { return clicked(p, b); };
     switch (b.kind) {
     case Kind::FlatButton:
         b.on(Event::Move, [&p, &b] {
@@ -115,10 +115,7 @@ void bindSkinnedButtons(Program& p) {
     for (Screen* screen : p.forms.all()) {
         const auto controls = screen->controls;
         for (Control* control : controls) {
-            const Kind kind = control->kind;
-            if (kind >= Kind::FlatButton && kind <= Kind::midButton) {
-                bindButton(p, static_cast<SkinnedButton&>(*control));
-            }
+            if (SkinnedButton* button = skinnedButton(control)) bindButton(p, *button);
         }
     }
 }

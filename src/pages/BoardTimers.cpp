@@ -1,11 +1,9 @@
 #include "pages/BoardTimers.h"
 
-#include "board/Paging.h"
 #include "pages/MainBoard.h"
-#include "pages/MainClocks.h"
-#include "pages/MainPass.h"
-#include "sound/AnnouncementScan.h"
 #include "sound/Announcements.h"
+#include "work/Clocks.h"
+#include "work/HallWork.h"
 
 namespace gatewise {
 
@@ -16,9 +14,8 @@ constexpr int kMinute = 60000;
 /// A row that is boarding or arriving blinks.
 void flashTick(Program& p) {
     WriteHeader(p);
-    const char* word = p.g.BoardMode == "departing"  ? "BOARDING"
-                       : p.g.BoardMode == "arriving" ? "ARRIVING"
-                                                     : "";
+    const std::string& mode = p.session.board.BoardMode;
+    const char* word = mode == "departing" ? "BOARDING" : mode == "arriving" ? "ARRIVING" : "";
     for (int i = 0; i < kRowsOnPage; ++i) {
         Label& status = p.forms.MainForm.status_LABEL(i);
         status.visible = status.text == word ? !status.visible : true;
@@ -27,12 +24,10 @@ void flashTick(Program& p) {
 
 void fadeTick(Program& p) {
     if (!p.SoundEngine) return; // the start is still asking for the simulator's folder
-    const FadeStep step = stepFade(p.g.AmbienceLevel, p.g.AmbienceVolume, p.g.FadeDirection);
-    p.g.AmbienceLevel = step.level;
+    const FadeStep step = fadeAmbience(p.session.settings, p.session.hall);
     if (step.silence) p.SoundEngine->StopDXSound(kAmbienceChannel);
-    p.g.FadeDirection = step.direction;
     if (step.finished) p.forms.MainForm.fade_timer.enable(false);
-    p.SoundEngine->ChangeVolume(kAmbienceChannel, p.g.AmbienceLevel);
+    p.SoundEngine->ChangeVolume(kAmbienceChannel, step.level);
 }
 
 /// The three play timers, each with its ring for either board.
@@ -47,74 +42,60 @@ constexpr PlayTimer kPlayTimers[] = {
     {3, &forms::MainForm::play3Timer},
 };
 
-std::vector<ScanRow> scanRows(const BoardLists& board) {
-    std::vector<ScanRow> rows;
-    const auto count = std::min(board.BoardRows.size(), static_cast<std::size_t>(board.BoardRowCount + 1));
-    rows.reserve(count);
-    for (std::size_t i = 0; i < count; ++i)
-        rows.push_back({board.BoardRows[i].FlightText, board.BoardRows[i].TimeText});
-    return rows;
+/// Echoes are paused for in the middle of an announcement.
+Waited announce(Program& p, const DueAnnouncement& due, const AnnouncementDraws& draws) {
+    p.forms.MainForm.waitPlayTimer.enable(true);
+    PlayAnnouncement(
+        *p.SoundEngine, p.session.AppDir,
+        {due.flightKey, due.kind, due.city, due.pan, due.volume, draws.echo, draws.frequency, draws.voice},
+        p.session.hall.PlayedFlags);
+    return waited(p);
 }
 
-/// The other end of a row's flight. Departures are looked up in the dispatch list, even when the board shows
-/// another airport.
-std::string cityOfRow(const Program& p, int row, bool departing) {
-    const auto& flights = departing ? p.g.DepartureFlights : p.g.BoardFlights;
-    const auto index =
-        static_cast<std::size_t>(p.g.board.BoardRows[static_cast<std::size_t>(row)].FlightIndex);
-    if (index >= flights.size()) return {};
-    return departing ? flights[index].DestinationIata.str() : flights[index].OriginIata.str();
-}
-
-void scanAndAnnounce(Program& p, const AnnouncementWindow& window, const AnnouncementDraws& draws) {
-    const auto rows = scanRows(p.g.board);
-    auto& f = p.forms.MainForm;
-    auto& rings = window.departing ? p.g.AnnouncedDepartures : p.g.AnnouncedArrivals;
-    const ScanBoard board{rows, p.g.BoardPage, f.gt_hoursLABEL.text, f.gt_minutesLABEL.text,
-                          [&](int row) { return cityOfRow(p, row, window.departing); }};
-    const auto flag = static_cast<std::size_t>(window.kind - 1);
-    const auto due = scanForAnnouncement(board, window, draws.start, p.g.PlayedFlags[flag] != kFalse,
-                                         rings[static_cast<std::size_t>(window.timer - 1)]);
-    if (!due) return;
-    f.waitPlayTimer.enable(true);
-    PlayAnnouncement(*p.SoundEngine, p.g.AppDir,
-                     {due->flightKey, due->kind, due->city, due->pan, due->volume, draws.echo,
-                      draws.frequency, draws.voice},
-                     p.g.PlayedFlags);
-}
-
-void playTick(Program& p, const PlayTimer& play) {
+Waited playTick(Program& p, const PlayTimer& play) {
+    Session& s = p.session;
     auto& f = p.forms.MainForm;
     Timer& own = f.*play.timer;
-    if (!p.SoundEngine || p.g.board.BoardRowCount < 0) return;
+    const int rowCount = s.board.board.BoardRowCount;
+    if (!p.SoundEngine || rowCount < 0) return waited(p);
     if (f.waitPlayTimer.enabled) {
         own.setInterval(kPlayHeldBackInterval);
         own.enable(true);
-        return;
+        return waited(p);
     }
     startSoundEngine(p);
-    const AnnouncementDraws draws = drawAnnouncement(p.machine.random, p.g.board.BoardRowCount);
-    const AnnouncementWindow& window = windowOf(play.number, p.g.BoardMode == "departing");
-    const auto* option = static_cast<Check*>(p.forms.OptionsForm.find(window.option));
-    if (option != nullptr && option->value == 1) scanAndAnnounce(p, window, draws);
+    const AnnouncementDraws draws = drawAnnouncement(p.machine.random, rowCount);
+    const AnnouncementWindow& window = windowOf(play.number, s.board.BoardMode == "departing");
+    if (announces(s.settings, window.kind)) {
+        const auto due = dueAnnouncement(s.board, s.schedule, window, draws.start, f.gt_hoursLABEL.text,
+                                         f.gt_minutesLABEL.text, s.hall);
+        if (due && announce(p, *due, draws) == Waited::Ended) return Waited::Ended;
+    }
     own.setInterval(drawPlayInterval(p.machine.random));
+    return waited(p);
 }
 
 /// A clock that the user moved rebuilds the board once, however many clicks went before.
 void checkOffsets(Program& p) {
-    if (p.g.HourOffset == p.g.LastHourOffset && p.g.MinuteOffset == p.g.LastMinuteOffset) return;
+    if (!clockMoved(p.session.clock)) return;
     if (p.forms.MainForm.status_pic.visible) updateTick(p);
-    p.g.LastHourOffset = p.g.HourOffset;
-    p.g.LastMinuteOffset = p.g.MinuteOffset;
+    rememberOffsets(p.session.clock);
 }
 
 } // namespace
 
+void startSoundEngine(Program& p) {
+    p.SoundEngine->Initialize_Engine();
+    p.SoundEngine->SetSpeakerConfig("stereo");
+    std::string unused;
+    p.SoundEngine->GetSpeakerConfig(unused);
+}
+
 void updateTick(Program& p) {
     auto& f = p.forms.MainForm;
-    for (int i = 0; i < kRowsOnPage; ++i) f.status_LABEL(i).visible = true;
+    showStatusTexts(f);
     f.update_TIMER.setInterval(kMinute);
-    p.g.PlayedFlags.fill(kFalse);
+    p.session.hall.PlayedFlags.fill(kFalse);
     WriteHeader(p);
     p.machine.desktop.setPointer(true);
     buildBoard(p);
@@ -130,7 +111,7 @@ void bindBoardTimers(Program& p) {
     f.fade_timer.on(Event::Tick, [&p] { fadeTick(p); });
     f.waitPlayTimer.on(Event::Tick, [&p] { p.forms.MainForm.waitPlayTimer.enable(false); });
     for (const auto& play : kPlayTimers) {
-        (f.*play.timer).on(Event::Tick, [&p, &play] { playTick(p, play); });
+        (f.*play.timer).on(Event::Tick, [&p, &play] { return playTick(p, play); });
     }
 }
 

@@ -6,9 +6,6 @@
 
 namespace gatewise {
 
-/// The field LogField of the entry on the clock screen.
-void ShowClockField(Program& p);
-
 /// "timeHr_up", "timeHr_dn", "timeMin_up", "timeMin_dn" on the field LogField of the entry.
 void stepLogField(Program& p, std::string_view type);
 

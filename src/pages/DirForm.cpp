@@ -1,55 +1,59 @@
 #include "pages/DirForm.h"
 
-#include "pages/ConfigFile.h"
 #include "pages/FolderLists.h"
-#include "pages/LocateSimulator.h"
+#include "pages/MsgForm.h"
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
-#include "pages/Screens.h"
-#include "platform/Files.h"
+#include "pages/SaveSettings.h"
+#include "work/LocateSimulator.h"
 
 namespace gatewise {
 
 namespace {
 
-bool holds(const PathList& folder, const char* file) {
-    return files::fileExists(folder.path + "\\" + file);
-}
-
 void pickProgramFile(Program& p) {
     auto& f = p.forms.DirForm;
-    if (!holds(f.Dir1, "FS2002.CFG")) return;
+    if (!holds(f.Dir1.path, "FS2002.CFG")) return;
     f.selectButton.State = 1;
     f.selectButton.picture = "select_regular";
-    p.g.FsPath = f.Dir1.path;
+    p.session.settings.FsPath = f.Dir1.path;
 }
 
-void openProgramFile(Program& p) {
+Waited openProgramFile(Program& p) {
     auto& f = p.forms.DirForm;
-    if (!holds(f.Dir1, "FS2000.CFG")) return;
-    p.g.FsPath = f.Dir1.path;
-    takeSimulatorFolder(p);
+    if (!holds(f.Dir1.path, "FS2000.CFG")) return waited(p);
+    p.session.settings.FsPath = f.Dir1.path;
+    return takeSimulatorFolder(p);
 }
 
 void activateDirForm(Program& p) {
     auto& f = p.forms.DirForm;
+    const std::string& FsPath = p.session.settings.FsPath;
     CenterOnMain(p, f);
     f.File1.pattern = "*.exe";
     f.Drive1.enabled = f.Dir1.enabled = true;
     f.closeButton.picture = "close_regular";
     f.selectButton.picture = "select_disabled";
-    if (f.Dir1.path.empty())
-        moveFolderLists({f.Drive1, f.Dir1, f.File1}, p.g.FsPath.empty() ? "/" : p.g.FsPath);
+    if (f.Dir1.path.empty()) moveFolderLists({f.Drive1, f.Dir1, f.File1}, FsPath.empty() ? "/" : FsPath);
     refreshFiles(f.File1);
 }
 
 } // namespace
 
-void takeSimulatorFolder(Program& p) {
-    p.forms.SettingsForm.fspathLABEL.text = p.g.FsPath;
-    WriteConfig(p);
+Waited LocateSimulator(Program& p) {
+    Session& s = p.session;
+    const Located located = LocateSimulator(s.AppDir, p.machine.registry, s.settings);
+    if (located.found) p.forms.SettingsForm.fspathLABEL.text = s.settings.FsPath;
+    if (located.notice && ShowMessage(p, *located.notice) == Waited::Ended) return Waited::Ended;
+    findProFlight(s.settings, s.simulator);
+    return Waited::Answered;
+}
+
+Waited takeSimulatorFolder(Program& p) {
+    p.forms.SettingsForm.fspathLABEL.text = p.session.settings.FsPath;
+    saveSettings(p);
     hideScreen(p, p.forms.DirForm);
-    LocateSimulator(p);
+    return LocateSimulator(p);
 }
 
 void bindDirForm(Program& p) {
@@ -64,7 +68,7 @@ void bindDirForm(Program& p) {
     bindFolderLists(lists);
     f.File1.on(Event::Click, [&p] { pickProgramFile(p); });
     for (const Event event : {Event::DoubleClick, Event::Enter}) {
-        f.File1.on(event, [&p] { openProgramFile(p); });
+        f.File1.on(event, [&p] { return openProgramFile(p); });
     }
     f.Picture1.on(Event::Move, [&f] { restorePictures(f); });
 }

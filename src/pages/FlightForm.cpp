@@ -5,7 +5,6 @@
 #include "pages/MsgForm.h"
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
-#include "pages/Screens.h"
 #include "selection/FlightPicks.h"
 
 namespace gatewise {
@@ -16,11 +15,11 @@ void setButtonStates(forms::FlightForm& f, int state) {
     f.infoButton.State = f.flightButton.State = state;
 }
 
-/// Position in DepartureFlights behind the selected row, as text; empty without one.
-std::string pickedPosition(const forms::FlightForm& f) {
+/// Position in DepartureFlights behind the selected row.
+std::optional<int> pickedPosition(const forms::FlightForm& f) {
     const auto* row = f.FlightList.selected();
     const std::int32_t position = row != nullptr ? positionOfKey(row->key) : -1;
-    return position < 0 ? std::string() : std::to_string(position);
+    return position < 0 ? std::nullopt : std::optional<int>(position);
 }
 
 void loadFlightForm(Program& p) {
@@ -32,44 +31,46 @@ void loadFlightForm(Program& p) {
 
 } // namespace
 
-void SetFlightList(Program& p, std::string_view destinationIata) {
+Waited SetFlightList(Program& p, std::string_view destinationIata) {
     auto& form = p.forms.FlightForm;
     loadScreen(form);
     auto& list = form.FlightList;
+    const Schedule& schedule = p.session.schedule;
+    Dispatch& dispatch = p.session.dispatch;
     const FlightPickList picks =
-        pickFlights(p.g.DepartureFlights, destinationIata, p.forms.MainForm.dayCombo.data());
-    p.g.FlightPicks = picks.FlightPicks;
-    if (picks.overflow) {
-        ShowFailure(p, kSubscriptOutOfRange, "Subscript out of range", "SetFlightList");
-        return;
-    }
-    p.g.FlightPickCount = picks.FlightPickCount;
+        pickFlights(schedule.DepartureFlights, destinationIata, p.forms.MainForm.dayCombo.data());
+    dispatch.FlightPicks = picks.FlightPicks;
+    if (picks.overflow) return ShowMessage(p, tableFull("SetFlightList"));
+    dispatch.FlightPickCount = picks.FlightPickCount;
     list.clear();
     for (int i = 0; i <= picks.FlightPickCount; ++i) {
-        const FlightLine line =
-            flightLine(p.g.tables, p.g.DepartureFlights, picks.FlightPicks[static_cast<std::size_t>(i)]);
+        const FlightLine line = flightLine(schedule.tables, schedule.DepartureFlights,
+                                           picks.FlightPicks[static_cast<std::size_t>(i)]);
         list.rows.push_back({line.key, {line.text, line.equipment, line.departs, line.arrives}, false});
     }
     setButtonStates(form, 1);
     restorePictures(form);
+    return waited(p);
 }
 
-void showPickedInfo(Program& p) {
-    const std::string position = pickedPosition(p.forms.FlightForm);
-    if (!position.empty()) showFlightInfo(p, 0, position);
+Waited showPickedInfo(Program& p) {
+    const auto position = pickedPosition(p.forms.FlightForm);
+    return position ? showFlightInfo(p, FlightSource::DepartureFlights, *position) : waited(p);
 }
 
-void takePickedFlight(Program& p) {
-    const std::string position = pickedPosition(p.forms.FlightForm);
-    if (position.empty()) return;
+Waited takePickedFlight(Program& p) {
+    const auto position = pickedPosition(p.forms.FlightForm);
+    if (!position) return waited(p);
     hideScreen(p, p.forms.FlightForm);
     p.machine.desktop.paint();
-    SelectFlight(p, position, 0);
+    return SelectFlight(p, *position, FlightSource::DepartureFlights);
 }
 
-void showFlightsAgain(Program& p) {
-    SetFlightList(p, p.g.tables.airport(p.g.DestinationIndex).Iata.view());
+Waited showFlightsAgain(Program& p) {
+    const AirportRecord& airport = p.session.schedule.tables.airport(p.session.dispatch.DestinationIndex);
+    if (SetFlightList(p, airport.Iata.view()) == Waited::Ended) return Waited::Ended;
     showScreen(p, p.forms.FlightForm);
+    return Waited::Answered;
 }
 
 void bindFlightForm(Program& p) {
@@ -82,10 +83,10 @@ void bindFlightForm(Program& p) {
         restorePictures(f);
     });
     for (const Event event : {Event::DoubleClick, Event::Enter}) {
-        f.FlightList.on(event, [&p] { takePickedFlight(p); });
+        f.FlightList.on(event, [&p] { return takePickedFlight(p); });
     }
     for (const Event event : {Event::RightPress, Event::Space}) {
-        f.FlightList.on(event, [&p] { showPickedInfo(p); });
+        f.FlightList.on(event, [&p] { return showPickedInfo(p); });
     }
     f.FlightList.on(Event::Column, [&f](const EventArgs& args) { f.FlightList.resetColumn(args.value); });
     f.FlightList.on(Event::Move, rest);

@@ -1,28 +1,29 @@
 #include "pages/FlyForm.h"
 
-#include "pages/ConfigFile.h"
-#include "pages/ExportFiles.h"
 #include "pages/MsgForm.h"
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
-#include "pages/Screens.h"
-#include "platform/Files.h"
-#include "platform/Text.h"
-#include "schedule/FlightTexts.h"
-#include "simulator/FlightFile.h"
+#include "pages/SaveSettings.h"
+#include "pages/SettingControls.h"
+#include "pages/ViewPlan.h"
+#include "platform/Numbers.h"
+#include "work/PlanWork.h"
+#include "work/SendFlight.h"
 
 namespace gatewise {
 
 namespace {
 
-// ---- the fly options
+using forms::FlyForm;
+
+constexpr SettingBox<FlyForm> kBoxes[] = {{&FlyForm::flydefaultCHECK, &Settings::SetDefault}};
 
 /// Fills the list of aircraft. Only at load: aircraft that are installed meanwhile count from the next start.
 void fillAircraft(Program& p) {
     auto& list = p.forms.FlyForm.acftCOMBO;
     p.machine.desktop.setPointer(true);
-    p.g.AircraftTable = FilesSearch(p.g.FsPath + "\\Aircraft");
-    for (const ScannedAircraft& aircraft : p.g.AircraftTable) list.add(aircraft.title);
+    scanAircraft(p.session.settings, p.session.simulator);
+    for (const ScannedAircraft& aircraft : p.session.simulator.AircraftTable) list.add(aircraft.title);
     p.machine.desktop.setPointer(false);
 }
 
@@ -44,9 +45,7 @@ ListView::Row planRow(std::string_view id, std::string_view name, std::string_vi
 
 /// A row for each point that a flight can start at: a row's place is the point's index, the destination has
 /// none.
-void fillPoints(Program& p) {
-    const Plan& plan = p.g.plan;
-    auto& list = p.forms.FlyForm.PlanList;
+void fillPoints(ListView& list, const Plan& plan) {
     list.clear();
     const PlanAirport& from = plan.departureAirport;
     list.rows.push_back(planRow(from.Icao.view(), from.Name.view(), "", from.Elevation));
@@ -57,80 +56,51 @@ void fillPoints(Program& p) {
     }
 }
 
-void fillPositions(Program& p) {
-    const PlanAirport& from = p.g.plan.departureAirport;
-    p.g.storedPositions = loadStoredPositions(p.g.FsPath, from.Icao.view());
-    auto& list = p.forms.FlyForm.posCOMBO;
-    list.clear();
-    for (std::string& choice : startChoices(from, p.g.storedPositions)) list.add(std::move(choice));
-}
-
 /// No choice of an earlier flight stands.
 void activateFlyForm(Program& p) {
     auto& f = p.forms.FlyForm;
+    Session& s = p.session;
     CenterOnMain(p, f);
-    fillPositions(p);
-    fillPoints(p);
+    f.posCOMBO.clear();
+    for (std::string& choice : loadStartChoices(s.settings, s.plan.plan, s.simulator))
+        f.posCOMBO.add(std::move(choice));
+    fillPoints(f.PlanList, s.plan.plan);
     f.posCOMBO.select(0);
     f.acftCOMBO.select(0);
     f.PlanList.enabled = false;
 }
 
-// ---- the send
-
-std::string simulatorPath(const Program& p, std::string_view tail) {
-    return p.g.FsPath + std::string(tail);
-}
-
-SituationInput situation(Program& p, const std::string& stem) {
+void bindChoices(Program& p) {
     auto& f = p.forms.FlyForm;
-    return {.plan = p.g.plan,
-            .CurrentFlight = p.g.CurrentFlight,
-            .numbers = p.g.numbers,
-            .stem = stem,
-            .StartChoice = p.g.StartChoice,
-            .start = {p.g.StartLat, p.g.StartLon, p.g.StartHdg},
-            .aircraft = f.acftCOMBO.text(),
-            .fuelPCT = f.fuelPCT.text,
-            .PreFlight = p.forms.SettingsForm.preflightCOMBO.data(),
-            .pointIndex = p.g.SelectedPoint};
-}
-
-/// The start position, the plan, the situation file: what fails leaves what stands before it in place.
-std::error_code WriteFlightToSimulator(Program& p, const std::string& stem) {
-    const StartPosition start = resolveStart(p.g.StartChoice, p.g.plan, p.g.storedPositions,
-                                             p.g.SelectedPoint, {p.g.StartLat, p.g.StartLon, p.g.StartHdg});
-    p.g.StartLat = start.StartLat;
-    p.g.StartLon = start.StartLon;
-    p.g.StartHdg = start.StartHdg;
-    exportFlightPlanFile(p, simulatorPath(p, "\\flights\\myflts\\" + stem + ".pln"));
-    return WriteSituationFile(p.appPath("\\Data\\default.FLT"),
-                              simulatorPath(p, "\\flights\\fs2kflts\\" + stem + ".FLT"),
-                              situationKeys(situation(p, stem)));
+    SimulatorHandOff& simulator = p.session.simulator;
+    f.posCOMBO.on(Event::Click, [&simulator, &f] {
+        simulator.StartChoice = f.posCOMBO.text();
+        f.PlanList.enabled = simulator.StartChoice == kStartInflight;
+    });
+    f.PlanList.on(Event::Click, [&simulator, &f] {
+        if (f.PlanList.enabled) simulator.SelectedPoint = static_cast<std::int16_t>(f.PlanList.picked);
+    });
+    tieBoxes<FlyForm>(f, p.session.settings, kBoxes);
 }
 
 } // namespace
 
-void sendFlight(Program& p) {
+void showFlyForm(Program& p) {
+    preparePlan(p);
+    showScreen(p, p.forms.FlyForm);
+}
+
+Waited sendFlight(Program& p) {
     auto& f = p.forms.FlyForm;
-    const std::string stem = flightStem(p.g.tables, p.g.CurrentFlight);
-    (void)WriteConfig(p);
+    Session& s = p.session;
+    saveSettings(p);
+    const ExportJob job = exportJob(s.plan.plan, s.schedule, s.dispatch, s.settings, s.locale, p.machine);
     // Without a situation file nothing was sent: the options stay open for another try.
-    if (const auto error = WriteFlightToSimulator(p, stem)) {
-        ShowFailure(p, error, "WriteSituationFile");
-        return;
-    }
+    if (const auto error = WriteFlightToSimulator(s.AppDir, job, s.dispatch.CurrentFlight, s.settings,
+                                                  {f.acftCOMBO.text(), f.fuelPCT.text}, s.simulator))
+        return ShowMessage(p, failure(error, "WriteSituationFile"));
     hideScreen(p, f);
-    if (f.flydefaultCHECK.value == 1) {
-        const auto error = SetDefaultFlight(p.g.FsPath, stem);
-        if (!error) {
-            ShowMessage(p, kInformation, 17);
-            return;
-        }
-        // The flight itself has arrived; the pilot picks it by hand.
-        ShowFailure(p, error, "SetDefaultFlight");
-    }
-    ShowMessage(p, kInformation, 5);
+    return ShowMessages(p, afterSending(s.settings, job.stem));
 }
 
 void FSRunning(Program& p) {
@@ -138,21 +108,19 @@ void FSRunning(Program& p) {
     if (processes.simulatorRunning()) {
         processes.bringSimulatorToFront();
     } else {
-        processes.start("fs2002.exe", "", p.g.FsPath);
+        processes.start("fs2002.exe", "", p.session.settings.FsPath);
     }
+}
+
+void showFlyBox(Program& p) {
+    showBoxes<FlyForm>(p.forms.FlyForm, p.session.settings, kBoxes);
 }
 
 void bindFlyForm(Program& p) {
     auto& f = p.forms.FlyForm;
     f.load = [&p] { loadFlyForm(p); };
     f.activate = [&p] { activateFlyForm(p); };
-    f.posCOMBO.on(Event::Click, [&p, &f] {
-        p.g.StartChoice = f.posCOMBO.text();
-        f.PlanList.enabled = p.g.StartChoice == kStartInflight;
-    });
-    f.PlanList.on(Event::Click, [&p, &f] {
-        if (f.PlanList.enabled) p.g.SelectedPoint = static_cast<std::int16_t>(f.PlanList.picked);
-    });
+    bindChoices(p);
     f.PlanList.on(Event::Column, [&f](const EventArgs& args) { f.PlanList.resetColumn(args.value); });
     f.fuelSLIDER.on(Event::Change, [&p, &f] {
         f.fuelPCT.text = std::to_string(f.fuelSLIDER.value);

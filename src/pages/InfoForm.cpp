@@ -1,19 +1,13 @@
 #include "pages/InfoForm.h"
 
 #include "pages/Placement.h"
-#include "pages/Screens.h"
 #include "selection/FlightPicks.h"
 
 namespace gatewise {
 
 namespace {
 
-/// What setting FlightInfo's pointer does.
-void drawFlight(Program& p, forms::FlightInfo& info) {
-    const auto& flights = info.State == 0 ? p.g.DepartureFlights : p.g.BoardFlights;
-    int index = 0;
-    if (!parseInteger(info.pointer, index) || index < 0 || index >= static_cast<int>(flights.size())) return;
-    const FlightInfoTexts texts = flightInfoTexts(p.g.tables, flights[static_cast<std::size_t>(index)]);
+void drawFlight(forms::FlightInfo& info, const FlightInfoTexts& texts) {
     info.origin.text = texts.origin;
     info.arrival.text = texts.arrival;
     info.flight_info.text = texts.flight_info;
@@ -29,12 +23,14 @@ void drawFlight(Program& p, forms::FlightInfo& info) {
 
 } // namespace
 
-void showFlightInfo(Program& p, int state, const std::string& pointer) {
+Waited showFlightInfo(Program& p, FlightSource source, int index) {
+    const Schedule& schedule = p.session.schedule;
     auto& info = p.forms.InfoForm.FlightInfo1;
-    info.State = state;
-    info.pointer = pointer;
-    drawFlight(p, info);
-    showModal(p, p.forms.InfoForm);
+    info.State = static_cast<int>(source);
+    info.pointer = std::to_string(index);
+    if (const FlightRecord* flight = flightAt(schedule, source, index))
+        drawFlight(info, flightInfoTexts(schedule.tables, *flight));
+    return showModal(p, p.forms.InfoForm);
 }
 
 void bindInfoForm(Program& p) {

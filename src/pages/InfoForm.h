@@ -1,13 +1,13 @@
 #pragma once
 
-#include "pages/Program.h"
-
-#include <string>
+#include "pages/Screens.h"
+#include "work/Departures.h"
 
 namespace gatewise {
 
-/// Draws a flight on InfoForm (state 0: of DepartureFlights, 1: of BoardFlights) and shows it modally.
-void showFlightInfo(Program& p, int state, const std::string& pointer);
+/// Draws a flight on InfoForm and shows it modally. A number that the list has not leaves the flight that was
+/// drawn before.
+Waited showFlightInfo(Program& p, FlightSource source, int index);
 
 void bindInfoForm(Program& p);
 

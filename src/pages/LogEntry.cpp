@@ -14,7 +14,7 @@ std::string place(const FixedText<4>& icao, const FixedText<35>& name) {
 }
 
 void takeNotes(Program& p) {
-    if (LogRecord* entry = selectedEntry(p))
+    if (LogRecord* entry = p.session.log.selected())
         entry->comments = std::string(trimmed(p.forms.LogEntry.notes.text));
 }
 
@@ -32,16 +32,11 @@ constexpr FieldLabel kFieldLabels[] = {
 
 } // namespace
 
-LogRecord* selectedEntry(Program& p) {
-    if (p.g.LogSelected < 0 || p.g.LogSelected > p.g.LastLogIndex()) return nullptr;
-    return &p.g.LogEntries[static_cast<std::size_t>(p.g.LogSelected)];
-}
-
 void refreshEntry(Program& p) {
-    const LogRecord* entry = selectedEntry(p);
+    const LogRecord* entry = p.session.log.selected();
     if (entry == nullptr) return;
     auto& f = p.forms.LogEntry;
-    const auto hours = [&](double value) { return hoursText(value, p.g.numbers); };
+    const auto hours = [&](double value) { return hoursText(value, p.session.locale.numbers); };
     f.date_LABEL.text = " " + p.machine.locale.longDate(calendarDay(entry->date).value_or(fromDaySerial(0)));
     f.dept_LABEL.text = place(entry->departureIcao, entry->departureName);
     f.dest_LABEL.text = place(entry->arrivalIcao, entry->arrivalName);
@@ -73,8 +68,8 @@ void bindLogEntry(Program& p) {
     f.notes.on(Event::Change, [&p] { takeNotes(p); });
     for (const auto& field : kFieldLabels) {
         const auto open = [&p, &field] {
-            p.g.LogField = field.word;
-            showModal(p, p.forms.ClockForm);
+            p.session.log.LogField = field.word;
+            return showModal(p, p.forms.ClockForm);
         };
         Label& label = f.*field.label;
         label.on(Event::Click, open);

@@ -4,9 +4,6 @@
 
 namespace gatewise {
 
-/// The entry LogSelected; nullptr when no entry is selected.
-LogRecord* selectedEntry(Program& p);
-
 /// Every label of the entry screen from its entry.
 void refreshEntry(Program& p);
 

@@ -1,74 +1,52 @@
 #include "pages/MainData.h"
 
-#include "pages/ConfigFile.h"
-#include "pages/MainPass.h"
+#include "pages/MainDispatch.h"
 #include "pages/MsgForm.h"
 #include "pages/Pictures.h"
-#include "platform/Files.h"
-#include "schedule/Readers.h"
+#include "pages/SaveSettings.h"
+#include "work/DataSets.h"
 
 namespace gatewise {
 
 namespace {
 
-constexpr const char* kMainSet = "\\Data";
-constexpr const char* kAllSchedules = "All Real World Airline Schedules";
-
-void changeDataSet(Program& p) {
-    if (p.g.StartupDone == kFalse) return;
+Waited changeDataSet(Program& p) {
+    Session& s = p.session;
+    if (s.desk.StartupDone == kFalse) return waited(p);
     auto& f = p.forms.MainForm;
-    const std::string picked(trimmed(f.routeCombo.text()));
-    std::string path =
-        picked == kAllSchedules ? std::string(kMainSet) : std::string(kMainSet) + "\\" + picked;
-    if (!files::fileExists(p.appPath(path + "\\index.gt1"))) path = kMainSet;
-    if (path == p.g.DataSetPath) return;
+    const std::string path = dataSetPath(s.AppDir, f.routeCombo.text());
+    if (path == s.settings.DataSetPath) return waited(p);
 
-    p.g.DataSetPath = path;
-    p.g.HomeIndex = 0;
-    WriteConfig(p);
+    s.settings.DataSetPath = path;
+    s.settings.HomeIndex = 0;
+    saveSettings(p);
     p.machine.desktop.setPointer(true);
-    LoadTables(p);
+    LoadTables(s.AppDir, path, s.schedule);
     ClearDispatch(p);
     f.arrivalButton.State = 0;
     f.statusboard_LABEL.enabled = false;
     f.departureText.text.clear();
     RefreshMainButtons(p, " ");
-    ShowMessage(p, kInformation, 15);
+    const Waited answer = ShowMessage(p, Heading::Information, Message::NewDataSet);
     p.machine.desktop.setPointer(false);
+    return answer;
 }
 
 } // namespace
 
 void DiscoverDataSets(Program& p) {
     auto& combo = p.forms.MainForm.routeCombo;
+    const auto names = dataSetNames(p.session.AppDir);
     combo.clear();
-    combo.add(kAllSchedules);
-    for (const auto& folder : dataSetFolders(p.g.AppDir)) combo.add(folder);
+    for (const auto& name : names) combo.add(name);
     combo.select(0);
-    for (int i = 0; i < combo.count(); ++i) {
-        if (std::string(kMainSet) + "\\" + combo.items[static_cast<std::size_t>(i)] == p.g.DataSetPath) {
-            combo.select(i);
-            break;
-        }
-    }
+    const int place = dataSetPlace(combo.items, p.session.settings.DataSetPath);
+    if (place > 0) combo.select(place);
     combo.locked = combo.count() == 1;
 }
 
-void LoadTables(Program& p, const std::function<void(const char*)>& before) {
-    const auto tell = [&](const char* message) {
-        if (before) before(message);
-    };
-    tell("Loading Airports, Standby...");
-    loadAirports(p.setPath("\\index.gt1"), p.g.tables);
-    p.g.airportFinder = AirportFinder(p.g.tables.airports);
-    tell("Loading Airlines, Standby...");
-    loadAirlines(p.setPath("\\airline.gt1"), p.g.tables);
-    tell("Loading Aircraft, Standby...");
-    loadAircraft(p.appPath("\\Data\\aircraft.gt1"), p.g.tables);
-}
-
 void bindMainData(Program& p) {
-    p.forms.MainForm.routeCombo.on(Event::Click, [&p] { changeDataSet(p); });
+    p.forms.MainForm.routeCombo.on(Event::Click, [&p] { return changeDataSet(p); });
 }
 
 } // namespace gatewise

@@ -54,9 +54,9 @@ void loadMainForm(Program& p) {
 
 void dragWindow(Program& p, const EventArgs& args) {
     auto& f = p.forms.MainForm;
-    if (p.g.DragActive == kFalse || !args.left) return;
-    f.left += args.x - p.g.DragX;
-    f.top += args.y - p.g.DragY;
+    if (p.session.desk.DragActive == kFalse || !args.left) return;
+    f.left += args.x - p.session.desk.DragX;
+    f.top += args.y - p.session.desk.DragY;
     for (Screen* screen :
          {static_cast<Screen*>(&p.forms.SettingsForm), static_cast<Screen*>(&p.forms.FlyForm)}) {
         if (screen->visible) CenterOnMain(p, *screen);
@@ -84,33 +84,37 @@ void bindMoves(Program& p) {
     });
     f.log_pic.on(Event::Move, [&p] { RefreshLogButtons(p, ""); });
     f.BG.on(Event::Press, [&p](const EventArgs& args) {
-        p.g.DragX = args.x;
-        p.g.DragY = args.y;
-        p.g.DragActive = kTrue;
+        p.session.desk.DragX = args.x;
+        p.session.desk.DragY = args.y;
+        p.session.desk.DragActive = kTrue;
     });
-    f.BG.on(Event::Release, [&p] { p.g.DragActive = kFalse; });
+    f.BG.on(Event::Release, [&p] { p.session.desk.DragActive = kFalse; });
 }
 
 void openPicker(Program& p, const char* mode) {
-    p.g.SelectMode = mode;
+    p.session.dispatch.SelectMode = mode;
     showScreen(p, p.forms.SelectForm);
 }
 
-void leaveForExport(Program& p) {
+Waited leaveForExport(Program& p) {
     auto& f = p.forms.MainForm;
-    if (!f.export_LABEL.enabled) return;
+    if (!f.export_LABEL.enabled) return waited(p);
     playClick(p);
     preparePlan(p);
-    stopBoardTimers(p);
+    runBoardTimers(f, false);
     showMainPage(p);
-    showModal(p, p.forms.ExportForm);
+    return showModal(p, p.forms.ExportForm);
 }
 
-void handToProFlight(Program& p) {
-    if (!p.forms.MainForm.pf2k_LABEL.enabled) return;
+Waited handToProFlight(Program& p) {
+    if (!p.forms.MainForm.pf2k_LABEL.enabled) return waited(p);
     playClick(p);
     preparePlan(p);
-    SendToProFlight(p);
+    return SendToProFlight(p);
+}
+
+Waited changeDay(Program& p) {
+    return p.session.desk.StartupDone != kFalse ? RefreshBoard(p) : waited(p);
 }
 
 } // namespace
@@ -122,15 +126,13 @@ void bindMainForm(Program& p) {
     for (TextBox* box : {&f.departureText, &f.arrSearch, &f.altSearch}) {
         box->on(Event::Focus, [box] { box->selectAll = true; });
     }
-    f.departureText.on(Event::Enter, [&p] { searchDeparture(p); });
+    f.departureText.on(Event::Enter, [&p] { return searchDeparture(p); });
     f.arrSearch.on(Event::Enter, [&p] { openPicker(p, "arrival"); });
     f.altSearch.on(Event::Enter, [&p] { openPicker(p, "alternate"); });
-    f.dayCombo.on(Event::Click, [&p] {
-        if (p.g.StartupDone != kFalse) RefreshBoard(p);
-    });
+    f.dayCombo.on(Event::Click, [&p] { return changeDay(p); });
     for (const Event key : {Event::Click, Event::Enter}) {
-        f.export_LABEL.on(key, [&p] { leaveForExport(p); });
-        f.pf2k_LABEL.on(key, [&p] { handToProFlight(p); });
+        f.export_LABEL.on(key, [&p] { return leaveForExport(p); });
+        f.pf2k_LABEL.on(key, [&p] { return handToProFlight(p); });
     }
 }
 

@@ -1,71 +1,32 @@
 #include "pages/MainLog.h"
 
-#include "logbook/LogExchange.h"
 #include "logbook/LogListing.h"
 #include "logbook/LogTexts.h"
-#include "pages/LogEntry.h"
 #include "pages/MsgForm.h"
 #include "pages/Pictures.h"
-#include "pages/Screens.h"
 #include "plan/PrintPlan.h"
 #include "platform/Files.h"
-#include "schedule/Lookups.h"
+#include "work/LogWork.h"
 
 namespace gatewise {
 
 namespace {
 
-std::string bookPath(const Program& p) {
-    return p.appPath("\\Data\\LogBook.gt1");
-}
-std::string exchangePath(const Program& p) {
-    return p.g.FsPath + "\\Modules\\logrecords.gt1";
-}
-
-/// Says what kept the log book from being written; true when something did.
-bool failed(Program& p, const std::error_code& error, const char* function) {
-    if (!error) return false;
-    ShowFailure(p, error, function);
-    return true;
-}
-
-LogRecord newEntry(const Program& p) {
-    const FlightRecord& flight = p.g.CurrentFlight;
-    const AirportRecord& departure = p.g.tables.airport(p.g.DepartureIndex);
-    const AirportRecord& arrival = p.g.tables.airport(p.g.DestinationIndex);
-    LogRecord entry;
-    entry.date = static_cast<double>(daySerial(p.machine.clock.now()));
-    entry.departureIcao = departure.Icao;
-    entry.arrivalIcao = arrival.Icao;
-    entry.departureName = departure.Name;
-    entry.arrivalName = arrival.Name;
-    entry.aircraft = find_aircraft(p.g.tables, flight.AircraftCode.view());
-    entry.scheduledDeparture = entry.actualDeparture = flight.DepartureTime;
-    entry.scheduledArrival = entry.actualArrival = flight.ArrivalTime;
-    entry.airline = find_airline(p.g.tables, flight.AirlineCode.view());
-    entry.flightNumber = flight.FlightNumber;
-    entry.comments = "Currently, no comments for this flight.";
-    return entry;
+LogFiles bookFiles(const Program& p) {
+    return logFiles(p.session.AppDir, p.session.settings.FsPath);
 }
 
 void selectRow(Program& p, int row) {
-    const int entry = (p.g.LogPage - 1) * kLogRows + row;
-    if (entry > p.g.LastLogIndex()) return;
+    if (!selectLogRow(p.session.log, row)) return;
     auto& f = p.forms.MainForm;
-    p.g.LogSelected = static_cast<std::int16_t>(entry);
     f.logButton(0).State = f.logButton(1).State = 1;
     RefreshLogButtons(p, "");
     for (int i = 0; i < kLogRows; ++i) f.dept_back(i).highlighted = i == row;
 }
 
-void turnLogPage(Program& p, int step) {
-    p.g.LogPage = static_cast<std::int16_t>(p.g.LogPage + step);
-    ShowLogPage(p);
-    resetLogButtons(p);
-}
-
-bool morePages(const Program& p) {
-    return p.g.LogPage * kLogRows <= p.g.LastLogIndex();
+Waited openRow(Program& p, int row) {
+    selectRow(p, row);
+    return selectLogRow(p.session.log, row) ? editLogEntry(p) : waited(p);
 }
 
 void noEntryPicked(Program& p) {
@@ -74,63 +35,29 @@ void noEntryPicked(Program& p) {
     RefreshLogButtons(p, "");
 }
 
-} // namespace
-
-void LoadLogBook(Program& p) {
-    p.g.LogEntries = readLogBook(bookPath(p));
-    p.g.logStore.remember(static_cast<long long>(p.g.LogEntries.size()) *
-                          static_cast<long long>(recordSize<LogRecord>()));
-    MergeLogRecords(exchangePath(p), p.g.LogEntries);
+/// The page buttons after a turn, with no row selected.
+void resetLogButtons(Program& p) {
+    auto& f = p.forms.MainForm;
+    f.logButton(3).State = moreLogPages(p.session.log) ? 1 : 0;
+    f.logButton(2).State = p.session.log.LogPage == 1 ? 0 : 1;
+    noEntryPicked(p);
 }
 
-void AddLogEntry(Program& p) {
-    const std::size_t index = p.g.LogEntries.size();
-    if (index >= kLogEntries) {
-        ShowFailure(p, kSubscriptOutOfRange, "Subscript out of range", "AddLogEntry");
-        return;
-    }
-    const long long today = daySerial(p.machine.clock.now());
-    if (failed(p, p.g.logStore.put(bookPath(p), index, newEntry(p), today, p.g.LogEntries), "AddLogEntry"))
-        return;
-    LoadLogBook(p);
-    WriteLogRecords(exchangePath(p), p.g.LogEntries);
-    ShowMessage(p, kInformation, 2);
-}
-
-bool SaveLogEntry(Program& p) {
-    LogRecord* entry = selectedEntry(p);
-    if (entry == nullptr) return true;
-    entry->comments = std::string(entry->comments.trimmed());
-    const long long today = daySerial(p.machine.clock.now());
-    const auto index = static_cast<std::size_t>(p.g.LogSelected);
-    if (failed(p, p.g.logStore.put(bookPath(p), index, *entry, today, p.g.LogEntries), "SaveLogEntry"))
-        return false;
-    WriteLogRecords(exchangePath(p), p.g.LogEntries);
-    return true;
-}
-
-void DeleteLogEntry(Program& p) {
-    if (selectedEntry(p) == nullptr) return;
-    std::vector<LogRecord> left = p.g.LogEntries;
-    left.erase(left.begin() + p.g.LogSelected);
-    const long long today = daySerial(p.machine.clock.now());
-    if (const auto error = p.g.logStore.rewrite(bookPath(p), left, today)) {
-        // The question is answered; what went wrong is a message of its own.
-        hideScreen(p, p.forms.MsgForm);
-        failed(p, error, "DeleteLogEntry");
-        return;
-    }
-    WriteLogRecords(exchangePath(p), left);
-    ShowMessage(p, kWarning, 3);
-    LoadLogBook(p);
+void turnLogPage(Program& p, int step) {
+    LogDesk& log = p.session.log;
+    log.LogPage = static_cast<std::int16_t>(log.LogPage + step);
     ShowLogPage(p);
+    resetLogButtons(p);
 }
+
+} // namespace
 
 void ShowLogPage(Program& p) {
     auto& f = p.forms.MainForm;
-    f.curPage.text = std::to_string(p.g.LogPage);
-    f.pageMAX.text = std::to_string(logPages(p.g.LastLogIndex()));
-    const LogPageTexts page = logPageTexts(p.g.LogEntries, p.g.LogPage, p.g.numbers);
+    const Session& s = p.session;
+    f.curPage.text = std::to_string(s.log.LogPage);
+    f.pageMAX.text = std::to_string(logPages(s.log.LastLogIndex()));
+    const LogPageTexts page = logPageTexts(s.log.LogEntries, s.log.LogPage, s.locale.numbers);
     for (int i = 0; i < kLogRows; ++i) {
         const LogRowTexts& row = page.rows[static_cast<std::size_t>(i)];
         f.log_dept(i).text = row.departure;
@@ -146,75 +73,99 @@ void ShowLogPage(Program& p) {
     f.pic_prevpic.text = page.previousPilot;
     f.pic_totinst.text = page.totalInstrument;
     f.pic_totpic.text = page.totalPilot;
-    const auto& s = p.forms.SettingsForm;
-    f.log_pilotName.text = " " + s.firstTEXT.text + " " + s.lastTEXT.text;
+    f.log_pilotName.text = " " + s.settings.First + " " + s.settings.Last;
 }
 
-void resetLogButtons(Program& p) {
-    auto& f = p.forms.MainForm;
-    f.logButton(0).State = f.logButton(1).State = 0;
-    f.logButton(3).State = morePages(p) ? 1 : 0;
-    f.logButton(2).State = p.g.LogPage == 1 ? 0 : 1;
-    RefreshLogButtons(p, "");
+void showFirstLogPage(Program& p) {
+    p.session.log.LogPage = 1;
+    resetLogButtons(p);
+    ShowLogPage(p);
 }
 
-void exportLogBook(Program& p) {
-    const auto path = p.machine.desktop.askSavePath("Export Log Book", p.appPath("\\LogBook.csv"));
-    if (!path || failed(p, files::replace(*path, logCsv(p.g.LogEntries)), "ExportLogBook")) return;
+Waited AddLogEntry(Program& p) {
+    Session& s = p.session;
+    return ShowMessage(p, AddLogEntry(bookFiles(p), s.schedule, s.dispatch, p.machine.clock.now(), s.log));
+}
+
+Waited DeleteLogEntry(Program& p) {
+    LogDesk& log = p.session.log;
+    if (log.selected() == nullptr) return waited(p);
+    if (const auto notice = DeleteLogEntry(bookFiles(p), p.machine.clock.now(), log)) {
+        // The question is answered; what went wrong is a message of its own.
+        hideScreen(p, p.forms.MsgForm);
+        return ShowMessage(p, *notice);
+    }
+    if (ShowMessage(p, Heading::Warning, Message::DeleteLogEntry) == Waited::Ended) return Waited::Ended;
+    LoadLogBook(bookFiles(p), log);
+    ShowLogPage(p);
+    return Waited::Answered;
+}
+
+Waited askToDelete(Program& p) {
+    if (ShowMessage(p, Heading::Warning, Message::DeleteLogEntry) == Waited::Ended) return Waited::Ended;
+    noEntryPicked(p);
+    return Waited::Answered;
+}
+
+Waited exportLogBook(Program& p) {
+    const auto path = p.machine.desktop.askSavePath("Export Log Book", p.session.appPath("\\LogBook.csv"));
+    if (!path || waited(p) == Waited::Ended) return waited(p);
+    if (const auto error = files::replace(*path, logCsv(p.session.log.LogEntries)))
+        return ShowMessage(p, failure(error, "ExportLogBook"));
     p.machine.desktop.notify("The Log Book has been exported to " + *path);
+    return waited(p);
 }
 
-void printLogPage(Program& p) {
-    const std::string text =
-        logListing(p.g.LogEntries, p.g.LogPage, p.forms.MainForm.log_pilotName.text, p.g.numbers);
-    failed(p, p.machine.printer.print(std::string(kPrintFont), kPrintFontSize, text, {}), "PrintLogPage");
+Waited printLogPage(Program& p) {
+    const LogDesk& log = p.session.log;
+    const std::string text = logListing(log.LogEntries, log.LogPage, p.forms.MainForm.log_pilotName.text,
+                                        p.session.locale.numbers);
+    const auto error = p.machine.printer.print(std::string(kPrintFont), kPrintFontSize, text, {});
+    return error ? ShowMessage(p, failure(error, "PrintLogPage")) : waited(p);
 }
 
 void previousLogPage(Program& p) {
-    turnLogPage(p, p.g.LogPage > 1 ? -1 : 0);
+    turnLogPage(p, p.session.log.LogPage > 1 ? -1 : 0);
 }
 
 void nextLogPage(Program& p) {
-    turnLogPage(p, morePages(p) ? 1 : 0);
+    turnLogPage(p, moreLogPages(p.session.log) ? 1 : 0);
 }
 
-void editLogEntry(Program& p) {
-    const LogRecord* entry = selectedEntry(p);
-    if (entry == nullptr) return;
-    p.g.LogWorkingCopy = *entry;
-    showModal(p, p.forms.LogEntry);
+Waited editLogEntry(Program& p) {
+    LogDesk& log = p.session.log;
+    const LogRecord* entry = log.selected();
+    if (entry == nullptr) return waited(p);
+    log.LogWorkingCopy = *entry;
+    return showModal(p, p.forms.LogEntry);
 }
 
-void saveEditedEntry(Program& p) {
-    if (LogRecord* entry = selectedEntry(p))
+Waited saveEditedEntry(Program& p) {
+    LogDesk& log = p.session.log;
+    if (LogRecord* entry = log.selected())
         entry->comments = std::string(trimmed(p.forms.LogEntry.notes.text));
-    if (!SaveLogEntry(p)) return; // nothing of the entry is lost while its screen stands
+    // Nothing of the entry is lost while its screen stands.
+    if (const auto notice = SaveLogEntry(bookFiles(p), p.machine.clock.now(), log))
+        return ShowMessage(p, *notice);
     hideScreen(p, p.forms.LogEntry);
     noEntryPicked(p);
     ShowLogPage(p);
-    ShowMessage(p, kInformation, 6);
+    return ShowMessage(p, Heading::Information, Message::LogEntrySaved);
 }
 
 void closeLogEntry(Program& p) {
     noEntryPicked(p);
-    if (LogRecord* entry = selectedEntry(p)) *entry = p.g.LogWorkingCopy;
+    LogDesk& log = p.session.log;
+    if (LogRecord* entry = log.selected()) *entry = log.LogWorkingCopy;
     hideScreen(p, p.forms.LogEntry);
     ShowLogPage(p);
-}
-
-void askToDelete(Program& p) {
-    ShowMessage(p, kWarning, 3);
-    if (!p.ending) noEntryPicked(p);
 }
 
 void bindMainLog(Program& p) {
     auto& f = p.forms.MainForm;
     for (int i = 0; i < kLogRows; ++i) {
         f.log_press(i).on(Event::Click, [&p, i] { selectRow(p, i); });
-        const auto open = [&p, i] {
-            selectRow(p, i);
-            if ((p.g.LogPage - 1) * kLogRows + i <= p.g.LastLogIndex()) editLogEntry(p);
-        };
+        const auto open = [&p, i] { return openRow(p, i); };
         f.log_press(i).on(Event::DoubleClick, open);
         f.log_press(i).on(Event::Enter, open);
     }

@@ -28,10 +28,9 @@ constexpr const char* kHelpTexts[] = {
 
 } // namespace
 
-void stopBoardTimers(Program& p) {
-    auto& f = p.forms.MainForm;
+void runBoardTimers(forms::MainForm& f, bool on) {
     for (Timer* timer : {&f.update_TIMER, &f.FlashTimer, &f.play1Timer, &f.play2Timer, &f.play3Timer}) {
-        timer->enable(false);
+        timer->enable(on);
     }
 }
 
@@ -46,7 +45,7 @@ void showMainPage(Program& p) {
 }
 
 void ShowHelpText(Program& p, int page) {
-    p.g.HelpPage = page;
+    p.session.desk.HelpPage = page;
     p.forms.MainForm.infoLABEL.text = kHelpTexts[page == 1 ? 1 : 0];
 }
 

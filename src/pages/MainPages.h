@@ -9,10 +9,11 @@ void ShowHelpText(Program& p, int page);
 
 /// Puts one of the three pages into the content area and hides the others.
 void showPage(Program& p, Container& page);
+
 /// The boarding pass and its title; the help text stays.
 void showMainPage(Program& p);
 
 /// The timers that only run while the board is up, and the three that announce.
-void stopBoardTimers(Program& p);
+void runBoardTimers(forms::MainForm& f, bool on);
 
 } // namespace gatewise

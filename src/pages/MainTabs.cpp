@@ -1,16 +1,14 @@
 #include "pages/MainTabs.h"
 
-#include "board/Paging.h"
+#include "pages/AirlineList.h"
 #include "pages/BoardTimers.h"
-#include "pages/ConfigFile.h"
-#include "pages/InfoForm.h"
 #include "pages/MainBoard.h"
-#include "pages/MainClocks.h"
 #include "pages/MainLog.h"
 #include "pages/MainPages.h"
-#include "pages/MainPass.h"
+#include "pages/OptionsForm.h"
 #include "pages/Pictures.h"
-#include "pages/Screens.h"
+#include "pages/SaveSettings.h"
+#include "pages/WaitForm.h"
 #include "sound/Announcements.h"
 
 namespace gatewise {
@@ -19,6 +17,7 @@ namespace {
 
 constexpr const char* kBoardTitle = "Departures and Arrivals Status Board ";
 constexpr const char* kLogTitle = "Gatewise Terminal - Pilot's Log Book ";
+
 void showRows(forms::MainForm& f, bool visible) {
     for (int i = 0; i <= kHeadingRow; ++i) {
         for (auto* column : {&f.fltnum_LABEL, &f.city_LABEL, &f.time_LABEL, &f.status_LABEL}) {
@@ -28,13 +27,23 @@ void showRows(forms::MainForm& f, bool visible) {
     f.header_LABEL.visible = visible;
 }
 
+/// (60 - seconds of the current time) x 1000: the next full minute.
+int millisecondsToMinute(const Clock& clock) {
+    return (60 - clock.now().second) * 1000;
+}
+
 /// The minute tick falls on the next full minute; the blinking begins at once.
 void startBoardTicks(Program& p) {
     auto& f = p.forms.MainForm;
     f.update_TIMER.enable(false);
-    f.update_TIMER.setInterval(millisecondsToMinute(p));
+    f.update_TIMER.setInterval(millisecondsToMinute(p.machine.clock));
     f.update_TIMER.enable(true);
     f.FlashTimer.enable(true);
+}
+
+void fade(Program& p, const char* direction) {
+    p.session.hall.FadeDirection = direction;
+    p.forms.MainForm.fade_timer.enable(true);
 }
 
 void startAmbience(Program& p) {
@@ -42,11 +51,10 @@ void startAmbience(Program& p) {
     engine.StopDXSound(kAmbienceChannel);
     startSoundEngine(p);
     engine.ClearBuffer(kAmbienceChannel);
-    engine.LoadWavToChannel(kAmbienceChannel, p.appPath("\\Wavs\\Ambience.wav"));
-    engine.SetVolume(kAmbienceChannel, p.g.AmbienceLevel);
+    engine.LoadWavToChannel(kAmbienceChannel, p.session.appPath("\\Wavs\\Ambience.wav"));
+    engine.SetVolume(kAmbienceChannel, p.session.hall.AmbienceLevel);
     engine.PlayDXSound(kAmbienceChannel, true);
-    p.g.FadeDirection = "in";
-    p.forms.MainForm.fade_timer.enable(true);
+    fade(p, "in");
 }
 
 void startAnnouncements(forms::MainForm& f) {
@@ -57,12 +65,12 @@ void startAnnouncements(forms::MainForm& f) {
 }
 
 /// The board's page with the flights of the mode in force, its rows still hidden.
-void fillBoard(Program& p) {
+Waited fillBoard(Program& p) {
     showPage(p, p.forms.MainForm.status_pic);
     showRows(p.forms.MainForm, false);
     p.machine.desktop.paint();
-    p.g.BoardAirlineCode = find_airline_code(p, p.g.FavoriteAirlineName);
-    bringUpBoard(p);
+    if (filterByFavorite(p) == Waited::Ended) return Waited::Ended;
+    return bringUpBoard(p);
 }
 
 void revealBoard(Program& p) {
@@ -75,9 +83,43 @@ void revealBoard(Program& p) {
 
 /// Leaving the board: the hall fades out and the board stands still.
 void leaveBoard(Program& p) {
-    p.g.FadeDirection = "out";
-    p.forms.MainForm.fade_timer.enable(true);
-    stopBoardTimers(p);
+    fade(p, "out");
+    runBoardTimers(p.forms.MainForm, false);
+}
+
+Waited showBoardInNewOrder(Program& p) {
+    startBoardTicks(p);
+    showPage(p, p.forms.MainForm.status_pic);
+    if (filterByFavorite(p) == Waited::Ended) return Waited::Ended;
+    if (RefreshBoard(p) == Waited::Ended) return Waited::Ended;
+    ShowPage(p);
+    hideWait(p);
+    p.machine.desktop.setPointer(false);
+    return Waited::Answered;
+}
+
+Waited sortBy(Program& p, BoardSort sort) {
+    chooseSort(p, sort);
+    saveSettings(p);
+    p.machine.desktop.paint();
+    showWait(p, 3);
+    return showBoardInNewOrder(p);
+}
+
+void bindTabs(Program& p) {
+    auto& f = p.forms.MainForm;
+    const auto tab = [&p](Label& label, auto show) {
+        const auto act = [&p, &label, show] {
+            if (!label.enabled) return;
+            playClick(p);
+            show(p);
+        };
+        label.on(Event::Click, act);
+        label.on(Event::Enter, act);
+    };
+    tab(f.main_LABEL, ShowMain);
+    tab(f.statusboard_LABEL, [](Program& program) { (void)ShowBoard(program); });
+    tab(f.log_LABEL, ShowLog);
 }
 
 } // namespace
@@ -92,110 +134,49 @@ void ShowLog(Program& p) {
     leaveBoard(p);
     p.forms.MainForm.title_LABEL.text = kLogTitle;
     showPage(p, p.forms.MainForm.log_pic);
-    p.g.LogPage = 1;
-    resetLogButtons(p);
-    ShowLogPage(p);
+    showFirstLogPage(p);
 }
 
-void ShowBoard(Program& p) {
+Waited ShowBoard(Program& p) {
     startAmbience(p);
     startBoardTicks(p);
-    p.g.BoardPage = 0;
-    fillBoard(p);
+    p.session.board.BoardPage = 0;
+    if (fillBoard(p) == Waited::Ended) return Waited::Ended;
     updateTick(p);
     revealBoard(p);
+    return Waited::Answered;
 }
 
-void StartBoard(Program& p) {
+Waited StartBoard(Program& p) {
     auto& f = p.forms.MainForm;
     startAmbience(p);
     startBoardTicks(p);
-    fillBoard(p);
+    if (fillBoard(p) == Waited::Ended) return Waited::Ended;
     f.update_TIMER.setInterval(50);
     f.update_TIMER.enable(true);
     revealBoard(p);
+    return Waited::Answered;
 }
 
-namespace {
-
-void showBoardInNewOrder(Program& p) {
-    startBoardTicks(p);
-    showPage(p, p.forms.MainForm.status_pic);
-    p.g.BoardAirlineCode = find_airline_code(p, p.g.FavoriteAirlineName);
-    RefreshBoard(p);
-    ShowPage(p);
-    hideWait(p);
-    p.machine.desktop.setPointer(false);
-}
-
-void sortBy(Program& p, Option& option) {
-    option.set(true);
-    WriteConfig(p);
-    p.machine.desktop.paint();
-    showWait(p, p.forms.WaitForm.infoLABEL.text, 3);
-    showBoardInNewOrder(p);
-}
-
-/// The flight of a row of the page in view; -1 for a blank row.
-int rowFlight(Program& p, const Label& label) {
-    const int row = p.g.BoardPage * kRowsOnPage + label.index;
-    const auto& rows = p.g.board.BoardRows;
-    if (trimmed(label.text).empty() || row < 0 || row >= static_cast<int>(rows.size())) return -1;
-    const int flight = rows[static_cast<std::size_t>(row)].FlightIndex;
-    return flight <= p.g.BoardFlightCount() ? flight : -1;
-}
-
-void takeRow(Program& p, const Label& label) {
-    const int flight = rowFlight(p, label);
-    if (flight < 0) return;
-    auto& f = p.forms.MainForm;
-    SelectFlight(p, std::to_string(flight), 1);
-    if (p.ending) return;
-    f.FlashTimer.enable(false);
-    f.update_TIMER.enable(false);
-    showMainPage(p);
-}
-
-} // namespace
-
-void takeBoardOptions(Program& p) {
+Waited takeBoardOptions(Program& p) {
     p.machine.desktop.setPointer(true);
-    WriteConfig(p);
+    saveSettings(p);
     hideScreen(p, p.forms.OptionsForm);
     p.machine.desktop.paint();
-    showWait(p, p.forms.WaitForm.infoLABEL.text, 3);
-    showBoardInNewOrder(p);
+    showWait(p, 3);
+    return showBoardInNewOrder(p);
 }
 
 void bindMainTabs(Program& p) {
+    bindTabs(p);
     auto& f = p.forms.MainForm;
-    const auto tab = [&p](Label& label, void (*show)(Program&)) {
-        const auto act = [&p, &label, show] {
-            if (!label.enabled) return;
-            playClick(p);
-            show(p);
-        };
-        label.on(Event::Click, act);
-        label.on(Event::Enter, act);
+    const auto head = [&p](Label& label, BoardSort sort) {
+        label.on(Event::DoubleClick, [&p, sort] { return sortBy(p, sort); });
     };
-    tab(f.main_LABEL, ShowMain);
-    tab(f.statusboard_LABEL, ShowBoard);
-    tab(f.log_LABEL, ShowLog);
-
-    f.city_LABEL(kHeadingRow).on(Event::DoubleClick, [&p] { sortBy(p, p.forms.OptionsForm.cityOption); });
-    f.fltnum_LABEL(kHeadingRow).on(Event::DoubleClick, [&p] { sortBy(p, p.forms.OptionsForm.fltnumOption); });
-    for (auto* head : {&f.time_LABEL(kHeadingRow), &f.status_LABEL(kHeadingRow)}) {
-        head->on(Event::DoubleClick, [&p] { sortBy(p, p.forms.OptionsForm.timeOption); });
-    }
-    for (int i = 0; i < kRowsOnPage; ++i) {
-        for (Label* label : {&f.fltnum_LABEL(i), &f.city_LABEL(i)}) {
-            label->on(Event::DoubleClick, [&p, label] { takeRow(p, *label); });
-            label->on(Event::RightPress, [&p, label] {
-                const int flight = rowFlight(p, *label);
-                if (flight >= 0) showFlightInfo(p, 1, std::to_string(flight));
-            });
-        }
-    }
+    head(f.city_LABEL(kHeadingRow), BoardSort::City);
+    head(f.fltnum_LABEL(kHeadingRow), BoardSort::FlightNumber);
+    head(f.time_LABEL(kHeadingRow), BoardSort::Time);
+    head(f.status_LABEL(kHeadingRow), BoardSort::Time);
 }
 
 } // namespace gatewise

@@ -1,32 +1,21 @@
 #pragma once
 
-#include "pages/Program.h"
+#include "pages/Screens.h"
+#include "work/Notices.h"
 
 #include <string>
-#include <string_view>
-#include <system_error>
+#include <vector>
 
 namespace gatewise {
 
-inline constexpr int kInformation = 1;
-inline constexpr int kWarning = 2;
+/// Says a message on the message screen and returns when it has been answered. Another heading than the two
+/// keeps the one that stands; a number that is no message keeps text and mode. When the message screen is up
+/// already, only its texts change.
+Waited ShowMessage(Program& p, const Notice& notice);
+Waited ShowMessage(Program& p, Heading heading, Message message);
 
-/// The error number of a table that is full.
-inline constexpr int kSubscriptOutOfRange = 9;
-
-/// Says message `id` (1 to 19) on the message screen and returns when it has been answered. Another heading
-/// than 1 or 2 keeps the one that stands; another id keeps text and mode. `errorNumber` is used by message
-/// 14, with ErrorText. When the message screen is up already, only its texts change.
-void ShowMessage(Program& p, int heading, int id, int errorNumber = 0);
-
-/// Message 14 for a failure with its own description.
-void ShowFailure(Program& p, int errorNumber, std::string_view description, std::string_view function);
-
-/// The same for an error of the system, with the system's words.
-void ShowFailure(Program& p, const std::error_code& error, std::string_view function);
-
-/// A plain message box with one button.
-void ShowMsgBox(Program& p, std::string text);
+/// The messages one after the other; none behind one that the program ended in.
+Waited ShowMessages(Program& p, const std::vector<Notice>& notices);
 
 void bindMsgForm(Program& p);
 

@@ -1,13 +1,20 @@
 #pragma once
 
+#include "board/Board.h"
 #include "pages/Program.h"
 
 #include <string_view>
 
 namespace gatewise {
 
-/// "vol_up", "vol_dn": the ambience's target in steps of 90, -9000 to 0.
-void stepAmbience(Program& p, std::string_view type);
+/// "vol_up", "vol_dn": the ambience's target, heard and shown at once.
+void changeVolume(Program& p, std::string_view type);
+
+/// Shows the board's settings in the controls of this screen.
+void showOptions(Program& p);
+
+/// The board is sorted so from now on.
+void chooseSort(Program& p, BoardSort sort);
 
 void bindOptionsForm(Program& p);
 

@@ -58,7 +58,7 @@ void RefreshBoardButtons(Program& p, std::string_view t) {
     plain(f.switchButton(0));
     plain(f.switchButton(2));
     SkinnedButton& turn = f.switchButton(1);
-    turn.picture = p.g.BoardMode == "departing" ? "switch_arr" : "switch_dept";
+    turn.picture = p.session.board.BoardMode == "departing" ? "switch_arr" : "switch_dept";
     turn.picture += turn.button_type == t ? "_mouse" : "_regular";
 }
 
@@ -86,18 +86,15 @@ void RefreshClockButtons(Program& p, std::string_view t) {
 
 void restorePictures(Screen& screen) {
     for (Control* control : screen.controls) {
-        if (control->kind != Kind::FormButton && control->kind != Kind::switchButton &&
-            control->kind != Kind::midButton) {
-            continue;
-        }
-        auto& button = static_cast<SkinnedButton&>(*control);
-        const std::string picture = restingPicture(button);
-        if (!picture.empty()) button.picture = picture;
+        SkinnedButton* button = skinnedButton(control);
+        if (button == nullptr) continue;
+        const std::string picture = restingPicture(*button);
+        if (!picture.empty()) button->picture = picture;
     }
 }
 
 void playClick(Program& p) {
-    PlaySoundA(p.machine.sound, p.appPath("\\Wavs\\click.wav"));
+    PlaySoundA(p.machine.sound, p.session.appPath("\\Wavs\\click.wav"));
 }
 
 } // namespace gatewise

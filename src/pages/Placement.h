@@ -4,11 +4,8 @@
 
 namespace gatewise {
 
-/// Takes the locale's signs; the monetary decimal sign is the one that files are freed from.
-void ReadLocale(Program& p);
-
 /// True when the desktop has 96 dots per inch; leaves its value in ScreenDpi.
-bool IsNormalFontSize(Program& p);
+bool IsNormalFontSize(const Desktop& desktop, LocaleSigns& signs);
 
 /// First act of every screen's load: scales it where the desktop's fonts are not of the normal size.
 void ApplySmallFontFix(Program& p, Screen& screen);

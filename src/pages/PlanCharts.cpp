@@ -8,8 +8,8 @@
 namespace gatewise {
 
 void drawCharts(Program& p) {
-    p.forms.PlanCharts.profileChart.drawing = profileDrawing(p.g.plan);
-    p.forms.PlanCharts.mapChart.drawing = mapDrawing(p.g.plan);
+    p.forms.PlanCharts.profileChart.drawing = profileDrawing(p.session.plan.plan);
+    p.forms.PlanCharts.mapChart.drawing = mapDrawing(p.session.plan.plan);
 }
 
 void showCharts(Program& p) {

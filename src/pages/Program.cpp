@@ -5,7 +5,7 @@
 namespace gatewise {
 
 Program::Program(Machine& m, std::string appDir) : machine(m) {
-    g.AppDir = std::move(appDir);
+    session.AppDir = std::move(appDir);
 }
 
 Program::~Program() {

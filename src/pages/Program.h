@@ -2,7 +2,7 @@
 
 #include "forms/Forms.h"
 #include "platform/Machine.h"
-#include "session/Globals.h"
+#include "session/Session.h"
 
 #include <memory>
 #include <string>
@@ -11,7 +11,8 @@ namespace gatewise {
 
 class DS_Engine;
 
-/// The one aggregate that the screens work on: the machine below, the global state, the screens as data.
+/// What the pages hold together: the machine below, the pilot's session, the screens as data. Work never sees
+/// it: a page hands it the slices that it needs.
 struct Program {
     Program(Machine& machine, std::string appDir);
     ~Program();
@@ -19,19 +20,12 @@ struct Program {
     Program& operator=(const Program&) = delete;
 
     Machine& machine;
-    Globals g;
+    Session session;
     Forms forms;
     std::unique_ptr<DS_Engine> SoundEngine;
 
-    /// Set by Shutdown. The run loop ends, modal waits return at once and the work behind them stops.
+    /// Set by Shutdown. The run loop ends, and every wait says so to the work behind it, see Screens.h.
     bool ending = false;
-
-    /// AppDir + tail
-    [[nodiscard]] std::string appPath(std::string_view tail) const { return g.AppDir + std::string(tail); }
-    /// AppDir + DataSetPath + tail
-    [[nodiscard]] std::string setPath(std::string_view tail) const {
-        return g.AppDir + g.DataSetPath + std::string(tail);
-    }
 };
 
 } // namespace gatewise

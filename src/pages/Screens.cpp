@@ -16,11 +16,16 @@ void bringToFront(Forms& forms, Screen& screen) {
 /// its repeat ends here.
 void releaseButtons(const Screen& screen) {
     for (Control* control : screen.controls) {
-        if (control->kind == Kind::FormButton) static_cast<SkinnedButton*>(control)->Timer1->enable(false);
+        SkinnedButton* button = skinnedButton(control);
+        if (button != nullptr && button->Timer1) button->Timer1->enable(false);
     }
 }
 
 } // namespace
+
+Waited waited(const Program& p) {
+    return p.ending ? Waited::Ended : Waited::Answered;
+}
 
 void loadScreen(Screen& screen) {
     if (screen.loaded) return;
@@ -35,8 +40,8 @@ void showScreen(Program& p, Screen& screen) {
     if (screen.activate) screen.activate();
 }
 
-void showModal(Program& p, Screen& screen) {
-    if (p.ending) return;
+Waited showModal(Program& p, Screen& screen) {
+    if (p.ending) return Waited::Ended;
     loadScreen(screen);
     for (const Screen* other : p.forms.all()) releaseButtons(*other);
     screen.modal = true;
@@ -44,6 +49,7 @@ void showModal(Program& p, Screen& screen) {
     if (screen.activate) screen.activate();
     p.machine.loop.runModal(screen.name, [&] { return !screen.visible || p.ending; });
     screen.modal = false;
+    return waited(p);
 }
 
 void hideScreen(Program& p, Screen& screen) {
@@ -51,6 +57,11 @@ void hideScreen(Program& p, Screen& screen) {
     screen.visible = false;
     screen.modal = false;
     std::erase(p.forms.front, &screen);
+}
+
+Waited pause(Program& p, std::int64_t milliseconds) {
+    p.machine.loop.wait(milliseconds);
+    return waited(p);
 }
 
 } // namespace gatewise

@@ -1,15 +1,16 @@
 #include "pages/SelectForm.h"
 
-#include "pages/ConfigFile.h"
+#include "pages/AirlineList.h"
 #include "pages/FlightForm.h"
 #include "pages/MainBoard.h"
-#include "pages/MainPass.h"
+#include "pages/MainDispatch.h"
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
-#include "pages/Screens.h"
+#include "pages/SaveSettings.h"
+#include "pages/WaitForm.h"
 #include "schedule/FlightTexts.h"
 #include "selection/Nearest.h"
-#include "selection/Picks.h"
+#include "work/Departures.h"
 
 #include <utility>
 
@@ -20,65 +21,61 @@ namespace {
 struct PickMode {
     const char* mode;
     const char* title;
-    void (*fill)(Program&);
-    void (*accept)(Program&);
+    Waited (*fill)(Program&);
+    Waited (*accept)(Program&);
 };
-
-void selectFirst(ListBox& list) {
-    if (list.count() > 0) list.select(0);
-}
-
-/// Takes lines over, already in the list's own order.
-void takeLines(ListBox& list, const std::vector<PickItem>& items) {
-    list.clear();
-    for (const PickItem& item : items) list.add(item.text, item.data);
-}
 
 void fill(ListBox& list, const std::vector<PickItem>& items) {
     takeLines(list, items);
-    selectFirst(list);
+    list.select(0);
 }
 
 /// The list holds its search already; an empty one says so in the title.
-void fillSearched(Program& p) {
+Waited fillSearched(Program& p) {
     auto& f = p.forms.SelectForm;
     if (f.List1.count() == 0) f.Label1.text = "No Airport Found";
-    selectFirst(f.List1);
+    f.List1.select(0);
+    return waited(p);
 }
 
-void fillDestinations(Program& p) {
-    auto& box = p.forms.MainForm.arrSearch;
-    const std::string text = std::exchange(box.text, {});
+Waited fillDestinations(Program& p) {
+    const Schedule& schedule = p.session.schedule;
+    const std::string text = std::exchange(p.forms.MainForm.arrSearch.text, {});
     fill(p.forms.SelectForm.List1,
-         destinationItems(p.g.tables, p.g.airportFinder, p.g.DepartureFlights, text));
+         destinationItems(schedule.tables, schedule.airportFinder, schedule.DepartureFlights, text));
+    return waited(p);
 }
 
-void fillAlternates(Program& p) {
+Waited fillAlternates(Program& p) {
+    Session& s = p.session;
     auto& list = p.forms.SelectForm.List1;
     auto& box = p.forms.MainForm.altSearch;
     const std::string text(trimmed(box.text));
     if (!text.empty()) {
         box.text.clear();
-        fill(list, alternateItems(p.g.tables, p.g.airportFinder, text));
-        return;
+        fill(list, alternateItems(s.schedule.tables, s.schedule.airportFinder, text));
+        return waited(p);
     }
     list.clear();
     list.add("Finding 25 Closet Airports, Standby...");
     p.machine.desktop.paint();
     // Nobody asked for one of these by name: none is picked for the pilot.
-    takeLines(list, closestAirportItems(p.g.tables, p.g.DestinationIndex, &p.g.geometry.lastCourse));
+    takeLines(list, closestAirportItems(s.schedule.tables, s.dispatch.DestinationIndex,
+                                        &s.plan.geometry.lastCourse));
+    return waited(p);
 }
 
-void fillBoardAirlines(Program& p) {
-    auto& list = p.forms.SelectForm.List1;
-    list.clear();
-    for (const PickItem& item : airlineItems(p.g.tables, p.g.BoardFlights)) list.add(item.text, item.data);
+Waited fillBoardAirlines(Program& p) {
+    const Schedule& schedule = p.session.schedule;
+    takeLines(p.forms.SelectForm.List1, airlineItems(schedule.tables, schedule.BoardFlights));
     pickFavorite(p);
-    p.g.BoardAirlineCode = find_airline_code(p, p.g.FavoriteAirlineName);
+    return filterByFavorite(p);
 }
 
-void fillAirlines(Program& p) {
-    fill(p.forms.SelectForm.List1, homeAirlineItems(p.g.tables, p.forms.SettingsForm.airlineSearchTEXT.text));
+Waited fillAirlines(Program& p) {
+    fill(p.forms.SelectForm.List1,
+         homeAirlineItems(p.session.schedule.tables, p.forms.SettingsForm.airlineSearchTEXT.text));
+    return waited(p);
 }
 
 /// What belonged to the old departure airport goes.
@@ -92,64 +89,68 @@ void emptyDispatch(Program& p) {
     f.export_LABEL.enabled = false;
 }
 
-void PickDestination(Program& p) {
-    p.g.HaveDestination = kTrue;
-    p.g.DestinationIndex = p.forms.SelectForm.List1.data();
-    const AirportRecord& airport = p.g.tables.airport(p.g.DestinationIndex);
+Waited acceptDeparture(Program& p) {
+    emptyDispatch(p);
+    ClearDispatch(p);
+    return PickDeparture(p, p.forms.SelectForm.List1.data());
+}
+
+Waited acceptHome(Program& p) {
+    Session& s = p.session;
+    auto& settings = p.forms.SettingsForm;
+    const int airport = p.forms.SelectForm.List1.data();
+    s.settings.HomeIndex = airport;
+    settings.homeLABEL.text = homeText(s.schedule.tables.airport(airport));
+    s.dispatch.SelectMode = "departure";
+    emptyDispatch(p);
+    settings.searchText.text.clear();
+    ClearDispatch(p);
+    if (PickDeparture(p, airport) == Waited::Ended) return Waited::Ended;
+    hideScreen(p, p.forms.SelectForm);
+    saveSettings(p);
+    return Waited::Answered;
+}
+
+Waited PickDestination(Program& p) {
+    Session& s = p.session;
+    pickDestination(p.forms.SelectForm.List1.data(), s.dispatch);
+    const AirportRecord& airport = s.schedule.tables.airport(s.dispatch.DestinationIndex);
     p.forms.MainForm.arr_LABEL.text = airportText(airport);
     hideScreen(p, p.forms.SelectForm);
-    SetFlightList(p, airport.Iata.view());
+    if (SetFlightList(p, airport.Iata.view()) == Waited::Ended) return Waited::Ended;
     p.machine.desktop.setPointer(false); // the picker's work is over
-    showModal(p, p.forms.FlightForm);
+    return showModal(p, p.forms.FlightForm);
 }
 
-void PickAlternate(Program& p) {
-    p.g.HaveAlternate = kTrue;
-    p.g.AlternateIndex = p.forms.SelectForm.List1.data();
-    p.forms.MainForm.alt_LABEL.text = airportText(p.g.tables.airport(p.g.AlternateIndex));
+Waited PickAlternate(Program& p) {
+    Session& s = p.session;
+    pickAlternate(p.forms.SelectForm.List1.data(), s.dispatch);
+    p.forms.MainForm.alt_LABEL.text = airportText(s.schedule.tables.airport(s.dispatch.AlternateIndex));
     hideScreen(p, p.forms.SelectForm);
+    return waited(p);
 }
 
-void PickAirlineFilter(Program& p) {
+Waited acceptAirline(Program& p) {
+    p.session.board.FavoriteAirlineName = p.forms.SelectForm.List1.text();
     hideScreen(p, p.forms.SelectForm);
-    RefreshBoard(p);
+    return RefreshBoard(p);
 }
 
-void acceptDeparture(Program& p) {
-    emptyDispatch(p);
-    ClearDispatch(p);
-    PickDeparture(p);
-}
-
-void acceptHome(Program& p) {
-    p.g.HomeIndex = p.forms.SelectForm.List1.data();
-    p.forms.SettingsForm.homeLABEL.text = homeText(p.g.tables.airport(p.g.HomeIndex));
-    p.g.SelectMode = "departure";
-    emptyDispatch(p);
-    p.forms.SettingsForm.searchText.text.clear();
-    ClearDispatch(p);
-    PickDeparture(p);
-    hideScreen(p, p.forms.SelectForm);
-    WriteConfig(p);
-}
-
-void acceptAirline(Program& p) {
-    p.g.FavoriteAirlineName = p.forms.SelectForm.List1.text();
-    PickAirlineFilter(p);
-}
-
-void acceptHomeAirline(Program& p) {
+Waited acceptHomeAirline(Program& p) {
+    Session& s = p.session;
     const int index = p.forms.SelectForm.List1.data();
-    if (index < 0 || index > p.g.tables.AirlineLast()) return;
-    auto& s = p.forms.SettingsForm;
-    s.airlineLABEL.text = std::string(p.g.tables.airlines[static_cast<std::size_t>(index)].Name.trimmed());
-    p.g.FavoriteAirlineName = s.airlineLABEL.text;
-    p.g.BoardAirlineCode = find_airline_code(p, p.g.FavoriteAirlineName);
-    RefreshBoard(p);
-    s.airlineSearchTEXT.text.clear();
+    if (index < 0 || index > s.schedule.tables.AirlineLast()) return waited(p);
+    auto& f = p.forms.SettingsForm;
+    const AirlineRecord& airline = s.schedule.tables.airlines[static_cast<std::size_t>(index)];
+    s.settings.FavoriteAirline = std::string(airline.Name.trimmed());
+    f.airlineLABEL.text = s.board.FavoriteAirlineName = s.settings.FavoriteAirline;
+    if (filterByFavorite(p) == Waited::Ended) return Waited::Ended;
+    if (RefreshBoard(p) == Waited::Ended) return Waited::Ended;
+    f.airlineSearchTEXT.text.clear();
     ShowPage(p);
-    WriteConfig(p);
+    saveSettings(p);
     hideScreen(p, p.forms.SelectForm);
+    return Waited::Answered;
 }
 
 constexpr PickMode kPickModes[] = {
@@ -163,72 +164,72 @@ constexpr PickMode kPickModes[] = {
 
 const PickMode* modeOf(const Program& p) {
     for (const auto& row : kPickModes) {
-        if (p.g.SelectMode == row.mode) return &row;
+        if (p.session.dispatch.SelectMode == row.mode) return &row;
     }
     return nullptr;
 }
 
-void activatePicker(Program& p) {
+Waited activatePicker(Program& p) {
     auto& f = p.forms.SelectForm;
     CenterOnMain(p, f);
     f.selectButton.State = 0;
     f.selectButton.picture = "select_disabled";
     const PickMode* mode = modeOf(p);
-    if (mode == nullptr) return;
+    if (mode == nullptr) return waited(p);
     f.Label1.text = mode->title;
-    mode->fill(p);
+    return mode->fill(p);
 }
 
-/// Searches the box of the mode for the airports that "departure" and "home" offer, then opens the picker.
-void SearchAirports(Program& p) {
-    auto& list = p.forms.SelectForm.List1;
-    const bool home = p.g.SelectMode == "home";
-    const std::string text =
-        home ? p.forms.SettingsForm.searchText.text : p.forms.MainForm.departureText.text;
-    list.clear();
-    for (const PickItem& item : airportItems(p.g.tables, p.g.airportFinder, text))
-        list.add(item.text, item.data);
-    if (!home) {
-        SetWaitDots(p, 5);
-        hideWait(p);
-    }
-    showModal(p, p.forms.SelectForm);
+/// Searches for the airports that "departure" and "home" offer.
+void searchAirports(Program& p, const char* mode, const std::string& text) {
+    const Schedule& schedule = p.session.schedule;
+    p.session.dispatch.SelectMode = mode;
+    takeLines(p.forms.SelectForm.List1, airportItems(schedule.tables, schedule.airportFinder, text));
 }
 
 } // namespace
 
-void searchDeparture(Program& p) {
+Waited searchDeparture(Program& p) {
     showWait(p, "Finding Airport", 3);
-    p.g.SelectMode = "departure";
-    SearchAirports(p);
-}
-
-void searchHome(Program& p) {
-    showWait(p, "Finding Airport", -1);
-    p.g.SelectMode = "home";
-    SearchAirports(p);
+    searchAirports(p, "departure", p.forms.MainForm.departureText.text);
+    SetWaitDots(p, 5);
     hideWait(p);
+    return showModal(p, p.forms.SelectForm);
 }
 
-void acceptPick(Program& p) {
-    if (p.forms.SelectForm.List1.picked < 0) return;
+Waited searchHome(Program& p) {
+    showWait(p, "Finding Airport", -1);
+    searchAirports(p, "home", p.forms.SettingsForm.searchText.text);
+    if (showModal(p, p.forms.SelectForm) == Waited::Ended) return Waited::Ended;
+    hideWait(p);
+    return Waited::Answered;
+}
+
+Waited pick(Program& p, const char* mode) {
+    p.session.dispatch.SelectMode = mode;
+    return showModal(p, p.forms.SelectForm);
+}
+
+Waited acceptPick(Program& p) {
+    if (p.forms.SelectForm.List1.picked < 0) return waited(p);
     const PickMode* mode = modeOf(p);
-    if (mode == nullptr) return;
+    if (mode == nullptr) return waited(p);
     p.machine.desktop.setPointer(true);
-    mode->accept(p);
+    const Waited answer = mode->accept(p);
     p.machine.desktop.setPointer(false);
+    return answer;
 }
 
 void bindSelectForm(Program& p) {
     auto& f = p.forms.SelectForm;
     f.load = [&p] { placeScreen(p, p.forms.SelectForm); };
-    f.activate = [&p] { activatePicker(p); };
+    f.activate = [&p] { return activatePicker(p); };
     f.List1.on(Event::Click, [&f] {
         f.selectButton.State = 1;
         f.selectButton.picture = "select_regular";
     });
-    f.List1.on(Event::DoubleClick, [&p] { acceptPick(p); });
-    f.List1.on(Event::Enter, [&p] { acceptPick(p); });
+    f.List1.on(Event::DoubleClick, [&p] { return acceptPick(p); });
+    f.List1.on(Event::Enter, [&p] { return acceptPick(p); });
     for (Control* ground : {static_cast<Control*>(&f.BG), static_cast<Control*>(&f.List1)}) {
         ground->on(Event::Move, [&f] { restorePictures(f); });
     }

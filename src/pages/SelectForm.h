@@ -1,17 +1,20 @@
 #pragma once
 
-#include "pages/Program.h"
+#include "pages/Screens.h"
 
 namespace gatewise {
 
 /// The departure search of the enter key and button: standby screen, search, picker.
-void searchDeparture(Program& p);
+Waited searchDeparture(Program& p);
 
 /// The same for the home airport, from the settings.
-void searchHome(Program& p);
+Waited searchHome(Program& p);
+
+/// The picker in one of its modes, modal.
+Waited pick(Program& p, const char* mode);
 
 /// The picker's answer: its button or a double click in its list.
-void acceptPick(Program& p);
+Waited acceptPick(Program& p);
 
 void bindSelectForm(Program& p);
 

@@ -1,16 +1,13 @@
 #include "pages/ViewPlan.h"
 
+#include "pages/MsgBox.h"
 #include "pages/MsgForm.h"
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
 #include "pages/PlanCharts.h"
-#include "pages/Screens.h"
-#include "plan/Build.h"
-#include "plan/Editing.h"
-#include "plan/GetFlightPlan.h"
 #include "plan/PlanCharts.h"
-#include "plan/PlanList.h"
 #include "plan/PrintPlan.h"
+#include "work/PlanWork.h"
 
 #include <algorithm>
 
@@ -19,8 +16,8 @@ namespace gatewise {
 namespace {
 
 PlanInput planInput(const Program& p) {
-    return {p.g.tables, p.g.CurrentFlight, p.g.HaveAlternate != kFalse, p.g.AlternateIndex,
-            planFiles(p.g.AppDir, p.g.DataSetPath)};
+    const Session& s = p.session;
+    return planInput(s.AppDir, s.settings, s.schedule, s.dispatch);
 }
 
 void showAltitude(forms::ViewPlan& f, int altitude) {
@@ -30,13 +27,14 @@ void showAltitude(forms::ViewPlan& f, int altitude) {
 
 void fillPlanList(Program& p) {
     auto& f = p.forms.ViewPlan;
+    const Session& s = p.session;
     f.PlanList.clear();
     for (const PlanListRow& row :
-         planListRows(p.g.plan, p.g.tables, p.g.AlternateIndex, MagneticTable(p.g.FsPath), p.g.numbers)) {
+         planRows(s.plan.plan, s.schedule, s.dispatch, s.settings, s.locale.numbers)) {
         const bool bold = std::any_of(row.bold.begin(), row.bold.end(), [](bool b) { return b; });
         f.PlanList.rows.push_back({{}, {row.cells.begin(), row.cells.end()}, bold});
     }
-    showAltitude(f, p.g.plan.peakAltitude);
+    showAltitude(f, s.plan.plan.peakAltitude);
     drawCharts(p);
 }
 
@@ -49,18 +47,12 @@ void loadViewPlan(Program& p) {
 
 } // namespace
 
-void retrievePlan(Program& p) {
-    loadFlightPlan(p.g.plan, p.g.CurrentFlight.PlanNumber, planInput(p));
+void preparePlan(Program& p) {
+    preparePlan(p.session.plan.plan, planInput(p));
 }
 
 void refreshShownPlan(Program& p) {
     if (p.forms.ViewPlan.visible) fillPlanList(p);
-}
-
-void preparePlan(Program& p) {
-    const PlanInput input = planInput(p);
-    takeAirports(p.g.plan, input);
-    loadAirportFacilities(p.g.plan, input);
 }
 
 void showPlan(Program& p) {
@@ -69,39 +61,37 @@ void showPlan(Program& p) {
 }
 
 void recalculateShownPlan(Program& p) {
-    const int altitude = p.forms.ViewPlan.AltUpDown.value;
-    p.g.plan.ceilingAltitude = altitude;
-    recalculatePlan(p.g.plan, planInput(p), altitude);
+    recalculateCeiling(p.session.plan.plan, planInput(p), p.forms.ViewPlan.AltUpDown.value);
     fillPlanList(p);
 }
 
-void removeShownPoint(Program& p) {
+Waited removeShownPoint(Program& p) {
     const auto& f = p.forms.ViewPlan;
-    if (f.PlanList.picked < 0) return;
-    switch (removePlanPoint(p.g.plan, planInput(p), f.PlanList.picked + 1, f.AltUpDown.value)) {
+    if (f.PlanList.picked < 0) return waited(p);
+    switch (removePlanPoint(p.session.plan.plan, planInput(p), f.PlanList.picked + 1, f.AltUpDown.value)) {
     case Removal::Nothing:
         break;
     case Removal::AirportRefused:
-        ShowMsgBox(p, std::string(kAirportRefusal));
-        break;
+        return ShowMsgBox(p, std::string(kAirportRefusal));
     case Removal::ComputedRefused:
-        ShowMsgBox(p, std::string(kComputedRefusal));
-        break;
+        return ShowMsgBox(p, std::string(kComputedRefusal));
     case Removal::Done:
         fillPlanList(p);
         break;
     }
+    return waited(p);
 }
 
-void printFlightPlan(Program& p) {
+Waited printFlightPlan(Program& p) {
+    const Session& s = p.session;
     const DateTime now = p.machine.clock.now();
     const std::string text =
-        printFlightPlan(p.g.plan, p.g.CurrentFlight, now, p.machine.locale.shortDate(now),
-                        MagneticTable(p.g.FsPath), p.g.numbers);
+        printFlightPlan(s.plan.plan, s.dispatch.CurrentFlight, now, p.machine.locale.shortDate(now),
+                        MagneticTable(s.settings.FsPath), s.locale.numbers);
     std::vector<Drawing> drawings;
-    if (p.forms.PlanCharts.visible) drawings = {profileDrawing(p.g.plan), mapDrawing(p.g.plan)};
+    if (p.forms.PlanCharts.visible) drawings = {profileDrawing(s.plan.plan), mapDrawing(s.plan.plan)};
     const auto error = p.machine.printer.print(std::string(kPrintFont), kPrintFontSize, text, drawings);
-    if (error) ShowFailure(p, error, "printFlightPlan");
+    return error ? ShowMessage(p, failure(error, "printFlightPlan")) : waited(p);
 }
 
 void bindViewPlan(Program& p) {

@@ -1,27 +1,24 @@
 #pragma once
 
-#include "pages/Program.h"
+#include "pages/Screens.h"
 
 namespace gatewise {
 
-/// Retrieves the plan of CurrentFlight.
-void retrievePlan(Program& p);
-
-/// The list of an open plan screen anew, once flight and alternate are known.
-void refreshShownPlan(Program& p);
-
-/// The two steps before a plan leaves: the airport blocks taken again, then their runways and radios.
+/// The plan's airports anew, before it leaves for a file, a program or the simulator.
 void preparePlan(Program& p);
 
 /// "viewpln"
 void showPlan(Program& p);
 
+/// The list of an open plan screen anew, once flight and alternate are known.
+void refreshShownPlan(Program& p);
+
 /// "recalc_fltplan" and "remove_point" of the plan screen.
 void recalculateShownPlan(Program& p);
-void removeShownPoint(Program& p);
+Waited removeShownPoint(Program& p);
 
 /// Prints the dispatch release.
-void printFlightPlan(Program& p);
+Waited printFlightPlan(Program& p);
 
 void bindViewPlan(Program& p);
 

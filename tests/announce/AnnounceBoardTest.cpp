@@ -23,9 +23,9 @@ TEST_F(Hall, EmptyBoardAnnouncesNothingAndKeepsTheInterval) {
     departure(0, 8);    // until 01:00
     open(1200, "Dept2=0\r\n");
     setTime(1200);
-    t.p.g.BoardFlights.clear();
+    t.p.session.schedule.BoardFlights.clear();
     setTime(1200);
-    ASSERT_EQ(t.p.g.board.BoardRowCount, -1);
+    ASSERT_EQ(t.p.session.board.board.BoardRowCount, -1);
     for (int timer = 1; timer <= 3; ++timer) {
         playTimer(timer).setInterval(15000);
         sounds.lines.clear();
@@ -44,13 +44,14 @@ TEST_F(Hall, WindowsOfTheSixKindsHoldBothTheirEndsOnTheBoardsClock) {
     arrival(2301, 98);
     open(1130);
     for (const AnnouncementWindow& window : kAnnouncementWindows) {
-        if ((t.p.g.BoardMode == "departing") != window.departing) user::click(board.switchButton(1));
-        ASSERT_EQ(t.p.g.BoardMode == "departing", window.departing);
+        if ((t.p.session.board.BoardMode == "departing") != window.departing)
+            user::click(board.switchButton(1));
+        ASSERT_EQ(t.p.session.board.BoardMode == "departing", window.departing);
         for (int minutes = -2; minutes <= 22; ++minutes) {
             const int now = 12 * 60 - minutes;
             setTime(now / 60 * 100 + now % 60);
-            t.p.g.AnnouncedDepartures = {};
-            t.p.g.AnnouncedArrivals = {};
+            t.p.session.hall.AnnouncedDepartures = {};
+            t.p.session.hall.AnnouncedArrivals = {};
             const bool due = minutes >= window.from && minutes <= window.to;
             EXPECT_EQ(play(window.timer), due ? std::to_string(window.kind) + " XX 0010" : "")
                 << "kind " << window.kind << ", " << minutes << " minutes before";
@@ -73,14 +74,14 @@ TEST_F(Hall, OptionsStandInTheirCrossedOrder) {
                           {o.d3_CHECK, 3, 1158, true},  {o.a2_CHECK, 1, 1155, false},
                           {o.a1_CHECK, 3, 1148, false}, {o.a3_CHECK, 2, 1158, false}};
     for (const Case& c : cases) {
-        if ((t.p.g.BoardMode == "departing") != c.departing) user::click(board.switchButton(1));
+        if ((t.p.session.board.BoardMode == "departing") != c.departing) user::click(board.switchButton(1));
         for (Check* check : {&o.d1_CHECK, &o.d2_CHECK, &o.d3_CHECK, &o.a1_CHECK, &o.a2_CHECK, &o.a3_CHECK})
-            check->value = check == &c.option ? 0 : 1;
+            user::check(*check, check == &c.option ? 0 : 1);
         setTime(c.now);
-        t.p.g.AnnouncedDepartures = {};
-        t.p.g.AnnouncedArrivals = {};
+        t.p.session.hall.AnnouncedDepartures = {};
+        t.p.session.hall.AnnouncedArrivals = {};
         EXPECT_EQ(play(c.timer), "") << c.option.name;
-        c.option.value = 1;
+        user::check(c.option, 1);
         EXPECT_NE(play(c.timer), "") << c.option.name;
     }
 }
@@ -89,13 +90,13 @@ TEST_F(Hall, WithoutItsOptionATimerOnlyDrawsItsNextInterval) {
     departure(1215, 10);
     departure(1216, 11);
     open(1200, "Dept1=0\r\n");
-    t.p.forms.OptionsForm.d1_CHECK.value = 0;
-    t.p.g.AnnouncedDepartures[0] = {"a", "b"};
+    user::check(t.p.forms.OptionsForm.d1_CHECK, 0);
+    t.p.session.hall.AnnouncedDepartures[0] = {"a", "b"};
     sounds.lines.clear();
     t.machine.random.setDraws({0, 0, 0, 0, 0.5});
     tick(board.play1Timer);
     EXPECT_EQ(sounds.lines, kEngine);
-    EXPECT_EQ(t.p.g.AnnouncedDepartures[0], (AnnouncementRing{"a", "b"})) << "no scan, no shift";
+    EXPECT_EQ(t.p.session.hall.AnnouncedDepartures[0], (AnnouncementRing{"a", "b"})) << "no scan, no shift";
     EXPECT_EQ(board.play1Timer.interval(), 30000);
     EXPECT_FALSE(board.waitPlayTimer.enabled);
 }
@@ -105,7 +106,7 @@ TEST_F(Hall, DrawsAreEchoVoiceFrequencyStartAndInterval) {
     departure(1216, 11);
     departure(1217, 12);
     open(1200);
-    ASSERT_EQ(t.p.g.board.BoardRowCount, 2);
+    ASSERT_EQ(t.p.session.board.board.BoardRowCount, 2);
     // No echo, voice 11, the third frequency, row 1 of 3, the longest interval.
     t.machine.random.setDraws({0.49, 0.5, 0.99, 0.34, 0.99});
     tick(board.play1Timer);
@@ -114,9 +115,9 @@ TEST_F(Hall, DrawsAreEchoVoiceFrequencyStartAndInterval) {
                                "SetVolume 7 0", "PlayDXSound 7 false", "ClearBuffer 1",
                                "LoadWavToChannel 1 \\Wavs\\tmp1.wav", "SetPan 1 0", "SetVolume 1 0",
                                "SetFrequency 1 8300", "PlayDXSound 1 false"}));
-    EXPECT_EQ(t.p.g.AnnouncedDepartures[0][0], "XX 0011");
+    EXPECT_EQ(t.p.session.hall.AnnouncedDepartures[0][0], "XX 0011");
     EXPECT_EQ(board.play1Timer.interval(), 45000);
-    EXPECT_EQ(t.p.g.PlayedFlags, (std::array<Flag, 6>{-1, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(t.p.session.hall.PlayedFlags, (std::array<Flag, 6>{-1, 0, 0, 0, 0, 0}));
 }
 
 TEST_F(Hall, AnAnnouncementHoldsTheOthersBackForFiveSeconds) {
@@ -135,7 +136,7 @@ TEST_F(Hall, AnAnnouncementHoldsTheOthersBackForFiveSeconds) {
     EXPECT_EQ(sounds.lines, Lines{});
     EXPECT_EQ(board.play2Timer.interval(), 5000);
     EXPECT_TRUE(board.play2Timer.enabled);
-    EXPECT_EQ(t.p.g.AnnouncedDepartures[1], AnnouncementRing{}) << "no scan while it is held back";
+    EXPECT_EQ(t.p.session.hall.AnnouncedDepartures[1], AnnouncementRing{}) << "no scan while it is held back";
     t.machine.loop.advance(4999);
     EXPECT_TRUE(board.waitPlayTimer.enabled);
     plainDraws();
@@ -151,7 +152,7 @@ TEST_F(Hall, AFlightAnnouncedStaysInTheRingForTenScans) {
     // Row by row, each scan passing over what the ring holds; the tenth behind the first lets it go.
     for (int number = 10; number < 20; ++number) {
         EXPECT_EQ(play(1), "1 XX 00" + std::to_string(number));
-        t.p.g.PlayedFlags = {};
+        t.p.session.hall.PlayedFlags = {};
     }
     EXPECT_EQ(play(1), "1 XX 0010");
 }
@@ -161,7 +162,7 @@ TEST_F(Hall, TheNewestOfTheRingStaysWhileNothingElseIsAnnounced) {
     open(1200);
     EXPECT_EQ(play(1), "1 XX 0010");
     for (int scan = 1; scan <= 15; ++scan) {
-        t.p.g.PlayedFlags = {};
+        t.p.session.hall.PlayedFlags = {};
         EXPECT_EQ(play(1), "") << scan;
     }
 }
@@ -172,9 +173,9 @@ TEST_F(Hall, ASecondFlightOfTheSameMinuteWaitsForTheMinuteTick) {
     open(1200);
     EXPECT_EQ(play(1), "1 XX 0010");
     EXPECT_EQ(play(1), "");
-    EXPECT_EQ(t.p.g.AnnouncedDepartures[0][1], "XX 0010") << "the ring moves all the same";
+    EXPECT_EQ(t.p.session.hall.AnnouncedDepartures[0][1], "XX 0010") << "the ring moves all the same";
     tick(board.update_TIMER);
-    EXPECT_EQ(t.p.g.PlayedFlags, (std::array<Flag, 6>{}));
+    EXPECT_EQ(t.p.session.hall.PlayedFlags, (std::array<Flag, 6>{}));
     EXPECT_EQ(play(1), "1 XX 0011");
 }
 
@@ -186,7 +187,7 @@ TEST_F(Hall, FlagsOfTheOtherKindsAreNoObstacle) {
     EXPECT_EQ(play(1), "1 XX 0010");
     EXPECT_EQ(play(2), "2 XX 0011");
     EXPECT_EQ(play(3), "3 XX 0012");
-    EXPECT_EQ(t.p.g.PlayedFlags, (std::array<Flag, 6>{-1, -1, -1, 0, 0, 0}));
+    EXPECT_EQ(t.p.session.hall.PlayedFlags, (std::array<Flag, 6>{-1, -1, -1, 0, 0, 0}));
 }
 
 TEST_F(Hall, RowOnPageThreeWhilePageOneShowsIsPannedRightAndSofter) {
@@ -195,8 +196,8 @@ TEST_F(Hall, RowOnPageThreeWhilePageOneShowsIsPannedRightAndSofter) {
     open(1200);
     user::check(t.p.forms.OptionsForm.fltnumOption, 1);
     tick(board.update_TIMER);
-    ASSERT_EQ(t.p.g.board.BoardRowCount, 40);
-    ASSERT_EQ(trimmed(t.p.g.board.BoardRows[40].FlightText), "XX 0077");
+    ASSERT_EQ(t.p.session.board.board.BoardRowCount, 40);
+    ASSERT_EQ(trimmed(t.p.session.board.board.BoardRows[40].FlightText), "XX 0077");
     EXPECT_EQ(play(1), "1 XX 0077");
     for (const char* line : {"SetPan 7 9000", "SetVolume 7 -500", "SetPan 1 9000", "SetVolume 1 -500"})
         EXPECT_TRUE(heard(line)) << line;
@@ -208,7 +209,7 @@ TEST_F(Hall, RowOnAnEarlierPageIsPannedLeftAndSofter) {
     open(1200);
     user::press(board.boardButton(1));
     user::release(board.boardButton(1));
-    ASSERT_EQ(t.p.g.BoardPage, 1);
+    ASSERT_EQ(t.p.session.board.BoardPage, 1);
     EXPECT_EQ(play(1), "1 XX 0000");
     for (const char* line : {"SetPan 7 -9000", "SetVolume 7 -500", "SetPan 1 -9000", "SetVolume 1 -500"})
         EXPECT_TRUE(heard(line)) << line;
@@ -283,7 +284,7 @@ TEST_F(Hall, TimersFireInTheWaitsOfAnEchoButNeverInsideTheirOwnTick) {
     EXPECT_GT(plays, 0) << "it falls due";
     EXPECT_EQ(std::ranges::count(sounds.lines, "PlayEcho 1 2 5"), 1) << "and does nothing";
     EXPECT_EQ(std::ranges::count(sounds.lines, "Initialize_Engine"), 1);
-    EXPECT_EQ(t.p.g.PlayedFlags[0], -1);
+    EXPECT_EQ(t.p.session.hall.PlayedFlags[0], -1);
     EXPECT_EQ(board.play1Timer.interval(), 15000);
 }
 
@@ -304,34 +305,34 @@ TEST_F(Hall, AnEchoThatThePilotLeavesInItsWaitsEndsInPeace) {
 TEST_F(Hall, FadeStepsInAndOutWithTheDirectionOfTheNextOne) {
     departure(1215, 10);
     open(1200);
-    auto& g = t.p.g;
-    ASSERT_EQ(g.AmbienceVolume, -1800);
+    const auto& hall = t.p.session.hall;
+    ASSERT_EQ(t.p.session.settings.AmbienceVolume, -1800);
     for (int step = 1; step <= 39; ++step) {
         sounds.lines.clear();
         tick(board.fade_timer);
-        EXPECT_EQ(g.AmbienceLevel, -9000 + 180 * step);
-        EXPECT_EQ(sounds.lines, Lines{"ChangeVolume 8 " + std::to_string(g.AmbienceLevel)});
-        EXPECT_EQ(g.FadeDirection, "in");
+        EXPECT_EQ(hall.AmbienceLevel, -9000 + 180 * step);
+        EXPECT_EQ(sounds.lines, Lines{"ChangeVolume 8 " + std::to_string(hall.AmbienceLevel)});
+        EXPECT_EQ(hall.FadeDirection, "in");
         EXPECT_TRUE(board.fade_timer.enabled);
     }
     tick(board.fade_timer); // reaches the target
-    EXPECT_EQ(g.AmbienceLevel, -1800);
-    EXPECT_EQ(g.FadeDirection, "out");
+    EXPECT_EQ(hall.AmbienceLevel, -1800);
+    EXPECT_EQ(hall.FadeDirection, "out");
     EXPECT_FALSE(board.fade_timer.enabled);
 
     user::click(board.main_LABEL);
-    EXPECT_EQ(g.FadeDirection, "out");
+    EXPECT_EQ(hall.FadeDirection, "out");
     EXPECT_TRUE(board.fade_timer.enabled);
     for (int step = 1; step <= 39; ++step) {
         tick(board.fade_timer);
-        EXPECT_EQ(g.AmbienceLevel, -1800 - 180 * step);
-        EXPECT_EQ(g.FadeDirection, "out");
+        EXPECT_EQ(hall.AmbienceLevel, -1800 - 180 * step);
+        EXPECT_EQ(hall.FadeDirection, "out");
     }
     sounds.lines.clear();
     tick(board.fade_timer);
-    EXPECT_EQ(g.AmbienceLevel, -9000);
+    EXPECT_EQ(hall.AmbienceLevel, -9000);
     EXPECT_EQ(sounds.lines, (Lines{"StopDXSound 8", "ChangeVolume 8 -9000"}));
-    EXPECT_EQ(g.FadeDirection, "in");
+    EXPECT_EQ(hall.FadeDirection, "in");
     EXPECT_FALSE(board.fade_timer.enabled);
 }
 
@@ -339,23 +340,23 @@ TEST_F(Hall, FadeTurnsWhereItStands) {
     departure(1215, 10);
     open(1200);
     t.machine.loop.advance(1000);
-    EXPECT_EQ(t.p.g.AmbienceLevel, -7200);
+    EXPECT_EQ(t.p.session.hall.AmbienceLevel, -7200);
     user::click(board.log_LABEL);
     t.machine.loop.advance(500);
-    EXPECT_EQ(t.p.g.AmbienceLevel, -8100);
+    EXPECT_EQ(t.p.session.hall.AmbienceLevel, -8100);
     sounds.lines.clear();
     user::click(board.statusboard_LABEL);
     EXPECT_TRUE(heard("SetVolume 8 -8100"));
-    EXPECT_EQ(t.p.g.FadeDirection, "in");
+    EXPECT_EQ(t.p.session.hall.FadeDirection, "in");
 }
 
 TEST_F(Hall, FadeToTheLowestVolumeStopsWithItsFirstStep) {
     departure(1215, 10);
     open(1200);
-    t.p.g.AmbienceVolume = -9000;
+    t.p.session.settings.AmbienceVolume = -9000;
     tick(board.fade_timer);
-    EXPECT_EQ(t.p.g.AmbienceLevel, -9000);
-    EXPECT_EQ(t.p.g.FadeDirection, "out");
+    EXPECT_EQ(t.p.session.hall.AmbienceLevel, -9000);
+    EXPECT_EQ(t.p.session.hall.FadeDirection, "out");
     EXPECT_FALSE(board.fade_timer.enabled);
 }
 
@@ -382,11 +383,12 @@ TEST_F(Hall, LeavingTheBoardSilencesItsTimersOnEveryWay) {
 TEST_F(Hall, CityOfADepartureComesFromTheDispatchListWhateverTheBoardShows) {
     departure(1215, 10);
     open(1200);
-    t.p.g.DepartureFlights[0].DestinationIata = "CCC"; // has no recording: "0.wav" in both places
+    t.p.session.schedule.DepartureFlights[0].DestinationIata =
+        "CCC"; // has no recording: "0.wav" in both places
     EXPECT_EQ(play(1), "1 XX 0010");
-    t.p.g.DepartureFlights.clear();
-    t.p.g.PlayedFlags = {};
-    t.p.g.AnnouncedDepartures = {};
+    t.p.session.schedule.DepartureFlights.clear();
+    t.p.session.hall.PlayedFlags = {};
+    t.p.session.hall.AnnouncedDepartures = {};
     EXPECT_EQ(play(1), "1 XX 0010") << "without a flight there it still speaks";
 }
 
@@ -399,8 +401,8 @@ TEST_F(Hall, MissingRecordingLeavesItsEmptyFileTheChimeAndNoFlag) {
     EXPECT_EQ(sounds.lines, (kEngine + Lines{"ClearBuffer 7", "LoadWavToChannel 7 \\Wavs\\Announcements.wav",
                                              "SetPan 7 0", "SetVolume 7 0", "PlayDXSound 7 false"}));
     EXPECT_EQ(std::filesystem::file_size(folder.path("/Wavs/Female/77.wav")), 0U);
-    EXPECT_EQ(t.p.g.PlayedFlags[0], 0);
-    EXPECT_EQ(t.p.g.AnnouncedDepartures[0][0], "XX 7734") << "it counts as announced all the same";
+    EXPECT_EQ(t.p.session.hall.PlayedFlags[0], 0);
+    EXPECT_EQ(t.p.session.hall.AnnouncedDepartures[0][0], "XX 7734") << "it counts as announced all the same";
     EXPECT_TRUE(board.waitPlayTimer.enabled);
     EXPECT_EQ(board.play1Timer.interval(), 15000);
     EXPECT_TRUE(t.shown.empty()) << "the pilot hears of no sound problem";

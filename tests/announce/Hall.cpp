@@ -122,8 +122,8 @@ std::string Hall::play(int timer, double start) {
     for (std::size_t i = before; i < sounds.lines.size(); ++i) {
         const std::string& line = sounds.lines[i];
         if (!line.starts_with("PlayDXSound ") || line.starts_with("PlayDXSound 7")) continue;
-        const auto& now =
-            t.p.g.BoardMode == "departing" ? t.p.g.AnnouncedDepartures : t.p.g.AnnouncedArrivals;
+        const auto& now = t.p.session.board.BoardMode == "departing" ? t.p.session.hall.AnnouncedDepartures
+                                                                     : t.p.session.hall.AnnouncedArrivals;
         flight = line.substr(12, 1) + " " + now[static_cast<std::size_t>(timer - 1)][0];
     }
     return flight;

@@ -7,11 +7,20 @@ namespace {
 
 class Clock : public ::testing::Test {
 protected:
-    BoardClock clock(int bias) {
-        return {bias, HourOffset, MinuteOffset, ClockHours, ClockMinutes, ZoneHours, ZoneMinutes, ZoneShade};
+    /// The clock of the test with another bias.
+    BoardClock& clock(int bias) {
+        held.Bias = bias;
+        return held;
     }
-    std::int16_t HourOffset = 0, MinuteOffset = 0, ClockHours = 0, ClockMinutes = 0;
-    std::array<std::int16_t, kZones> ZoneHours{}, ZoneMinutes{}, ZoneShade{};
+    BoardClock held;
+    std::int16_t &HourOffset = held.HourOffset, &MinuteOffset = held.MinuteOffset;
+    std::int16_t &ClockHours = held.ClockHours, &ClockMinutes = held.ClockMinutes;
+    std::array<std::int16_t, kZones>&ZoneHours = held.ZoneHours, &ZoneMinutes = held.ZoneMinutes,
+                             &ZoneShade = held.ZoneShade;
+};
+}
+std::int16_t HourOffset = 0, MinuteOffset = 0, ClockHours = 0, ClockMinutes = 0;
+std::array<std::int16_t, kZones> ZoneHours{}, ZoneMinutes{}, ZoneShade{};
 };
 
 TEST_F(Clock, WithBiasSixtyAtTwentyThreeLondonShowsMidnight) {

@@ -1,6 +1,9 @@
 #include "dispatch/Terminal.h"
 #include "pages/FlightForm.h"
+#include "pages/MainDispatch.h"
 #include "pages/MainPass.h"
+
+#include <limits>
 
 namespace gatewise::test {
 
@@ -23,6 +26,10 @@ protected:
     void pick(int row) {
         user::choose(t.p.forms.FlightForm.FlightList, row);
         user::doubleClick(t.p.forms.FlightForm.FlightList);
+    }
+
+    void select(int index) {
+        EXPECT_EQ(SelectFlight(t.p, index, FlightSource::DepartureFlights), Waited::Answered);
     }
 
     TempFolder folder;
@@ -55,11 +62,11 @@ TEST_F(FlightList, MoreThanAThousandFlightsEndInTheErrorMessage) {
     toList([] {});
     EXPECT_EQ(t.shown, (std::vector<std::string>{"SelectForm", "FlightForm"}));
     EXPECT_EQ(list.FlightList.rows.size(), 1000U);
-    EXPECT_EQ(t.p.g.FlightPickCount, 999);
+    EXPECT_EQ(t.p.session.dispatch.FlightPickCount, 999);
 
-    t.p.g.DepartureFlights.push_back(t.p.g.DepartureFlights.front());
+    t.p.session.schedule.DepartureFlights.push_back(t.p.session.schedule.DepartureFlights.front());
     t.shown.clear();
-    SetFlightList(t.p, "BBB");
+    EXPECT_EQ(SetFlightList(t.p, "BBB"), Waited::Answered);
     EXPECT_EQ(t.shown, std::vector<std::string>{"MsgForm"});
     EXPECT_NE(t.lastMessage.find("Error Number 9\n"), std::string::npos) << t.lastMessage;
     EXPECT_NE(t.lastMessage.find("In Function SetFlightList "), std::string::npos) << t.lastMessage;
@@ -71,8 +78,8 @@ TEST_F(FlightList, AnEmptyOneOpensAndItsButtonsDoNothing) {
     user::choose(pass.dayCombo, 7);
     toList([&] {
         EXPECT_TRUE(list.FlightList.rows.empty());
-        EXPECT_EQ(t.p.g.FlightPickCount, -1);
-        EXPECT_EQ(t.p.g.FlightPicks.front(), 999999);
+        EXPECT_EQ(t.p.session.dispatch.FlightPickCount, -1);
+        EXPECT_EQ(t.p.session.dispatch.FlightPicks.front(), 999999);
         user::click(list.flightButton);
         user::click(list.infoButton);
         user::doubleClick(list.FlightList);
@@ -89,7 +96,7 @@ TEST_F(FlightList, AnUnknownClassKeepsTheClassThatStoodOnThePass) {
     toList([&] { pick(0); });
     EXPECT_EQ(pass.classLABEL.text, "ECONOMY");
     EXPECT_EQ(pass.fltLABEL_1.text, "XX10");
-    SelectFlight(t.p, "1", 0);
+    select(1);
     EXPECT_EQ(pass.fltLABEL_1.text, "XX12");
     EXPECT_EQ(pass.classLABEL.text, "ECONOMY");
     EXPECT_EQ(pass.timeLABEL.text, "900A"); // exactly 1300 keeps the text as well
@@ -98,12 +105,12 @@ TEST_F(FlightList, AnUnknownClassKeepsTheClassThatStoodOnThePass) {
 
 TEST_F(FlightList, AFlightThatIsNotThereLeavesTheOneThatWas) {
     begin();
-    SelectFlight(t.p, "0", 0);
+    select(0);
     const std::string flight = pass.fltLABEL_1.text;
     EXPECT_NE(flight, "");
-    for (const char* index : {"2", "-1", "", "x", "99999999999"}) {
+    for (const int index : {2, -1, std::numeric_limits<int>::max()}) {
         ClearDispatch(t.p);
-        SelectFlight(t.p, index, 0);
+        select(index);
         EXPECT_EQ(pass.fltLABEL_1.text, flight) << index;
         EXPECT_EQ(pass.viewButton.State, 1) << index;
     }
@@ -143,23 +150,23 @@ TEST_F(FlightList, AnAlternateNeedsToLieBeyondTheMinimum) {
     auto& settings = t.p.forms.SettingsForm;
     settings.altCHECK.set(1);
     // Every airport is nearer than the minimum but the blank one at 0, 0; that one is moved next to them.
-    AirportRecord& blank = t.p.g.tables.airports.back();
+    AirportRecord& blank = t.p.session.schedule.tables.airports.back();
     blank.Latitude = 41;
     blank.Longitude = -81;
     settings.altdistCOMBO.select(settings.altdistCOMBO.find("500"));
-    SelectFlight(t.p, "0", 0);
-    EXPECT_EQ(t.p.g.HaveAlternate, kFalse);
-    EXPECT_EQ(t.p.g.AlternateIndex, 0);
+    select(0);
+    EXPECT_EQ(t.p.session.dispatch.HaveAlternate, kFalse);
+    EXPECT_EQ(t.p.session.dispatch.AlternateIndex, 0);
     EXPECT_EQ(pass.alt_LABEL.text, " Ashby - Alpha Field (AAA)");
 
     settings.altdistCOMBO.select(settings.altdistCOMBO.find("50"));
-    SelectFlight(t.p, "0", 0);
-    EXPECT_EQ(t.p.g.HaveAlternate, kTrue);
-    EXPECT_EQ(t.p.g.AlternateIndex, 0);
+    select(0);
+    EXPECT_EQ(t.p.session.dispatch.HaveAlternate, kTrue);
+    EXPECT_EQ(t.p.session.dispatch.AlternateIndex, 0);
 
     settings.altCHECK.set(0);
     pass.alt_LABEL.text = " as it was";
-    SelectFlight(t.p, "0", 0);
+    select(0);
     EXPECT_EQ(pass.alt_LABEL.text, " as it was");
 }
 

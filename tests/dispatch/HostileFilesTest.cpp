@@ -35,9 +35,9 @@ TEST_F(HostileFiles, AnAirportWithoutFlightsKeepsTheFlightsOfTheOther) {
     depart("KCCC");
     EXPECT_EQ(t.lastMessage, kNoService);
     EXPECT_FALSE(t.p.forms.SelectForm.visible);
-    EXPECT_EQ(t.p.g.DepartureFlights.size(), 2U);
-    EXPECT_EQ(t.p.g.DepartureIndex, 2);
-    EXPECT_EQ(t.p.g.BoardAirportIndex, 0);
+    EXPECT_EQ(t.p.session.schedule.DepartureFlights.size(), 2U);
+    EXPECT_EQ(t.p.session.dispatch.DepartureIndex, 2);
+    EXPECT_EQ(t.p.session.board.BoardAirportIndex, 0);
     EXPECT_EQ(main.dept_LABEL.text, "");
 }
 
@@ -49,7 +49,7 @@ TEST_F(HostileFiles, FlightsBeyondTheEndOfTheFileAreNoService) {
     EXPECT_EQ(t.lastMessage, kNoService);
     for (const int offset : {0, -1, 65, 2147483647}) {
         t.lastMessage.clear();
-        t.p.g.tables.airports[2].DepartureOffset = offset;
+        t.p.session.schedule.tables.airports[2].DepartureOffset = offset;
         depart("KCCC");
         EXPECT_EQ(t.lastMessage, kNoService) << offset;
     }
@@ -66,7 +66,7 @@ TEST_F(HostileFiles, AirportsOutsideTheTableLeaveTheirLabels) {
     begin();
     const std::string departure = main.dept_LABEL.text;
     EXPECT_NE(departure, "");
-    SelectFlight(t.p, "0", 0);
+    ASSERT_EQ(SelectFlight(t.p, 0, FlightSource::DepartureFlights), Waited::Answered);
     EXPECT_EQ(main.dept_LABEL.text, departure);
     EXPECT_EQ(main.arr_LABEL.text, "");
     EXPECT_EQ(main.fltLABEL_1.text, "XX-32768");

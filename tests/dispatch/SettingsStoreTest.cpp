@@ -62,14 +62,14 @@ TEST(SettingsStore, EveryKeyIsWrittenAndReadAgain) {
         before = valuesOf(t.p.forms);
         user::click(t.p.forms.SettingsForm.continueButton);
         EXPECT_FALSE(t.p.forms.SettingsForm.visible);
-        EXPECT_EQ(t.p.g.AmbienceVolume, -630);
+        EXPECT_EQ(t.p.session.settings.AmbienceVolume, -630);
     }
     const std::string written = folder.read("/GT.cfg");
     Terminal t(folder);
     t.start();
     EXPECT_EQ(valuesOf(t.p.forms), before);
-    EXPECT_EQ(t.p.g.AmbienceVolume, -630);
-    EXPECT_EQ(t.p.g.FavoriteAirlineName, "- Any Airline -");
+    EXPECT_EQ(t.p.session.settings.AmbienceVolume, -630);
+    EXPECT_EQ(t.p.session.board.FavoriteAirlineName, "- Any Airline -");
     EXPECT_EQ(t.p.forms.SettingsForm.lastTEXT.text, "O'Neil \"x\" = ; [Main]");
     EXPECT_TRUE(t.p.forms.MainForm.status_pic.visible);
     user::click(t.p.forms.MainForm.FlatButton(4));
@@ -102,7 +102,7 @@ TEST(SettingsStore, ADefaultAirlineAndAHomeAirportAreWrittenWhenTheyArePicked) {
     user::enter(s.searchText);
     EXPECT_EQ(s.homeLABEL.text, "KBBB - Birchwood - Bravo Intl (BBB)");
     EXPECT_EQ(ReadText("Main", "Index", folder.path("/GT.cfg")), "1");
-    EXPECT_EQ(t.p.g.DepartureIndex, 1);
+    EXPECT_EQ(t.p.session.dispatch.DepartureIndex, 1);
 }
 
 TEST(Screens, TextBoxesOfSearchesAndNamesSelectAllWhenTheyGetTheFocus) {

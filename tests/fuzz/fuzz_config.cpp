@@ -1,9 +1,10 @@
 #include "OutsideFile.h"
-#include "pages/ConfigFile.h"
+#include "pages/LoadSettings.h"
 #include "platform/Profile.h"
 #include "platform/simulated/SimulatedMachine.h"
 #include "sound/DS_Engine.h"
 #include "sound/SilentDevice.h"
+#include "work/ConfigFile.h"
 
 #include <memory>
 
@@ -13,7 +14,9 @@ using namespace gatewise;
 
 /// The program as far as its configuration goes, on a machine of its own.
 struct Configured {
-    explicit Configured(const std::string& AppDir) : program(machine.machine, AppDir) { ReadConfig(program); }
+    explicit Configured(const std::string& AppDir) : program(machine.machine, AppDir) {
+        loadSettings(program);
+    }
     SilentDevice sound;
     simulated::SimulatedMachine machine{sound};
     Program program;
@@ -60,14 +63,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         out.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
     }
     const auto first = std::make_unique<Configured>(folder.path);
-    fuzz::expect(first->program.g.DataSetPath == "\\Data");
-    fuzz::expect(!WriteConfig(first->program));
+    fuzz::expect(first->program.session.settings.DataSetPath == "\\Data");
+    fuzz::expect(!WriteConfig(folder.path, first->program.session.settings));
     const Profile written = loadProfile(file);
 
     const auto second = std::make_unique<Configured>(folder.path);
-    fuzz::expect(second->program.g.HomeIndex == first->program.g.HomeIndex);
-    fuzz::expect(second->program.g.AmbienceVolume == first->program.g.AmbienceVolume);
-    fuzz::expect(!WriteConfig(second->program));
+    fuzz::expect(second->program.session.settings.HomeIndex == first->program.session.settings.HomeIndex);
+    fuzz::expect(second->program.session.settings.AmbienceVolume ==
+                 first->program.session.settings.AmbienceVolume);
+    fuzz::expect(!WriteConfig(folder.path, second->program.session.settings));
     const Profile again = loadProfile(file);
     for (const auto& [section, key] : kNumbers) {
         // A read that ended early leaves the lists without a pick; a value that is there picks one.

@@ -2,8 +2,9 @@
 #include "logbook/LogExchange.h"
 #include "logbook/LogListing.h"
 #include "pages/ClockForm.h"
-#include "pages/ConfigFile.h"
+#include "pages/LoadSettings.h"
 #include "pages/MainLog.h"
+#include "work/LogWork.h"
 
 #include <algorithm>
 
@@ -47,17 +48,17 @@ protected:
         std::filesystem::create_directories(folder.path("/fs/Modules"));
         folder.write("/fs/fs2002.exe", "");
         writeSettings(folder, "[Main]\r\nPathVerified=1\r\nFSPath=" + folder.path("/fs") + "\r\n");
-        t.p.g.FsPath = folder.path("/fs");
+        t.p.session.settings.FsPath = folder.path("/fs");
         t.start();
-        t.p.g.FsPath = folder.path("/fs");
-        LoadLogBook(t.p);
+        t.p.session.settings.FsPath = folder.path("/fs");
+        LoadLogBook(logFiles(t.p.session.AppDir, t.p.session.settings.FsPath), t.p.session.log);
         user::click(page.log_LABEL);
         t.shown.clear();
     }
     void logCurrentFlight() {
-        t.p.g.CurrentFlight = flight("XX", 10, 900, 1000);
-        t.p.g.DepartureIndex = 0;
-        t.p.g.DestinationIndex = 1;
+        t.p.session.dispatch.CurrentFlight = flight("XX", 10, 900, 1000);
+        t.p.session.dispatch.DepartureIndex = 0;
+        t.p.session.dispatch.DestinationIndex = 1;
         page.sendlogButton.State = 1;
         user::click(page.sendlogButton);
     }
@@ -96,7 +97,7 @@ TEST_F(LogScreens, ASaveThatFailsIsSaidAndLeavesTheEntryOpen) {
         << "one message, and not that it was saved";
     EXPECT_TRUE(failureShown("SaveLogEntry")) << t.lastMessage;
     EXPECT_TRUE(stillOpen);
-    EXPECT_EQ(t.p.g.LogEntries[1].comments.trimmed(), "worth keeping");
+    EXPECT_EQ(t.p.session.log.LogEntries[1].comments.trimmed(), "worth keeping");
 }
 
 TEST_F(LogScreens, ADeleteThatFailsIsSaidInAMessageOfItsOwn) {
@@ -111,7 +112,7 @@ TEST_F(LogScreens, ADeleteThatFailsIsSaidInAMessageOfItsOwn) {
     EXPECT_EQ(t.shown, (std::vector<std::string>{"MsgForm", "MsgForm"}));
     EXPECT_TRUE(failureShown("DeleteLogEntry")) << t.lastMessage;
     EXPECT_FALSE(message.visible);
-    EXPECT_EQ(t.p.g.LogEntries.size(), 2U);
+    EXPECT_EQ(t.p.session.log.LogEntries.size(), 2U);
 }
 
 TEST_F(LogScreens, AnAddThatFailsIsSaidAndAddsNothing) {
@@ -121,7 +122,7 @@ TEST_F(LogScreens, AnAddThatFailsIsSaidAndAddsNothing) {
     logCurrentFlight();
     EXPECT_EQ(t.shown, std::vector<std::string>{"MsgForm"});
     EXPECT_TRUE(failureShown("AddLogEntry")) << t.lastMessage;
-    EXPECT_EQ(t.p.g.LogEntries.size(), 1U);
+    EXPECT_EQ(t.p.session.log.LogEntries.size(), 1U);
 }
 
 TEST_F(LogScreens, TheEntryBehindTenThousandIsRefusedWithAMessage) {
@@ -131,7 +132,7 @@ TEST_F(LogScreens, TheEntryBehindTenThousandIsRefusedWithAMessage) {
     EXPECT_EQ(t.shown, std::vector<std::string>{"MsgForm"});
     EXPECT_TRUE(failureShown("AddLogEntry")) << t.lastMessage;
     EXPECT_EQ(folder.read(kBook), before);
-    EXPECT_EQ(t.p.g.LastLogIndex(), kLogEntries - 1);
+    EXPECT_EQ(t.p.session.log.LastLogIndex(), kLogEntries - 1);
     EXPECT_EQ(page.pageMAX.text, "1429");
 }
 
@@ -153,7 +154,7 @@ TEST_F(LogScreens, TheQuestionIsAskedOnceAndOneEntryGoes) {
     ASSERT_EQ(book().size(), 2U);
     EXPECT_EQ(book()[0].flightNumber, 0);
     EXPECT_EQ(book()[1].flightNumber, 2);
-    EXPECT_EQ(t.p.g.LastLogIndex(), 1);
+    EXPECT_EQ(t.p.session.log.LastLogIndex(), 1);
     EXPECT_EQ(page.pic_notes(1).text.substr(0, 5), "no 2 ");
     EXPECT_EQ(page.pic_notes(2).text, "");
     EXPECT_EQ(page.logButton(1).State, 0);
@@ -167,7 +168,7 @@ TEST_F(LogScreens, DeletingTheOnlyEntryEmptiesTheFileAndKeepsTheExchangeFile) {
     user::click(page.logButton(1));
     EXPECT_TRUE(std::filesystem::exists(folder.path(kBook)));
     EXPECT_EQ(std::filesystem::file_size(folder.path(kBook)), 0U);
-    EXPECT_EQ(t.p.g.LastLogIndex(), -1);
+    EXPECT_EQ(t.p.session.log.LastLogIndex(), -1);
     EXPECT_EQ(folder.read(kExchange), std::string(exchange.begin(), exchange.end()));
     EXPECT_EQ(page.pageMAX.text, "1");
 }
@@ -178,15 +179,15 @@ TEST_F(LogScreens, TheStaleTailBringsItsTimesToTheEntryThatTakesItsPlace) {
     sent[1].actualArrival = 1020;
     const Bytes exchange = exchangeBytes(sent, {});
     open(entries(2), &exchange);
-    EXPECT_EQ(t.p.g.LogEntries[1].actualDeparture, 915);
+    EXPECT_EQ(t.p.session.log.LogEntries[1].actualDeparture, 915);
     pick(1);
     t.answers = {[&] { user::click(message.okButton); }};
     user::click(page.logButton(1));
     EXPECT_EQ(std::filesystem::file_size(folder.path(kExchange)), 2U * 132U) << "never cut";
     logCurrentFlight();
-    ASSERT_EQ(t.p.g.LogEntries.size(), 2U);
-    EXPECT_EQ(t.p.g.LogEntries[1].actualDeparture, 915);
-    EXPECT_EQ(t.p.g.LogEntries[1].actualArrival, 1020);
+    ASSERT_EQ(t.p.session.log.LogEntries.size(), 2U);
+    EXPECT_EQ(t.p.session.log.LogEntries[1].actualDeparture, 915);
+    EXPECT_EQ(t.p.session.log.LogEntries[1].actualArrival, 1020);
     EXPECT_EQ(book()[1].actualDeparture, 900) << "the log book's own file has the flight's times";
 }
 
@@ -220,20 +221,20 @@ TEST_F(LogScreens, TheCloseOfTheFrameLeavesTheChangesInMemoryAndTheOtherTakesThe
     pick(0);
     const auto later = [&](SkinnedButton& close) {
         return [&] {
-            t.p.g.LogField = "day";
+            t.p.session.log.LogField = "day";
             stepLogField(t.p, "timeHr_up");
             user::click(close);
         };
     };
     t.answers = {later(form.close1Button)};
     user::click(page.logButton(0));
-    EXPECT_EQ(t.p.g.LogEntries[0].dayHours, 0.0F);
+    EXPECT_EQ(t.p.session.log.LogEntries[0].dayHours, 0.0F);
     EXPECT_EQ(page.logButton(0).State, 0);
 
     pick(0);
     t.answers = {later(form.closeButton)};
     user::click(page.logButton(0));
-    EXPECT_EQ(t.p.g.LogEntries[0].dayHours, 1.0F) << "that button only hides the screen";
+    EXPECT_EQ(t.p.session.log.LogEntries[0].dayHours, 1.0F) << "that button only hides the screen";
     EXPECT_EQ(page.logButton(0).State, 1);
     EXPECT_EQ(book()[0].dayHours, 0.0F);
 }
@@ -244,25 +245,25 @@ TEST_F(LogScreens, NotesAreTrimmedPaddedAndCutAtOnce) {
     t.answers = {[&] {
         EXPECT_EQ(form.notes.text, " no 0" + std::string(146, ' '));
         user::type(form.notes, "  smooth ride  ");
-        EXPECT_EQ(t.p.g.LogEntries[0].comments.str(), "smooth ride" + std::string(139, ' '));
+        EXPECT_EQ(t.p.session.log.LogEntries[0].comments.str(), "smooth ride" + std::string(139, ' '));
         user::type(form.notes, std::string(170, 'x'));
-        EXPECT_EQ(t.p.g.LogEntries[0].comments.str(), std::string(150, 'x'));
+        EXPECT_EQ(t.p.session.log.LogEntries[0].comments.str(), std::string(150, 'x'));
         user::type(form.notes, " " + std::string(149, 'y') + "z");
-        EXPECT_EQ(t.p.g.LogEntries[0].comments.str(), std::string(149, 'y') + "z")
+        EXPECT_EQ(t.p.session.log.LogEntries[0].comments.str(), std::string(149, 'y') + "z")
             << "what the box shows is kept";
         user::type(form.notes, "");
-        EXPECT_EQ(t.p.g.LogEntries[0].comments.str(), std::string(150, ' '));
+        EXPECT_EQ(t.p.session.log.LogEntries[0].comments.str(), std::string(150, ' '));
         user::click(form.close1Button);
     }};
     user::click(page.logButton(0));
-    EXPECT_EQ(t.p.g.LogEntries[0].comments.trimmed(), "no 0");
+    EXPECT_EQ(t.p.session.log.LogEntries[0].comments.trimmed(), "no 0");
 }
 
 TEST_F(LogScreens, AnEditWritesTheFileWithTheSaveAlone) {
     open(entries(2));
     pick(1);
     t.answers = {[&] {
-                     t.p.g.LogField = "dept";
+                     t.p.session.log.LogField = "dept";
                      stepLogField(t.p, "timeMin_dn");
                      EXPECT_EQ(form.ACTdepttime_LABEL.text, "08:59");
                      EXPECT_EQ(form.DIFFdepttime_LABEL.text, "00:01");
@@ -282,12 +283,12 @@ TEST_F(LogScreens, TheTotalNeverIncludesTheInstrumentHours) {
     pick(0);
     t.answers = {[&] {
         for (const char* field : {"day", "night", "inst", "inst"}) {
-            t.p.g.LogField = field;
+            t.p.session.log.LogField = field;
             stepLogField(t.p, "timeHr_up");
         }
         EXPECT_EQ(form.inst_LABEL.text, "2.0");
         EXPECT_EQ(form.total_LABEL.text, "2.0");
-        t.p.g.LogField = "night";
+        t.p.session.log.LogField = "night";
         stepLogField(t.p, "timeMin_up");
         EXPECT_EQ(form.total_LABEL.text, "2.1");
     }};
@@ -304,7 +305,7 @@ TEST_F(LogScreens, PageButtonsAtTheBordersOfThePages) {
                           {8, "2", 1}, {14, "2", 1}, {15, "3", 1}};
     open({});
     for (const Case& c : cases) {
-        t.p.g.LogEntries = entries(c.entries);
+        t.p.session.log.LogEntries = entries(c.entries);
         user::click(page.log_LABEL);
         EXPECT_EQ(page.pageMAX.text, c.pages) << c.entries;
         EXPECT_EQ(page.curPage.text, "1");
@@ -348,10 +349,10 @@ TEST_F(LogScreens, ARowIsMarkedAloneAndOneWithoutAnEntryIsNone) {
     open(entries(9));
     user::click(page.logButton(3));
     pick(1);
-    EXPECT_EQ(t.p.g.LogSelected, 8);
+    EXPECT_EQ(t.p.session.log.LogSelected, 8);
     for (int i = 0; i < 7; ++i) EXPECT_EQ(page.dept_back(i).highlighted, i == 1) << i;
     pick(2);
-    EXPECT_EQ(t.p.g.LogSelected, 8) << "there is no tenth entry";
+    EXPECT_EQ(t.p.session.log.LogSelected, 8) << "there is no tenth entry";
     user::doubleClick(page.log_press(2));
     EXPECT_TRUE(t.shown.empty());
     user::click(page.logButton(2));
@@ -364,8 +365,8 @@ TEST_F(LogScreens, ABookWithABrokenLastRecordIsShownWithoutItAndKeptBeforeAChang
     Bytes broken = bytesOf(entries(2));
     broken.resize(broken.size() + 100, 'x');
     folder.write(kBook, ByteView(broken));
-    LoadLogBook(t.p);
-    EXPECT_EQ(t.p.g.LastLogIndex(), 1);
+    LoadLogBook(logFiles(t.p.session.AppDir, t.p.session.settings.FsPath), t.p.session.log);
+    EXPECT_EQ(t.p.session.log.LastLogIndex(), 1);
     logCurrentFlight();
     EXPECT_EQ(folder.read("/Data/LogBook.bak"), std::string(broken.begin(), broken.end()));
     EXPECT_EQ(book().size(), 3U);
@@ -375,7 +376,7 @@ TEST_F(LogScreens, ABookWithABrokenLastRecordIsShownWithoutItAndKeptBeforeAChang
 TEST_F(LogScreens, TheBookGoesIntoTheFileThatThePilotNames) {
     open(entries(2));
     user::click(page.logcsvButton);
-    EXPECT_EQ(folder.read("/LogBook.csv"), logCsv(t.p.g.LogEntries));
+    EXPECT_EQ(folder.read("/LogBook.csv"), logCsv(t.p.session.log.LogEntries));
 }
 
 TEST_F(LogScreens, AnExportThatFailsIsSaid) {
@@ -383,7 +384,7 @@ TEST_F(LogScreens, AnExportThatFailsIsSaid) {
     std::filesystem::create_directories(folder.path("/LogBook.csv"));
     user::click(page.logcsvButton);
     EXPECT_EQ(t.shown, std::vector<std::string>{"MsgForm"});
-    EXPECT_EQ(t.p.g.MessageMode, "regular");
+    EXPECT_EQ(t.p.session.desk.MessageMode, "regular");
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "input/UserEvents.h"
 #include "pages/ViewPlan.h"
 #include "plan/Editing.h"
+#include "work/PlanWork.h"
 
 #include <gtest/gtest.h>
 
@@ -20,8 +21,9 @@ protected:
         schedule.write(folder, "/Data");
         writeSettings(folder);
         t.start();
-        t.p.g.CurrentFlight = schedule.flights[0];
-        retrievePlan(t.p);
+        t.p.session.dispatch.CurrentFlight = schedule.flights[0];
+        Session& s = t.p.session;
+        retrievePlan(s.plan.plan, planInput(s.AppDir, s.settings, s.schedule, s.dispatch));
         showPlan(t.p);
     }
     [[nodiscard]] std::vector<double> widths() const {
@@ -56,7 +58,7 @@ TEST_F(PlanScreen, AClickOnAHeadSetsThatColumnBackFromTheListsWidthOfTheMoment) 
 }
 
 TEST_F(PlanScreen, TheArrowsStartAtTheHighestAltitudeAndKeepTheirRange) {
-    EXPECT_EQ(screen.AltUpDown.value, t.p.g.plan.peakAltitude);
+    EXPECT_EQ(screen.AltUpDown.value, t.p.session.plan.plan.peakAltitude);
     EXPECT_EQ(screen.AltUpDown.min, 500);
     EXPECT_EQ(screen.AltUpDown.max, 70000);
     EXPECT_EQ(screen.AltUpDown.step, 1000);
@@ -64,12 +66,12 @@ TEST_F(PlanScreen, TheArrowsStartAtTheHighestAltitudeAndKeepTheirRange) {
         "Use the Up/Dn arrows to set a new cruise altitude for the flight and press the RECALC button to "
         "recalculate the flight plan."));
     user::type(screen.altNew, "12000");
-    EXPECT_EQ(screen.altNew.text, std::to_string(t.p.g.plan.peakAltitude));
+    EXPECT_EQ(screen.altNew.text, std::to_string(t.p.session.plan.plan.peakAltitude));
 }
 
 TEST_F(PlanScreen, ARefusalIsAMessageAndLeavesTheList) {
     const auto rows = screen.PlanList.rows.size();
-    const Plan before = t.p.g.plan;
+    const Plan before = t.p.session.plan.plan;
     std::vector<std::string> texts;
     for (const int row : {0, 1, 2, 3}) {
         t.answers.emplace_back([&] { texts.push_back(t.p.forms.MsgBox.text.text); });
@@ -80,8 +82,8 @@ TEST_F(PlanScreen, ARefusalIsAMessageAndLeavesTheList) {
     EXPECT_EQ(texts, (std::vector<std::string>{std::string(kAirportRefusal), std::string(kComputedRefusal),
                                                std::string(kComputedRefusal), std::string(kAirportRefusal)}));
     EXPECT_EQ(screen.PlanList.rows.size(), rows);
-    EXPECT_EQ(t.p.g.plan.planLast, before.planLast);
-    EXPECT_EQ(t.p.g.plan.routeString, before.routeString);
+    EXPECT_EQ(t.p.session.plan.plan.planLast, before.planLast);
+    EXPECT_EQ(t.p.session.plan.plan.routeString, before.routeString);
 }
 
 TEST_F(PlanScreen, WithoutAPointThereIsNothingToRefuse) {

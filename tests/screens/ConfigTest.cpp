@@ -1,7 +1,9 @@
 #include "dispatch/Terminal.h"
 #include "input/Shutdown.h"
-#include "pages/ConfigFile.h"
+#include "pages/LoadSettings.h"
+#include "pages/SaveSettings.h"
 #include "platform/Profile.h"
+#include "work/ConfigFile.h"
 
 #include <filesystem>
 
@@ -87,7 +89,7 @@ protected:
     /// Only the read, without the start-up around it.
     void read(const std::string& file) {
         folder.write("/GT.cfg", file);
-        ReadConfig(p);
+        loadSettings(p);
     }
     [[nodiscard]] std::string written(const char* section, const char* key) const {
         return ReadText(section, key, folder.path("/GT.cfg"));
@@ -104,9 +106,9 @@ protected:
 
 TEST_F(Config, TheWriterWritesEveryKeyInItsOrderAndNothingElse) {
     folder.write("/GT.cfg", fileOf({std::begin(kKeys), std::end(kKeys)}));
-    ReadConfig(p);
+    loadSettings(p);
     ASSERT_FALSE(files::remove(folder.path("/GT.cfg")));
-    ASSERT_FALSE(WriteConfig(p));
+    ASSERT_FALSE(WriteConfig(p.session.AppDir, p.session.settings));
     EXPECT_EQ(folder.read("/GT.cfg"), fileOf({std::begin(kKeys), std::end(kKeys)}));
 }
 
@@ -118,8 +120,8 @@ TEST_F(Config, ASecondRunLeavesTheFileOfTheFirstByteForByte) {
 
     Terminal again(folder);
     again.start();
-    EXPECT_EQ(again.p.g.HomeIndex, 1);
-    EXPECT_EQ(again.p.g.AmbienceVolume, -1170);
+    EXPECT_EQ(again.p.session.settings.HomeIndex, 1);
+    EXPECT_EQ(again.p.session.settings.AmbienceVolume, -1170);
     EXPECT_EQ(again.p.forms.SettingsForm.firstTEXT.text, "J\xF6rg");
     EXPECT_TRUE(again.p.forms.OptionsForm.fltnumOption.value);
     EXPECT_EQ(again.p.forms.FlyForm.flydefaultCHECK.value, 1);
@@ -130,42 +132,42 @@ TEST_F(Config, ASecondRunLeavesTheFileOfTheFirstByteForByte) {
 
 TEST_F(Config, ATemporaryAirlineFilterIsNotSaved) {
     read(fileOf({std::begin(kKeys), std::end(kKeys)}));
-    EXPECT_EQ(p.g.FavoriteAirlineName, "- Any Airline -");
+    EXPECT_EQ(p.session.board.FavoriteAirlineName, "- Any Airline -");
     EXPECT_EQ(settings.airlineLABEL.text, "Example Air");
-    ASSERT_FALSE(WriteConfig(p));
+    ASSERT_FALSE(WriteConfig(p.session.AppDir, p.session.settings));
     EXPECT_EQ(written("Main", "FavoriteAirline"), "Example Air");
 }
 
 TEST_F(Config, AMissingIndexOfTheDataSetReturnsToTheMainOneAndTheNextWriteSavesThat) {
     read(fileWith("DataSet", "\\Data\\Winter"));
-    EXPECT_EQ(p.g.DataSetPath, "\\Data");
+    EXPECT_EQ(p.session.settings.DataSetPath, "\\Data");
     EXPECT_EQ(written("Main", "DataSet"), "\\Data\\Winter");
-    ASSERT_FALSE(WriteConfig(p));
+    ASSERT_FALSE(WriteConfig(p.session.AppDir, p.session.settings));
     EXPECT_EQ(written("Main", "DataSet"), "\\Data");
 }
 
 TEST_F(Config, MissingKeysReadAsEmptyOrZero) {
     read("[Main]\r\nIndex=2\r\n[Announcements]\r\nTimeSort=0\r\nCitySort=1\r\nFltNumSort=false\r\n");
-    EXPECT_EQ(p.g.HomeIndex, 2);
-    EXPECT_EQ(p.g.FsPath, "");
-    EXPECT_EQ(p.g.FavoriteAirlineName, "");
-    EXPECT_EQ(p.g.DataSetPath, "\\Data");
+    EXPECT_EQ(p.session.settings.HomeIndex, 2);
+    EXPECT_EQ(p.session.settings.FsPath, "");
+    EXPECT_EQ(p.session.board.FavoriteAirlineName, "");
+    EXPECT_EQ(p.session.settings.DataSetPath, "\\Data");
     EXPECT_EQ(settings.lastTEXT.text, "");
-    EXPECT_EQ(p.g.AmbienceVolume, 0);
+    EXPECT_EQ(p.session.settings.AmbienceVolume, 0);
     EXPECT_TRUE(options.cityOption.value);
     EXPECT_EQ(options.d1_CHECK.value, 0);
     EXPECT_EQ(settings.preflightCOMBO.text(), "0");
     EXPECT_EQ(settings.altdistCOMBO.text(), "5");
-    EXPECT_EQ(p.g.SBPath, p.g.AppDir);
-    EXPECT_EQ(p.g.SBDrive, p.g.AppDir.substr(0, 2));
-    EXPECT_EQ(p.g.ACSPath, p.g.AppDir);
-    EXPECT_EQ(p.g.RadarContactDrive, p.g.AppDir.substr(0, 2));
+    EXPECT_EQ(p.session.settings.exportFolders["SB"].path, p.session.AppDir);
+    EXPECT_EQ(p.session.settings.exportFolders["SB"].drive, p.session.AppDir.substr(0, 2));
+    EXPECT_EQ(p.session.settings.exportFolders["ACS"].path, p.session.AppDir);
+    EXPECT_EQ(p.session.settings.exportFolders["RadarContact"].drive, p.session.AppDir.substr(0, 2));
 }
 
 TEST_F(Config, AMinDistOfSevenIsNoItemAndSelectsFive) {
     read(fileWith("MinDist", "7"));
     EXPECT_EQ(settings.altdistCOMBO.text(), "5");
-    ASSERT_FALSE(WriteConfig(p));
+    ASSERT_FALSE(WriteConfig(p.session.AppDir, p.session.settings));
     EXPECT_EQ(written("FlightOptions", "MinDist"), "5");
 }
 
@@ -174,16 +176,16 @@ TEST_F(Config, AnIndexThatIsNoNumberEndsTheRead) {
                               "-2147483649", "1-2", "1.2.3", "."}) {
         Terminal fresh(folder);
         folder.write("/GT.cfg", fileWith("Index", index));
-        ReadConfig(fresh.p);
-        const auto& g = fresh.p.g;
+        loadSettings(fresh.p);
+        auto& s = fresh.p.session;
         const char* shown = index != nullptr ? index : "(no key)";
-        EXPECT_EQ(g.FsPath, "/sim") << shown;
-        EXPECT_EQ(g.HomeIndex, 0) << shown;
-        EXPECT_EQ(g.FavoriteAirlineName, "") << shown;
-        EXPECT_EQ(g.DataSetPath, "\\Data") << shown;
-        EXPECT_EQ(g.AmbienceVolume, 0) << shown;
+        EXPECT_EQ(s.settings.FsPath, "/sim") << shown;
+        EXPECT_EQ(s.settings.HomeIndex, 0) << shown;
+        EXPECT_EQ(s.board.FavoriteAirlineName, "") << shown;
+        EXPECT_EQ(s.settings.DataSetPath, "\\Data") << shown;
+        EXPECT_EQ(s.settings.AmbienceVolume, 0) << shown;
         EXPECT_FALSE(fresh.p.forms.OptionsForm.fltnumOption.value) << shown;
-        EXPECT_EQ(g.SBPath, "") << shown;
+        EXPECT_EQ(s.settings.exportFolders["SB"].path, "") << shown;
     }
 }
 
@@ -192,8 +194,8 @@ TEST_F(Config, NumbersOfAnIndexReachOverAllOfItsRange) {
                                       std::pair{"2147483647", std::numeric_limits<std::int32_t>::max()},
                                       std::pair{"+3", 3}, std::pair{" 4 ", 4}, std::pair{"\"5\"", 5}}) {
         read(fileWith("Index", text));
-        EXPECT_EQ(p.g.HomeIndex, value) << text;
-        EXPECT_EQ(p.g.FavoriteAirlineName, "- Any Airline -") << text;
+        EXPECT_EQ(p.session.settings.HomeIndex, value) << text;
+        EXPECT_EQ(p.session.board.FavoriteAirlineName, "- Any Airline -") << text;
     }
 }
 
@@ -202,13 +204,13 @@ TEST_F(Config, AnEmptySortKeyEndsTheReadAndWhatCameBeforeStays) {
         for (const char* value : {static_cast<const char*>(nullptr), "", "yes"}) {
             Terminal fresh(folder);
             folder.write("/GT.cfg", fileWith(key, value));
-            ReadConfig(fresh.p);
-            EXPECT_EQ(fresh.p.g.AmbienceVolume, -1170) << key;
+            loadSettings(fresh.p);
+            EXPECT_EQ(fresh.p.session.settings.AmbienceVolume, -1170) << key;
             EXPECT_EQ(fresh.p.forms.SettingsForm.statusboardCHECK.value, 2) << key;
             EXPECT_EQ(fresh.p.forms.OptionsForm.fltnumOption.value, false) << key;
             EXPECT_EQ(fresh.p.forms.OptionsForm.d1_CHECK.value, 0) << key;
             EXPECT_EQ(fresh.p.forms.SettingsForm.altCHECK.value, 0) << key;
-            EXPECT_EQ(fresh.p.g.RadarContactPath, "") << key;
+            EXPECT_EQ(fresh.p.session.settings.exportFolders["RadarContact"].path, "") << key;
         }
     }
 }
@@ -218,7 +220,7 @@ TEST_F(Config, WhatAControlCannotHoldEndsTheRead) {
     EXPECT_EQ(settings.preflightCOMBO.text(), "45");
     EXPECT_EQ(settings.altCHECK.value, 0);
     EXPECT_EQ(p.forms.FlyForm.flydefaultCHECK.value, 0);
-    EXPECT_EQ(p.g.SBPath, "");
+    EXPECT_EQ(p.session.settings.exportFolders["SB"].path, "");
 }
 
 TEST_F(Config, OfTheTwoBoxesOfTheHomeAirportTheLaterReadWins) {
@@ -247,7 +249,7 @@ TEST_F(Config, AReadOnlyFileStaysWholeAndTheProgramGoesOn) {
 TEST_F(Config, WithoutAFileTheProgramStartsAndLeavesOne) {
     terminal.start();
     EXPECT_TRUE(p.forms.MainForm.visible);
-    EXPECT_EQ(p.g.HomeIndex, 0);
+    EXPECT_EQ(p.session.settings.HomeIndex, 0);
     Shutdown(p);
     EXPECT_EQ(written("Main", "Index"), "0");
     EXPECT_EQ(written("Announcements", "TimeSort"), "False");
@@ -255,7 +257,7 @@ TEST_F(Config, WithoutAFileTheProgramStartsAndLeavesOne) {
     Terminal again(folder);
     again.start();
     EXPECT_EQ(again.p.forms.SettingsForm.altdistCOMBO.text(), "5");
-    EXPECT_EQ(again.p.g.SBPath, again.p.g.AppDir);
+    EXPECT_EQ(again.p.session.settings.exportFolders["SB"].path, again.p.session.AppDir);
 }
 
 TEST_F(Config, AFolderInThePlaceOfTheFileIsNoFile) {

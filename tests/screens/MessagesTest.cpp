@@ -13,6 +13,11 @@ protected:
         t.start();
         t.answers.clear();
     }
+    void say(Heading heading, Message message) {
+        EXPECT_EQ(ShowMessage(p, heading, message), Waited::Answered);
+    }
+    void say(const Notice& notice) { EXPECT_EQ(ShowMessage(p, notice), Waited::Answered); }
+
     TempFolder folder;
     Terminal t{folder};
     Program& p = t.p;
@@ -22,24 +27,24 @@ protected:
 } // namespace
 
 TEST_F(Messages, AHeadingOfZeroKeepsThePreviousHeading) {
-    ShowMessage(p, kWarning, 4);
+    say(Heading::Warning, Message{4});
     EXPECT_EQ(f.type_LABEL.text, "Warning!");
-    ShowMessage(p, 0, 6);
+    say(Heading{0}, Message{6});
     EXPECT_EQ(f.type_LABEL.text, "Warning!");
     EXPECT_EQ(f.Msg_LABEL.text, "Gatewise Terminal has saved the current Entry to your Log Book.");
-    ShowMessage(p, kInformation, 6);
+    say(Heading::Information, Message{6});
     EXPECT_EQ(f.type_LABEL.text, "Information");
-    ShowMessage(p, 3, 6);
+    say(Heading{3}, Message{6});
     EXPECT_EQ(f.type_LABEL.text, "Information");
 }
 
 TEST_F(Messages, AnIdOutsideTheTableLeavesTextAndMode) {
-    ShowMessage(p, kWarning, 11);
+    say(Heading::Warning, Message{11});
     const std::string text = f.Msg_LABEL.text;
     for (const int id : {0, 20, -1}) {
-        ShowMessage(p, kInformation, id);
+        say(Heading::Information, Message{id});
         EXPECT_EQ(f.Msg_LABEL.text, text);
-        EXPECT_EQ(p.g.MessageMode, "path");
+        EXPECT_EQ(p.session.desk.MessageMode, "path");
     }
     EXPECT_EQ(t.shown.size(), 4U);
 }
@@ -52,8 +57,8 @@ TEST_F(Messages, TheModeOfATextSetsTheButtons) {
                                                        : "regular";
         f.okButton.visible = false;
         f.Msg_LABEL.text.clear();
-        ShowMessage(p, kInformation, id);
-        EXPECT_EQ(p.g.MessageMode, mode) << id;
+        say(Heading::Information, Message{id});
+        EXPECT_EQ(p.session.desk.MessageMode, mode) << id;
         EXPECT_FALSE(f.Msg_LABEL.text.empty()) << id;
         EXPECT_TRUE(f.okButton.visible) << id;
         EXPECT_EQ(f.okButton.button_type, mode == "fly_now" ? "fly" : "ok") << id;
@@ -64,16 +69,16 @@ TEST_F(Messages, TheModeOfATextSetsTheButtons) {
 }
 
 TEST_F(Messages, TheCancelButtonKeepsTheMousePictureThatItWasLeftWith) {
-    ShowMessage(p, kWarning, 3);
+    say(Heading::Warning, Message{3});
     f.cancelButton.picture = "cancel_mouse";
     f.okButton.picture = "ok_mouse";
-    ShowMessage(p, kWarning, 3);
+    say(Heading::Warning, Message{3});
     EXPECT_EQ(f.cancelButton.picture, "cancel_mouse");
     EXPECT_EQ(f.okButton.picture, "ok_regular");
 }
 
 TEST_F(Messages, AFailureIsToldWithItsNumberItsDescriptionAndItsFunction) {
-    ShowFailure(p, -9, "Subscript out of range", "find_airline_code");
+    say(failure(-9, "Subscript out of range", "find_airline_code"));
     EXPECT_TRUE(f.Msg_LABEL.text.starts_with(
         "Gatewise Terminal has recieved an Error.\nError Number -9\nSubscript out of rangeIn Function "
         "find_airline_code \n"))
@@ -83,8 +88,8 @@ TEST_F(Messages, AFailureIsToldWithItsNumberItsDescriptionAndItsFunction) {
 }
 
 TEST_F(Messages, TheSentFlightIsNamedByItsStem) {
-    p.g.CurrentFlight = p.g.DepartureFlights.front();
-    ShowMessage(p, kInformation, 5);
+    p.session.dispatch.CurrentFlight = p.session.schedule.DepartureFlights.front();
+    say(Heading::Information, Message{5});
     EXPECT_EQ(
         f.Msg_LABEL.text,
         "Your flight has been sent to Flight Simulator 2002.  Please use the Select Flight Menu in FS2002 "
@@ -101,7 +106,7 @@ TEST_F(Messages, MouseOverTheGroundOrTheTextPutsThePicturesBack) {
             EXPECT_EQ(f.okButton.picture, "fly_regular");
             EXPECT_EQ(f.cancelButton.picture, "cancel_regular");
         }};
-        ShowMessage(p, kInformation, 17);
+        say(Heading::Information, Message{17});
         EXPECT_TRUE(t.answers.empty());
     }
 }

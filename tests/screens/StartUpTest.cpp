@@ -83,8 +83,8 @@ TEST_F(StartUp, WithoutTheBoardNothingOfItRuns) {
     EXPECT_FALSE(main.status_pic.visible);
     for (const Timer* timer : {&main.update_TIMER, &main.FlashTimer, &main.fade_timer, &main.play1Timer})
         EXPECT_FALSE(timer->enabled);
-    EXPECT_EQ(p.g.AmbienceLevel, -9000);
-    EXPECT_EQ(p.g.StartupDone, kTrue);
+    EXPECT_EQ(p.session.hall.AmbienceLevel, -9000);
+    EXPECT_EQ(p.session.desk.StartupDone, kTrue);
 }
 
 TEST_F(StartUp, TheMinuteTickIsAWholeMinuteAwayAtSecondZero) {
@@ -121,7 +121,7 @@ TEST_F(StartUp, ADataSetIsPickedByItsExactName) {
         terminal.start();
         EXPECT_EQ(terminal.p.forms.MainForm.routeCombo.text(), picked) << key;
         EXPECT_FALSE(terminal.p.forms.MainForm.routeCombo.locked);
-        EXPECT_EQ(terminal.p.g.DataSetPath, key);
+        EXPECT_EQ(terminal.p.session.settings.DataSetPath, key);
     }
 }
 
@@ -131,10 +131,10 @@ TEST_F(StartUp, ASetWithoutItsAirlinesKeepsStanding) {
     std::filesystem::remove(folder.path("/Data/Summer/routes.gt1"));
     begin();
     user::choose(main.routeCombo, 1);
-    EXPECT_EQ(p.g.DataSetPath, "\\Data\\Summer");
+    EXPECT_EQ(p.session.settings.DataSetPath, "\\Data\\Summer");
     EXPECT_EQ(t.shown, std::vector<std::string>{"MsgForm"});
     user::choose(main.routeCombo, 0);
-    EXPECT_EQ(p.g.DataSetPath, "\\Data");
+    EXPECT_EQ(p.session.settings.DataSetPath, "\\Data");
 }
 
 TEST_F(StartUp, ShutdownClosesTheSoundThenWritesTheSettingsThenTheScreens) {
@@ -146,18 +146,18 @@ TEST_F(StartUp, ShutdownClosesTheSoundThenWritesTheSettingsThenTheScreens) {
     bindScreens(program);
     startUp(program);
     user::click(program.forms.MainForm.statusboard_LABEL);
-    program.g.HomeIndex = 2;
+    program.session.settings.HomeIndex = 2;
     Shutdown(program);
     EXPECT_NE(sound.configAtClose.find("Index=0\r\n"), std::string::npos);
     EXPECT_NE(folder.read("/GT.cfg").find("Index=2\r\n"), std::string::npos);
-    EXPECT_TRUE(program.g.board.BoardList.empty());
-    EXPECT_TRUE(program.g.board.BoardRows.empty());
-    EXPECT_TRUE(program.g.DepartureFlights.empty());
-    EXPECT_TRUE(program.g.BoardFlights.empty());
+    EXPECT_TRUE(program.session.board.board.BoardList.empty());
+    EXPECT_TRUE(program.session.board.board.BoardRows.empty());
+    EXPECT_TRUE(program.session.schedule.DepartureFlights.empty());
+    EXPECT_TRUE(program.session.schedule.BoardFlights.empty());
     for (const Screen* screen : program.forms.all()) EXPECT_FALSE(screen->visible) << screen->name;
     EXPECT_TRUE(program.ending);
     // Once is enough.
-    program.g.HomeIndex = 1;
+    program.session.settings.HomeIndex = 1;
     Shutdown(program);
     EXPECT_NE(folder.read("/GT.cfg").find("Index=2\r\n"), std::string::npos);
 }

@@ -62,7 +62,7 @@ TEST_F(Controls, HoverLightsOneButtonAtATime) {
 
 TEST_F(Controls, AHeldButtonRepeats) {
     then([&] {
-        const int before = stage().window.program.g.HourOffset;
+        const int before = stage().window.program.session.clock.HourOffset;
         const QPoint at =
             stage().widget(main().gt_hrupButton).mapTo(&stage().desk().mainWindow(), QPoint(8, 8));
         QWindow* window = stage().desk().mainWindow().windowHandle();
@@ -70,9 +70,9 @@ TEST_F(Controls, AHeldButtonRepeats) {
         EXPECT_EQ(main().gt_hrupButton.picture, "plus_down");
         stage().advance(650); // every 200 ms
         QTest::mouseRelease(window, Qt::LeftButton, {}, at);
-        EXPECT_EQ(stage().window.program.g.HourOffset, before + 4);
+        EXPECT_EQ(stage().window.program.session.clock.HourOffset, before + 4);
         stage().advance(1000);
-        EXPECT_EQ(stage().window.program.g.HourOffset, before + 4);
+        EXPECT_EQ(stage().window.program.session.clock.HourOffset, before + 4);
     });
     play();
 }

@@ -1,7 +1,7 @@
 #include "window/StageTest.h"
 
-#include "pages/Screens.h"
 #include "input/UserEvents.h"
+#include "pages/Screens.h"
 #include "window/Note.h"
 
 #include <QApplication>

@@ -1,5 +1,5 @@
 #include "drive/Commands.h"
-#include "pages/MainBoard.h"
+#include "pages/AirlineList.h"
 #include "plan/Coordinates.h"
 #include "plan/Geometry.h"
 #include "plan/Performance.h"
@@ -55,41 +55,41 @@ template<class Result, class... Arguments, Result (*Function)(Program&, Argument
 };
 
 float distance(Program& p, float lat1, float lon1, float lat2, float lon2) {
-    return Distance(lat1, lon1, lat2, lon2, p.g.geometry.lastCourse);
+    return Distance(lat1, lon1, lat2, lon2, p.session.plan.geometry.lastCourse);
 }
 double latitudeOffset(Program& p, double lat1, double course) {
-    return offsetLatitude(p.g.geometry.offsetDistance, lat1, course);
+    return offsetLatitude(p.session.plan.geometry.offsetDistance, lat1, course);
 }
 float longitudeOffset(Program& p, double lat1, double lon1, double course, double lat2) {
-    return offsetLongitude(p.g.geometry.offsetDistance, lat1, lon1, course, lat2);
+    return offsetLongitude(p.session.plan.geometry.offsetDistance, lat1, lon1, course, lat2);
 }
 float magnetic(Program& p, float lat, float lon, float trueHeading) {
-    return MagneticTable(p.g.FsPath).magneticHeading(lat, lon, trueHeading);
+    return MagneticTable(p.session.settings.FsPath).magneticHeading(lat, lon, trueHeading);
 }
 
 std::int32_t level(Program& p, std::int32_t altitude) {
-    return legalAltitude(p.g.plan, altitude);
+    return legalAltitude(p.session.plan.plan, altitude);
 }
 float climbRate(Program& p, float rate, float altitude) {
-    return effectiveClimbRate(p.g.plan, rate, altitude);
+    return effectiveClimbRate(p.session.plan.plan, rate, altitude);
 }
 double airspeed(Program&, double altitude, double speed) {
     return trueAirspeed(altitude, speed);
 }
 
 template<std::string (*Text)(float, const NumberLocale&)> std::string placeText(Program& p, float value) {
-    return Text(value, p.g.numbers);
+    return Text(value, p.session.locale.numbers);
 }
 std::string filedAltitude(Program& p, std::int32_t altitude) {
-    return altitudeText(altitude, p.g.numbers);
+    return altitudeText(altitude, p.session.locale.numbers);
 }
 
 template<std::string (*Find)(const Tables&, std::string_view)>
 std::string lookUp(Program& p, const std::string& code) {
-    return Find(p.g.tables, code);
+    return Find(p.session.schedule.tables, code);
 }
 std::string airlineCode(Program& p, const std::string& name) {
-    return find_airline_code(p, name);
+    return find_airline_code(p, name).value_or(std::string());
 }
 std::string meal(Program&, int mask) {
     return get_meal(mask);
@@ -117,16 +117,16 @@ bool writeValue(Program&, const std::string& section, const std::string& key, co
 }
 
 std::string formatted(Program& p, const std::string& format, double value) {
-    return p.g.numbers.format(format, value);
+    return p.session.locale.numbers.format(format, value);
 }
 std::string formattedSingle(Program& p, const std::string& format, float value) {
-    return p.g.numbers.formatSingle(format, value);
+    return p.session.locale.numbers.formatSingle(format, value);
 }
 std::string doubleText(Program& p, double value) {
-    return p.g.numbers.plainDouble(value);
+    return p.session.locale.numbers.plainDouble(value);
 }
 std::string singleText(Program& p, float value) {
-    return p.g.numbers.plainSingle(value);
+    return p.session.locale.numbers.plainSingle(value);
 }
 
 struct Function {

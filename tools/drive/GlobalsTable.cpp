@@ -1,6 +1,7 @@
 #include "drive/GlobalsTable.h"
 
 #include "drive/Arguments.h"
+#include "work/ExportKinds.h"
 
 #include <cmath>
 #include <concepts>
@@ -66,129 +67,131 @@ constexpr Summary kSummary[] = {
     {"alternateAirport", planField<&Plan::alternateAirport>},
 };
 
+using Slices = gatewise::Session; // this room has a Session of its own
+
 struct Global {
     const char* name;
-    void (*write)(JsonWriter& json, const Globals& g);
+    void (*write)(JsonWriter& json, const Slices& s);
 };
 
-template<auto Member> void field(JsonWriter& json, const Globals& g) {
-    write(json, g.*Member);
+/// What a path of members leads to: a slice of the session, a field of it, a field of that.
+template<class Record> auto& at(Record& record) {
+    return record;
 }
-template<auto Group, auto Member> void inner(JsonWriter& json, const Globals& g) {
-    write(json, g.*Group.*Member);
+template<class Record, class Member, class... Rest> auto& at(Record& record, Member member, Rest... rest) {
+    return at(record.*member, rest...);
 }
-template<auto Function> void result(JsonWriter& json, const Globals& g) {
-    write(json, (g.*Function)());
+
+template<auto... Path> void field(JsonWriter& json, const Slices& s) {
+    write(json, at(s, Path...));
 }
-template<auto Function> void tableResult(JsonWriter& json, const Globals& g) {
-    write(json, (g.tables.*Function)());
+template<auto Slice, auto Function> void result(JsonWriter& json, const Slices& s) {
+    write(json, (s.*Slice.*Function)());
+}
+template<auto Function> void tableResult(JsonWriter& json, const Slices& s) {
+    write(json, (s.schedule.tables.*Function)());
 }
 
 /// The rows that the board shows; the list behind them is as long as that of the flights.
-void boardRows(JsonWriter& json, const Globals& g) {
-    writeList(json, g.board.BoardRows, g.board.BoardRowCount + 1LL);
+void boardRows(JsonWriter& json, const Slices& s) {
+    const BoardLists& lists = s.board.board;
+    writeList(json, lists.BoardRows, lists.BoardRowCount + 1LL);
 }
 
 constexpr Global kGlobals[] = {
-    {"AppDir", field<&Globals::AppDir>},
-    {"DataSetPath", field<&Globals::DataSetPath>},
-    {"FsPath", field<&Globals::FsPath>},
-    {"ProFlightFound", field<&Globals::ProFlightFound>},
-    {"StartupDone", field<&Globals::StartupDone>},
-    {"FavoriteAirlineName", field<&Globals::FavoriteAirlineName>},
-    {"MessageMode", field<&Globals::MessageMode>},
-    {"ErrorText", field<&Globals::ErrorText>},
+    {"AppDir", field<&Slices::AppDir>},
+    {"DataSetPath", field<&Slices::settings, &Settings::DataSetPath>},
+    {"FsPath", field<&Slices::settings, &Settings::FsPath>},
+    {"ProFlightFound", field<&Slices::simulator, &SimulatorHandOff::ProFlightFound>},
+    {"StartupDone", field<&Slices::desk, &Desk::StartupDone>},
+    {"FavoriteAirlineName", field<&Slices::board, &StatusBoard::FavoriteAirlineName>},
+    {"MessageMode", field<&Slices::desk, &Desk::MessageMode>},
+    {"ErrorText", field<&Slices::desk, &Desk::ErrorText>},
 
-    {"HomeIndex", field<&Globals::HomeIndex>},
-    {"BoardAirportIndex", field<&Globals::BoardAirportIndex>},
-    {"DepartureIndex", field<&Globals::DepartureIndex>},
-    {"DestinationIndex", field<&Globals::DestinationIndex>},
-    {"AlternateIndex", field<&Globals::AlternateIndex>},
-    {"HaveDeparture", field<&Globals::HaveDeparture>},
-    {"HaveDestination", field<&Globals::HaveDestination>},
-    {"HaveAlternate", field<&Globals::HaveAlternate>},
-    {"BoardMode", field<&Globals::BoardMode>},
-    {"SelectMode", field<&Globals::SelectMode>},
-    {"BoardAirlineCode", field<&Globals::BoardAirlineCode>},
+    {"HomeIndex", field<&Slices::settings, &Settings::HomeIndex>},
+    {"BoardAirportIndex", field<&Slices::board, &StatusBoard::BoardAirportIndex>},
+    {"DepartureIndex", field<&Slices::dispatch, &Dispatch::DepartureIndex>},
+    {"DestinationIndex", field<&Slices::dispatch, &Dispatch::DestinationIndex>},
+    {"AlternateIndex", field<&Slices::dispatch, &Dispatch::AlternateIndex>},
+    {"HaveDeparture", field<&Slices::dispatch, &Dispatch::HaveDeparture>},
+    {"HaveDestination", field<&Slices::dispatch, &Dispatch::HaveDestination>},
+    {"HaveAlternate", field<&Slices::dispatch, &Dispatch::HaveAlternate>},
+    {"BoardMode", field<&Slices::board, &StatusBoard::BoardMode>},
+    {"SelectMode", field<&Slices::dispatch, &Dispatch::SelectMode>},
+    {"BoardAirlineCode", field<&Slices::board, &StatusBoard::BoardAirlineCode>},
 
-    {"airports", inner<&Globals::tables, &Tables::airports>},
-    {"airlines", inner<&Globals::tables, &Tables::airlines>},
-    {"aircraft", inner<&Globals::tables, &Tables::aircraft>},
+    {"airports", field<&Slices::schedule, &Schedule::tables, &Tables::airports>},
+    {"airlines", field<&Slices::schedule, &Schedule::tables, &Tables::airlines>},
+    {"aircraft", field<&Slices::schedule, &Schedule::tables, &Tables::aircraft>},
     {"AirportCount", tableResult<&Tables::AirportCount>},
     {"AirlineLast", tableResult<&Tables::AirlineLast>},
     {"AircraftLast", tableResult<&Tables::AircraftLast>},
-    {"DepartureFlights", field<&Globals::DepartureFlights>},
-    {"BoardFlights", field<&Globals::BoardFlights>},
-    {"CurrentFlight", field<&Globals::CurrentFlight>},
-    {"DepartureFlightCount", result<&Globals::DepartureFlightCount>},
-    {"BoardFlightCount", result<&Globals::BoardFlightCount>},
+    {"DepartureFlights", field<&Slices::schedule, &Schedule::DepartureFlights>},
+    {"BoardFlights", field<&Slices::schedule, &Schedule::BoardFlights>},
+    {"CurrentFlight", field<&Slices::dispatch, &Dispatch::CurrentFlight>},
+    {"DepartureFlightCount", result<&Slices::schedule, &Schedule::DepartureFlightCount>},
+    {"BoardFlightCount", result<&Slices::schedule, &Schedule::BoardFlightCount>},
 
-    {"BoardList", inner<&Globals::board, &BoardLists::BoardList>},
+    {"BoardList", field<&Slices::board, &StatusBoard::board, &BoardLists::BoardList>},
     {"BoardRows", boardRows},
-    {"BoardRowCount", inner<&Globals::board, &BoardLists::BoardRowCount>},
-    {"BoardPage", field<&Globals::BoardPage>},
+    {"BoardRowCount", field<&Slices::board, &StatusBoard::board, &BoardLists::BoardRowCount>},
+    {"BoardPage", field<&Slices::board, &StatusBoard::BoardPage>},
 
-    {"Bias", field<&Globals::Bias>},
-    {"ClockRegion", field<&Globals::ClockRegion>},
-    {"HourOffset", field<&Globals::HourOffset>},
-    {"MinuteOffset", field<&Globals::MinuteOffset>},
-    {"LastHourOffset", field<&Globals::LastHourOffset>},
-    {"LastMinuteOffset", field<&Globals::LastMinuteOffset>},
-    {"ClockHours", field<&Globals::ClockHours>},
-    {"ClockMinutes", field<&Globals::ClockMinutes>},
-    {"ZoneHours", field<&Globals::ZoneHours>},
-    {"ZoneMinutes", field<&Globals::ZoneMinutes>},
-    {"ZoneShade", field<&Globals::ZoneShade>},
+    {"Bias", field<&Slices::clock, &BoardClock::Bias>},
+    {"ClockRegion", field<&Slices::clock, &BoardClock::ClockRegion>},
+    {"HourOffset", field<&Slices::clock, &BoardClock::HourOffset>},
+    {"MinuteOffset", field<&Slices::clock, &BoardClock::MinuteOffset>},
+    {"LastHourOffset", field<&Slices::clock, &BoardClock::LastHourOffset>},
+    {"LastMinuteOffset", field<&Slices::clock, &BoardClock::LastMinuteOffset>},
+    {"ClockHours", field<&Slices::clock, &BoardClock::ClockHours>},
+    {"ClockMinutes", field<&Slices::clock, &BoardClock::ClockMinutes>},
+    {"ZoneHours", field<&Slices::clock, &BoardClock::ZoneHours>},
+    {"ZoneMinutes", field<&Slices::clock, &BoardClock::ZoneMinutes>},
+    {"ZoneShade", field<&Slices::clock, &BoardClock::ZoneShade>},
 
-    {"DecimalSign", inner<&Globals::numbers, &NumberLocale::DecimalSign>},
-    {"LocaleDecimal", inner<&Globals::numbers, &NumberLocale::LocaleDecimal>},
-    {"MoneyThousand", field<&Globals::MoneyThousand>},
-    {"LocaleThousand", field<&Globals::LocaleThousand>},
-    {"LocaleTimeSign", field<&Globals::LocaleTimeSign>},
-    {"LocaleListSign", field<&Globals::LocaleListSign>},
-    {"ScreenDpi", field<&Globals::ScreenDpi>},
-    {"SmallFontFactor", field<&Globals::SmallFontFactor>},
+    {"DecimalSign", field<&Slices::locale, &LocaleSigns::numbers, &NumberLocale::DecimalSign>},
+    {"LocaleDecimal", field<&Slices::locale, &LocaleSigns::numbers, &NumberLocale::LocaleDecimal>},
+    {"MoneyThousand", field<&Slices::locale, &LocaleSigns::MoneyThousand>},
+    {"LocaleThousand", field<&Slices::locale, &LocaleSigns::LocaleThousand>},
+    {"LocaleTimeSign", field<&Slices::locale, &LocaleSigns::LocaleTimeSign>},
+    {"LocaleListSign", field<&Slices::locale, &LocaleSigns::LocaleListSign>},
+    {"ScreenDpi", field<&Slices::locale, &LocaleSigns::ScreenDpi>},
+    {"SmallFontFactor", field<&Slices::locale, &LocaleSigns::SmallFontFactor>},
 
-    {"HelpPage", field<&Globals::HelpPage>},
-    {"DragActive", field<&Globals::DragActive>},
-    {"DragX", field<&Globals::DragX>},
-    {"DragY", field<&Globals::DragY>},
+    {"HelpPage", field<&Slices::desk, &Desk::HelpPage>},
+    {"DragActive", field<&Slices::desk, &Desk::DragActive>},
+    {"DragX", field<&Slices::desk, &Desk::DragX>},
+    {"DragY", field<&Slices::desk, &Desk::DragY>},
 
-    {"FlightPicks", field<&Globals::FlightPicks>},
-    {"FlightPickCount", field<&Globals::FlightPickCount>},
+    {"FlightPicks", field<&Slices::dispatch, &Dispatch::FlightPicks>},
+    {"FlightPickCount", field<&Slices::dispatch, &Dispatch::FlightPickCount>},
 
-    {"lastCourse", inner<&Globals::geometry, &GeometryState::lastCourse>},
-    {"offsetDistance", inner<&Globals::geometry, &GeometryState::offsetDistance>},
+    {"lastCourse", field<&Slices::plan, &PlanDesk::geometry, &GeometryState::lastCourse>},
+    {"offsetDistance", field<&Slices::plan, &PlanDesk::geometry, &GeometryState::offsetDistance>},
 
-    {"ExportKind", field<&Globals::ExportKind>},
-    {"RadarContactPath", field<&Globals::RadarContactPath>},
-    {"RadarContactDrive", field<&Globals::RadarContactDrive>},
-    {"SBPath", field<&Globals::SBPath>},
-    {"SBDrive", field<&Globals::SBDrive>},
-    {"ACSPath", field<&Globals::ACSPath>},
-    {"ACSDrive", field<&Globals::ACSDrive>},
+    {"ExportKind", field<&Slices::desk, &Desk::ExportKind>},
 
-    {"StartLat", field<&Globals::StartLat>},
-    {"StartLon", field<&Globals::StartLon>},
-    {"StartHdg", field<&Globals::StartHdg>},
-    {"StartChoice", field<&Globals::StartChoice>},
-    {"SelectedPoint", field<&Globals::SelectedPoint>},
-    {"AircraftTable", field<&Globals::AircraftTable>},
-    {"storedPositions", field<&Globals::storedPositions>},
+    {"StartLat", field<&Slices::simulator, &SimulatorHandOff::StartLat>},
+    {"StartLon", field<&Slices::simulator, &SimulatorHandOff::StartLon>},
+    {"StartHdg", field<&Slices::simulator, &SimulatorHandOff::StartHdg>},
+    {"StartChoice", field<&Slices::simulator, &SimulatorHandOff::StartChoice>},
+    {"SelectedPoint", field<&Slices::simulator, &SimulatorHandOff::SelectedPoint>},
+    {"AircraftTable", field<&Slices::simulator, &SimulatorHandOff::AircraftTable>},
+    {"storedPositions", field<&Slices::simulator, &SimulatorHandOff::storedPositions>},
 
-    {"LogEntries", field<&Globals::LogEntries>},
-    {"LogWorkingCopy", field<&Globals::LogWorkingCopy>},
-    {"LastLogIndex", result<&Globals::LastLogIndex>},
-    {"LogPage", field<&Globals::LogPage>},
-    {"LogSelected", field<&Globals::LogSelected>},
-    {"LogField", field<&Globals::LogField>},
+    {"LogEntries", field<&Slices::log, &LogDesk::LogEntries>},
+    {"LogWorkingCopy", field<&Slices::log, &LogDesk::LogWorkingCopy>},
+    {"LastLogIndex", result<&Slices::log, &LogDesk::LastLogIndex>},
+    {"LogPage", field<&Slices::log, &LogDesk::LogPage>},
+    {"LogSelected", field<&Slices::log, &LogDesk::LogSelected>},
+    {"LogField", field<&Slices::log, &LogDesk::LogField>},
 
-    {"AmbienceVolume", field<&Globals::AmbienceVolume>},
-    {"AmbienceLevel", field<&Globals::AmbienceLevel>},
-    {"FadeDirection", field<&Globals::FadeDirection>},
-    {"PlayedFlags", field<&Globals::PlayedFlags>},
-    {"AnnouncedDepartures", field<&Globals::AnnouncedDepartures>},
-    {"AnnouncedArrivals", field<&Globals::AnnouncedArrivals>},
+    {"AmbienceVolume", field<&Slices::settings, &Settings::AmbienceVolume>},
+    {"AmbienceLevel", field<&Slices::hall, &Hall::AmbienceLevel>},
+    {"FadeDirection", field<&Slices::hall, &Hall::FadeDirection>},
+    {"PlayedFlags", field<&Slices::hall, &Hall::PlayedFlags>},
+    {"AnnouncedDepartures", field<&Slices::hall, &Hall::AnnouncedDepartures>},
+    {"AnnouncedArrivals", field<&Slices::hall, &Hall::AnnouncedArrivals>},
 };
 
 template<class T> bool take(T& target, std::string_view value) {
@@ -218,38 +221,50 @@ bool take(std::string& target, std::string_view value) {
 
 struct Setter {
     const char* name;
-    bool (*set)(Globals& g, std::string_view value);
+    bool (*set)(Slices& s, std::string_view value);
 };
 
-template<auto Member> bool set(Globals& g, std::string_view value) {
-    return take(g.*Member, value);
-}
-template<auto Group, auto Member> bool setInner(Globals& g, std::string_view value) {
-    return take(g.*Group.*Member, value);
+template<auto... Path> bool set(Slices& s, std::string_view value) {
+    return take(at(s, Path...), value);
 }
 
 constexpr Setter kSetters[] = {
-    {"directCourse", setInner<&Globals::plan, &Plan::directCourse>},
-    {"flightRules", setInner<&Globals::plan, &Plan::flightRules>},
-    {"climbDivisor", setInner<&Globals::plan, &Plan::climbDivisor>},
-    {"descentDivisor", setInner<&Globals::plan, &Plan::descentDivisor>},
-    {"offsetDistance", setInner<&Globals::geometry, &GeometryState::offsetDistance>},
-    {"lastCourse", setInner<&Globals::geometry, &GeometryState::lastCourse>},
-    {"FavoriteAirlineName", set<&Globals::FavoriteAirlineName>},
-    {"FsPath", set<&Globals::FsPath>},
+    {"directCourse", set<&Slices::plan, &PlanDesk::plan, &Plan::directCourse>},
+    {"flightRules", set<&Slices::plan, &PlanDesk::plan, &Plan::flightRules>},
+    {"climbDivisor", set<&Slices::plan, &PlanDesk::plan, &Plan::climbDivisor>},
+    {"descentDivisor", set<&Slices::plan, &PlanDesk::plan, &Plan::descentDivisor>},
+    {"offsetDistance", set<&Slices::plan, &PlanDesk::geometry, &GeometryState::offsetDistance>},
+    {"lastCourse", set<&Slices::plan, &PlanDesk::geometry, &GeometryState::lastCourse>},
+    {"FavoriteAirlineName", set<&Slices::board, &StatusBoard::FavoriteAirlineName>},
+    {"FsPath", set<&Slices::settings, &Settings::FsPath>},
 };
+
+/// The folder or the drive of an export, "SBPath" and "SBDrive"; nothing for another name.
+std::optional<std::string> exportFolder(const Slices& s, std::string_view name) {
+    for (const std::string& word : rememberedExports()) {
+        const auto at = s.settings.exportFolders.find(word);
+        const ExportFolder folder = at != s.settings.exportFolders.end() ? at->second : ExportFolder{};
+        if (name == word + "Path") return folder.path;
+        if (name == word + "Drive") return folder.drive;
+    }
+    return std::nullopt;
+}
 
 } // namespace
 
 bool writeGlobal(JsonWriter& json, const Program& p, std::string_view name) {
     for (const Global& global : kGlobals) {
         if (global.name != name) continue;
-        global.write(json, p.g);
+        global.write(json, p.session);
         return true;
     }
     for (const Summary& value : kSummary) {
         if (value.name != name) continue;
-        value.write(json, p.g.plan);
+        value.write(json, p.session.plan.plan);
+        return true;
+    }
+    if (const auto folder = exportFolder(p.session, name)) {
+        json.text(*folder);
         return true;
     }
     return false;
@@ -257,7 +272,7 @@ bool writeGlobal(JsonWriter& json, const Program& p, std::string_view name) {
 
 Assigned assignGlobal(Program& p, std::string_view name, std::string_view value) {
     for (const Setter& setter : kSetters) {
-        if (setter.name == name) return setter.set(p.g, value) ? Assigned::Done : Assigned::WrongValue;
+        if (setter.name == name) return setter.set(p.session, value) ? Assigned::Done : Assigned::WrongValue;
     }
     return Assigned::NoSuchName;
 }

@@ -94,7 +94,7 @@ Outcome plan(Session& session, std::string_view rest) {
     if (!rest.empty() && rest != "exact") return unexpected(rest);
     JsonWriter json;
     json.exactSingles = rest == "exact";
-    writePlan(json, session.program().g.plan);
+    writePlan(json, session.program().session.plan.plan);
     session.print(json);
     return kDone;
 }

@@ -93,7 +93,7 @@ Stage::Stage(const std::string& appDir, Time time)
 
 /// Whether the next step may begin: no step is on its way, or the one that is waits in a modal screen.
 bool Stage::free() {
-    if (window.desk.painting() || window.program.g.StartupDone == kFalse) return false;
+    if (window.desk.painting() || window.program.session.desk.StartupDone == kFalse) return false;
     // A window that has just come up gets the keyboard a moment later.
     constexpr int kPatience = 200;
     const QWidget* front = window.desk.front();

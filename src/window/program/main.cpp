@@ -1,4 +1,4 @@
-#include "pages/MsgForm.h"
+#include "pages/MsgBox.h"
 #include "platform/AppFolder.h"
 #include "platform/Native.h"
 #include "window/WindowProgram.h"
@@ -58,7 +58,7 @@ int main(int count, char** arguments) {
     const auto registry = native::systemRegistry();
     // Why a program did not start waits for its answer: after the simulator's start everything closes.
     const auto say = [&window](const std::string& text) {
-        if (window != nullptr) ShowMsgBox(window->program, text);
+        if (window != nullptr) (void)ShowMsgBox(window->program, text); // nothing follows the wait
     };
     const auto processes = native::systemProcesses(say);
     const auto random = native::systemRandom();

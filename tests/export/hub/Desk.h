@@ -23,10 +23,12 @@ class Desk : public testing::Test {
 protected:
     Desk() : machine(sound), p(machine.machine, app.path()) {
         bindScreens(p);
-        p.g.FsPath = fs.path();
-        p.g.tables = exportTables();
-        p.g.ACSPath = p.g.SBPath = p.g.RadarContactPath = app.path();
-        p.g.ACSDrive = p.g.SBDrive = p.g.RadarContactDrive = "/t";
+        p.session.settings.FsPath = fs.path();
+        p.session.schedule.tables = exportTables();
+        p.session.settings.exportFolders["ACS"].path = p.session.settings.exportFolders["SB"].path =
+            p.session.settings.exportFolders["RadarContact"].path = app.path();
+        p.session.settings.exportFolders["ACS"].drive = p.session.settings.exportFolders["SB"].drive =
+            p.session.settings.exportFolders["RadarContact"].drive = "/t";
         take("west");
         machine.loop.modal = [this](std::string_view screen, const std::function<bool()>& done) {
             shown.emplace_back(screen);
@@ -42,9 +44,9 @@ protected:
 
     void take(std::string_view name) {
         const ExportCase& c = exportCase(name);
-        p.g.plan = c.plan;
-        p.g.CurrentFlight = c.flight;
-        p.g.HaveAlternate = c.HaveAlternate ? kTrue : kFalse;
+        p.session.plan.plan = c.plan;
+        p.session.dispatch.CurrentFlight = c.flight;
+        p.session.dispatch.HaveAlternate = c.HaveAlternate ? kTrue : kFalse;
     }
 
     /// Presses the button of a target and does `atPicker` while the picker is up.

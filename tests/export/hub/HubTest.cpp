@@ -81,7 +81,7 @@ TEST_F(Hub, TheOtherTargetsNeedNoFolder) {
         shown.clear();
         choose(kind);
         EXPECT_EQ(shown, (std::vector<std::string>{"DirExportForm"})) << kind;
-        EXPECT_EQ(p.g.ExportKind, kind);
+        EXPECT_EQ(p.session.desk.ExportKind, kind);
     }
     EXPECT_TRUE(messages.empty());
 }
@@ -105,9 +105,9 @@ constexpr PickerRow kRows[] = {
 
 TEST_F(Hub, ThePickerOpensAsItsTargetWants) {
     fs.write("/Modules/FSNavigator/Plan/other.fsn", "x");
-    p.g.ACSPath = fs.path("/acs");
-    p.g.SBPath = fs.path("/sb");
-    p.g.RadarContactPath = fs.path("/rc");
+    p.session.settings.exportFolders["ACS"].path = fs.path("/acs");
+    p.session.settings.exportFolders["SB"].path = fs.path("/sb");
+    p.session.settings.exportFolders["RadarContact"].path = fs.path("/rc");
     auto& f = p.forms.DirExportForm;
     for (const auto& row : kRows) {
         choose(row.kind, [&] {
@@ -139,9 +139,9 @@ TEST_F(Hub, APickedFileGivesItsNameAndItsFolderIsRemembered) {
         ASSERT_TRUE(user::choose(f.File1, 0));
         EXPECT_EQ(f.filenameTEXT.text, "old.prg");
     });
-    EXPECT_EQ(p.g.ACSPath, fs.path("/plans"));
-    EXPECT_EQ(p.g.ACSDrive, "/t"); // there are no drives here
-    EXPECT_EQ(p.g.SBPath, app.path());
+    EXPECT_EQ(p.session.settings.exportFolders["ACS"].path, fs.path("/plans"));
+    EXPECT_EQ(p.session.settings.exportFolders["ACS"].drive, "/t"); // there are no drives here
+    EXPECT_EQ(p.session.settings.exportFolders["SB"].path, app.path());
     EXPECT_EQ(fs.read("/plans/old.prg"), "x");
 }
 
@@ -150,7 +150,7 @@ TEST_F(Hub, ADriveWithALetterIsRemembered) {
         p.forms.DirExportForm.Drive1.path = "D:\\";
         user::click(p.forms.DirExportForm.selectButton);
     });
-    EXPECT_EQ(p.g.SBDrive, "D:");
+    EXPECT_EQ(p.session.settings.exportFolders["SB"].drive, "D:");
 }
 
 TEST_F(Hub, TheDriveListShowsTheDriveOfItsTarget) {
@@ -160,8 +160,8 @@ TEST_F(Hub, TheDriveListShowsTheDriveOfItsTarget) {
     f.Drive1.add("C:");
     f.Drive1.add("D:");
     f.Drive1.select(0);
-    p.g.SBDrive = "d:";
-    p.g.ACSDrive = "C:";
+    p.session.settings.exportFolders["SB"].drive = "d:";
+    p.session.settings.exportFolders["ACS"].drive = "C:";
     choose("sb", [&] {
         EXPECT_EQ(f.Drive1.path, "d:");
         EXPECT_EQ(f.Drive1.picked, 1);
@@ -171,7 +171,7 @@ TEST_F(Hub, TheDriveListShowsTheDriveOfItsTarget) {
         EXPECT_EQ(f.Drive1.picked, 0);
     });
     for (const char* missing : {"/t", "E:"}) {
-        p.g.SBDrive = missing;
+        p.session.settings.exportFolders["SB"].drive = missing;
         choose("sb", [&] {
             EXPECT_EQ(f.Drive1.path, "C:");
             EXPECT_EQ(f.Drive1.picked, 0);
@@ -180,23 +180,23 @@ TEST_F(Hub, TheDriveListShowsTheDriveOfItsTarget) {
 }
 
 TEST_F(Hub, WithoutARememberedFolderThePickerStartsBesideTheProgram) {
-    p.g.RadarContactPath.clear();
-    choose("rc2", [&] { EXPECT_EQ(p.forms.DirExportForm.Dir1.path, p.g.AppDir); });
-    EXPECT_EQ(p.g.RadarContactPath, "");
+    p.session.settings.exportFolders["RadarContact"].path.clear();
+    choose("rc2", [&] { EXPECT_EQ(p.forms.DirExportForm.Dir1.path, p.session.AppDir); });
+    EXPECT_EQ(p.session.settings.exportFolders["RadarContact"].path, "");
 }
 
 TEST_F(Hub, FixedFoldersRememberNothing) {
     fs.write("/flights/myflts/one.pln", "x");
     choose("fs2k", [&] { ASSERT_TRUE(user::choose(p.forms.DirExportForm.File1, 0)); });
-    EXPECT_EQ(p.g.ACSPath, app.path());
-    EXPECT_EQ(p.g.SBPath, app.path());
-    EXPECT_EQ(p.g.RadarContactPath, app.path());
+    EXPECT_EQ(p.session.settings.exportFolders["ACS"].path, app.path());
+    EXPECT_EQ(p.session.settings.exportFolders["SB"].path, app.path());
+    EXPECT_EQ(p.session.settings.exportFolders["RadarContact"].path, app.path());
 }
 
 TEST_F(Hub, MovingOverExportCorrectsTheExtension) {
     auto& f = p.forms.DirExportForm;
     const auto corrected = [&](const char* kind, const char* typed) {
-        p.g.ExportKind = kind;
+        p.session.desk.ExportKind = kind;
         f.filenameTEXT.text = typed;
         user::move(f.selectButton);
         return f.filenameTEXT.text;

@@ -7,14 +7,19 @@ namespace gatewise::test {
 
 namespace {
 
+void send(Program& program) {
+    EXPECT_EQ(SendToProFlight(program), waited(program));
+}
+
 class ProFlight : public Desk {
 protected:
     ProFlight() {
         auto& f = p.forms.SettingsForm;
         loadScreen(f);
-        f.firstTEXT.text = " Ada";
-        f.lastTEXT.text = "Lovell ";
-        f.pf2_CallsignCHECK.value = f.pf2_FltNumCHECK.value = 1;
+        user::type(f.firstTEXT, " Ada");
+        user::type(f.lastTEXT, "Lovell ");
+        user::check(f.pf2_CallsignCHECK, 1);
+        user::check(f.pf2_FltNumCHECK, 1);
     }
     [[nodiscard]] std::string key(const char* name) const {
         return ReadText("FlightInfo", name, fs.path("/PF2000/PF2000.cfg"));
@@ -24,7 +29,7 @@ protected:
 TEST_F(ProFlight, TheFlightGoesAsPlanKeysAndStart) {
     fs.write("/flights/myflts/keep.txt", "x");
     fs.write("/PF2000/PF2000.cfg", "[Other]\r\nKeep=1\r\n[FlightInfo]\r\nTime=00:00\r\n");
-    SendToProFlight(p);
+    send(p);
     EXPECT_TRUE(messages.empty());
     EXPECT_TRUE(fs.read(std::string("/flights/myflts/") + kStem + ".pln").starts_with("[flightplan]\r\n"));
     EXPECT_TRUE(
@@ -41,7 +46,7 @@ TEST_F(ProFlight, TheFlightGoesAsPlanKeysAndStart) {
 
 TEST_F(ProFlight, WithoutItsConfigurationOneWarningAndTheStepsGoOn) {
     fs.write("/PF2000/keep.txt", "x");
-    SendToProFlight(p);
+    send(p);
     ASSERT_EQ(messages.size(), 1U);
     EXPECT_TRUE(lastMessage().starts_with("Warning!: Gatewise Terminal is unable to find the installation of "
                                           "AETI's ProFlight 2000 on your computer."));
@@ -50,18 +55,18 @@ TEST_F(ProFlight, WithoutItsConfigurationOneWarningAndTheStepsGoOn) {
 }
 
 TEST_F(ProFlight, WithoutItsFolderNothingMoreIsSaid) {
-    SendToProFlight(p);
+    send(p);
     EXPECT_EQ(messages.size(), 1U);
     EXPECT_TRUE(namesIn(fs.path()).empty());
     EXPECT_EQ(machine.processes.launches.size(), 1U);
 }
 
 TEST_F(ProFlight, TheDescentRateStaysPositive) {
-    ASSERT_EQ(p.g.plan.descentRate, -1800.5F);
-    SendToProFlight(p);
-    EXPECT_EQ(p.g.plan.descentRate, 1800.5F);
-    SendToProFlight(p);
-    EXPECT_EQ(p.g.plan.descentRate, 1800.5F);
+    ASSERT_EQ(p.session.plan.plan.descentRate, -1800.5F);
+    send(p);
+    EXPECT_EQ(p.session.plan.plan.descentRate, 1800.5F);
+    send(p);
+    EXPECT_EQ(p.session.plan.plan.descentRate, 1800.5F);
 }
 
 TEST_F(ProFlight, MinutesBeforeDepartureComeFromTheSettings) {
@@ -71,8 +76,8 @@ TEST_F(ProFlight, MinutesBeforeDepartureComeFromTheSettings) {
     combo.add("0", 0);
     combo.add("15", 15);
     combo.select(1);
-    p.g.CurrentFlight.DepartureTime = 5;
-    SendToProFlight(p);
+    p.session.dispatch.CurrentFlight.DepartureTime = 5;
+    send(p);
     EXPECT_EQ(key("Time"), "23:50");
 }
 
@@ -96,10 +101,10 @@ class ProFlightWait : public ProFlight {
 protected:
     ProFlightWait() {
         slow.whileRunning = [this] { takesInput = takesInput || other.forms.MainForm.enabled; };
-        other.g.FsPath = fs.path();
-        other.g.tables = exportTables();
-        other.g.plan = p.g.plan;
-        other.g.CurrentFlight = p.g.CurrentFlight;
+        other.session.settings.FsPath = fs.path();
+        other.session.schedule.tables = exportTables();
+        other.session.plan.plan = p.session.plan.plan;
+        other.session.dispatch.CurrentFlight = p.session.dispatch.CurrentFlight;
     }
     SlowProcesses slow;
     Machine waiting{machine.clock,    machine.locale, machine.desktop,
@@ -111,7 +116,7 @@ protected:
 
 TEST_F(ProFlightWait, TheMainScreenTakesNoInputUntilTheOtherProgramEnds) {
     const auto before = machine.clock.ticks();
-    SendToProFlight(other);
+    send(other);
     EXPECT_EQ(slow.polls, 0);
     EXPECT_FALSE(takesInput);
     EXPECT_TRUE(other.forms.MainForm.enabled);
@@ -121,7 +126,7 @@ TEST_F(ProFlightWait, TheMainScreenTakesNoInputUntilTheOtherProgramEnds) {
 TEST_F(ProFlightWait, AFailedStartIsNotReported) {
     fs.write("/PF2000/PF2000.cfg", "");
     slow.process = -1;
-    SendToProFlight(other);
+    send(other);
     EXPECT_EQ(slow.polls, 5);
     EXPECT_TRUE(messages.empty());
     EXPECT_TRUE(other.forms.MainForm.enabled);
@@ -130,7 +135,7 @@ TEST_F(ProFlightWait, AFailedStartIsNotReported) {
 TEST_F(ProFlightWait, TheWaitEndsWithTheProgram) {
     slow.polls = 1000;
     slow.whileRunning = [this] { other.ending = slow.polls < 990; };
-    SendToProFlight(other);
+    send(other);
     EXPECT_GT(slow.polls, 900);
 }
 

@@ -1,7 +1,7 @@
 #include "Desk.h"
 
-#include "pages/ExportFiles.h"
 #include "platform/Profile.h"
+#include "work/FmcExports.h"
 
 #include <csignal>
 #include <filesystem>
@@ -80,7 +80,7 @@ TEST_F(Write, EachTargetWritesItsPlanAndSaysSo) {
 TEST_F(Write, TheFolderOfAnExportIsRememberedInTheConfiguration) {
     fs.write("/out/keep.txt", "x");
     exportTo("acs", fs.path("/out"));
-    EXPECT_EQ(p.g.ACSPath, fs.path("/out"));
+    EXPECT_EQ(p.session.settings.exportFolders["ACS"].path, fs.path("/out"));
     EXPECT_EQ(ReadText("Export", "ACSPath", app.path("\\GT.cfg")), fs.path("/out"));
     EXPECT_EQ(ReadText("Export", "SBPath", app.path("\\GT.cfg")), app.path());
 }
@@ -204,7 +204,8 @@ TEST_F(Write, CompanyRoutesOnAFullDiskStayAsTheyWere) {
     fs.write("/fmsplans.fmc", "old\r\n");
     {
         const FullDisk full(100);
-        exportFmcPlan(p, fs.path());
+        p.session.settings.PF2Kfmc = 1; // its routes lie in the simulator's own folder
+        exportToFmc(p.session.settings, p.session.plan.plan, p.session.locale.numbers);
     }
     EXPECT_EQ(fs.read("/fmsplans.fmc"), "old\r\n");
     EXPECT_TRUE(messages.empty());

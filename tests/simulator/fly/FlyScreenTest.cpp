@@ -30,10 +30,10 @@ protected:
         }
         folder.write("/program/Data/default.FLT", "[Main]\r\nTitle=old\r\n[Other]\r\nKept=1\r\n");
         folder.write("/sim/fs2002.cfg", "[USERINTERFACE]\r\nSITUATION=mine\r\n");
-        p.g.FsPath = folder.path("/sim");
-        p.g.plan = world.plan;
-        p.g.CurrentFlight = world.flight;
-        p.g.tables.airlines = {airline("V0", "Vantis Air")};
+        p.session.settings.FsPath = folder.path("/sim");
+        p.session.plan.plan = world.plan;
+        p.session.dispatch.CurrentFlight = world.flight;
+        p.session.schedule.tables.airlines = {airline("V0", "Vantis Air")};
         bindScreens(p);
     }
 
@@ -79,7 +79,7 @@ TEST_F(FlyScreen, ActivationListsPositionsAndPoints) {
                                                           "- Start Inflight -", "Rwy - 08L", "Rwy - 26R",
                                                           "Gate B12", "Parking 7"}));
     EXPECT_EQ(f.posCOMBO.picked, 0);
-    EXPECT_EQ(p.g.StartChoice, "- Do NOT Position Aircraft -");
+    EXPECT_EQ(p.session.simulator.StartChoice, "- Do NOT Position Aircraft -");
     EXPECT_FALSE(f.PlanList.enabled);
     ASSERT_EQ(f.PlanList.rows.size(), 8U); // the destination has none
     EXPECT_EQ(f.PlanList.rows[0].cells, (std::vector<std::string>{"KATL ", "Hartsfield Intl", "", "01026"}));
@@ -105,7 +105,7 @@ TEST_F(FlyScreen, AircraftAreReadOnceAndTheFirstIsPicked) {
     auto& list = p.forms.FlyForm.acftCOMBO;
     EXPECT_EQ(list.items, (std::vector<std::string>{"Boeing 737-400"}));
     EXPECT_EQ(list.picked, 0);
-    ASSERT_EQ(p.g.AircraftTable.size(), 1U);
+    ASSERT_EQ(p.session.simulator.AircraftTable.size(), 1U);
     EXPECT_FALSE(machine.desktop.busy);
     hideScreen(p, p.forms.FlyForm);
     installAircraft("b747", "Boeing 747");
@@ -128,12 +128,12 @@ TEST_F(FlyScreen, OnlyAnInflightStartEnablesThePoints) {
     choose("- Start Inflight -");
     EXPECT_TRUE(list.enabled);
     user::choose(list, 3);
-    EXPECT_EQ(p.g.SelectedPoint, 3);
+    EXPECT_EQ(p.session.simulator.SelectedPoint, 3);
     choose("Rwy - 08L");
     EXPECT_FALSE(list.enabled);
-    EXPECT_EQ(p.g.StartChoice, "Rwy - 08L");
+    EXPECT_EQ(p.session.simulator.StartChoice, "Rwy - 08L");
     user::choose(list, 5);
-    EXPECT_EQ(p.g.SelectedPoint, 3);
+    EXPECT_EQ(p.session.simulator.SelectedPoint, 3);
 }
 
 TEST_F(FlyScreen, NoEarlierChoiceIsRestored) {
@@ -142,10 +142,10 @@ TEST_F(FlyScreen, NoEarlierChoiceIsRestored) {
     user::choose(p.forms.FlyForm.PlanList, 3);
     hideScreen(p, p.forms.FlyForm);
     open();
-    EXPECT_EQ(p.g.StartChoice, "- Do NOT Position Aircraft -");
+    EXPECT_EQ(p.session.simulator.StartChoice, "- Do NOT Position Aircraft -");
     EXPECT_FALSE(p.forms.FlyForm.PlanList.enabled);
     EXPECT_EQ(p.forms.FlyForm.PlanList.picked, -1);
-    EXPECT_EQ(p.g.SelectedPoint, 3); // keeps its last value until another row is picked
+    EXPECT_EQ(p.session.simulator.SelectedPoint, 3); // keeps its last value until another row is picked
 }
 
 TEST_F(FlyScreen, StoredPositionsAreReadAtEachActivation) {
@@ -156,7 +156,7 @@ TEST_F(FlyScreen, StoredPositionsAreReadAtEachActivation) {
     folder.write("/sim/SnapIT/Positions/KATL.pf2", bytes);
     open();
     EXPECT_EQ(p.forms.FlyForm.posCOMBO.items.back(), "Gate B12");
-    p.g.plan.departureAirport.Icao = "KJFK";
+    p.session.plan.plan.departureAirport.Icao = "KJFK";
     open();
     EXPECT_EQ(p.forms.FlyForm.posCOMBO.count(), 5);
 }
@@ -198,7 +198,7 @@ TEST_F(FlyScreen, ASendWritesItsFilesAndSaysSo) {
     ASSERT_EQ(messages.size(), 1U);
     EXPECT_TRUE(messages[0].find("select the FS2000 flight - " + stem + ".") != std::string::npos);
     EXPECT_EQ(headings[0], "Information");
-    EXPECT_EQ(p.g.MessageMode, "fly_now");
+    EXPECT_EQ(p.session.desk.MessageMode, "fly_now");
     EXPECT_FALSE(atMessage[0]);
 }
 
@@ -206,8 +206,8 @@ TEST_F(FlyScreen, TheStartPositionStaysForTheNextSend) {
     open();
     choose("Rwy - 26R");
     send();
-    EXPECT_EQ(p.g.StartLat, 33.65625F);
-    EXPECT_EQ(p.g.StartHdg, 270.25F);
+    EXPECT_EQ(p.session.simulator.StartLat, 33.65625F);
+    EXPECT_EQ(p.session.simulator.StartHdg, 270.25F);
     open();
     send();
     EXPECT_EQ(situation("Plane", "Latitude"), "");
@@ -217,7 +217,7 @@ TEST_F(FlyScreen, TheStartPositionStaysForTheNextSend) {
 TEST_F(FlyScreen, PreFlightComesFromTheSettings) {
     auto& minutes = p.forms.SettingsForm.preflightCOMBO;
     minutes.select(minutes.find("15"));
-    p.g.CurrentFlight.DepartureTime = 5;
+    p.session.dispatch.CurrentFlight.DepartureTime = 5;
     open();
     send();
     EXPECT_EQ(situation("DateTimeSeason", "Hours"), "23");
@@ -298,7 +298,7 @@ TEST_F(FlyScreen, SettingsOfTheSimulatorThatCannotBeWritten) {
 }
 
 TEST_F(FlyScreen, ANameThatIsNoFileNameFails) {
-    p.g.tables.airlines = {airline("V0", "Vantis/Air")};
+    p.session.schedule.tables.airlines = {airline("V0", "Vantis/Air")};
     open();
     send();
     ASSERT_EQ(messages.size(), 1U);

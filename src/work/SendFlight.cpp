@@ -1,0 +1,51 @@
+#include "work/SendFlight.h"
+
+#include "work/Notices.h"
+
+namespace gatewise {
+
+void scanAircraft(const Settings& settings, SimulatorHandOff& simulator) {
+    simulator.AircraftTable = FilesSearch(settings.FsPath + "\\Aircraft");
+}
+
+std::vector<std::string> loadStartChoices(const Settings& settings, const Plan& plan,
+                                          SimulatorHandOff& simulator) {
+    const PlanAirport& from = plan.departureAirport;
+    simulator.storedPositions = loadStoredPositions(settings.FsPath, from.Icao.view());
+    return startChoices(from, simulator.storedPositions);
+}
+
+std::error_code WriteFlightToSimulator(const std::string& AppDir, const ExportJob& job,
+                                       const FlightRecord& flight, const Settings& settings,
+                                       const FlyOptions& options, SimulatorHandOff& simulator) {
+    const StartPosition start =
+        resolveStart(simulator.StartChoice, job.plan, simulator.storedPositions, simulator.SelectedPoint,
+                     {simulator.StartLat, simulator.StartLon, simulator.StartHdg});
+    simulator.StartLat = start.StartLat;
+    simulator.StartLon = start.StartLon;
+    simulator.StartHdg = start.StartHdg;
+    writeFs2000Plan(job, settings.FsPath + "\\flights\\myflts\\" + job.stem + ".pln");
+    const SituationInput input{.plan = job.plan,
+                               .CurrentFlight = flight,
+                               .numbers = job.numbers,
+                               .stem = job.stem,
+                               .StartChoice = simulator.StartChoice,
+                               .start = start,
+                               .aircraft = options.aircraft,
+                               .fuelPCT = options.fuelPCT,
+                               .PreFlight = settings.PreFlight.value_or(0),
+                               .pointIndex = simulator.SelectedPoint};
+    return WriteSituationFile(AppDir + "\\Data\\default.FLT",
+                              settings.FsPath + "\\flights\\fs2kflts\\" + job.stem + ".FLT",
+                              situationKeys(input));
+}
+
+std::vector<Notice> afterSending(const Settings& settings, const std::string& stem) {
+    if (settings.SetDefault != 1) return {inform(Message::FlightSent)};
+    const auto error = SetDefaultFlight(settings.FsPath, stem);
+    if (!error) return {inform(Message::DefaultFlightSent)};
+    // The flight itself has arrived; the pilot picks it by hand.
+    return {failure(error, "SetDefaultFlight"), inform(Message::FlightSent)};
+}
+
+} // namespace gatewise
