@@ -1,3 +1,4 @@
+#include "Import.h"
 #include "gt1/Commands.h"
 
 #include <cstdio>
@@ -16,7 +17,10 @@ constexpr const char* usage =
     "    plans refer to the aircraft and navaids of the tables in that folder\n"
     "gt1 dump TARGET_FOLDER [OUT_FOLDER] [--world FOLDER]\n"
     "    writes the tables back, to standard output or as files; with --world the shared .gt1 files of a\n"
-    "    further set come from that folder, else from the one above it\n";
+    "    further set come from that folder, else from the one above it\n"
+    "gt1 import SOURCE... --into PROGRAM_FOLDER [--name SET] [--tables FOLDER] [--report FILE]\n"
+    "           [--every-flight] [--skip-unknown]\n"
+    "    makes a further set from public tables: files, folders, also as .gz, .xz or .zip; see README\n";
 
 /// Messages to standard error; 1 after an error.
 int finish(const Report& report) {
@@ -50,6 +54,11 @@ int dump(const std::vector<std::string>& folders, const std::optional<std::files
 
 int main(int count, char** arguments) {
     const std::vector<std::string> all(arguments + 1, arguments + count);
+    if (!all.empty() && all[0] == "import") {
+        const int code = importCommand({all.begin() + 1, all.end()});
+        if (code == 2) std::fputs(usage, stderr);
+        return code;
+    }
     std::vector<std::string> words;
     std::optional<std::filesystem::path> world;
     bool understood = true;
