@@ -23,6 +23,7 @@ ROOMS = {
     "gt1": {"plan", "schedule", "platform"},
     "import": {"gt1", "plan", "schedule", "platform"},
     "logbook": {"platform"},
+    "unpack": {"import", "platform"},
     "sound": {"platform"},
     "sound_openal": {"sound", "platform"},
     "sound_directsound": {"sound", "platform"},

@@ -1,0 +1,270 @@
+#include "import/Import.h"
+#include "import/Install.h"
+#include "import/Texts.h"
+#include "platform/Files.h"
+#include "unpack/OpenSources.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <map>
+
+namespace gatewise::importer {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::vector<Source> allSources() {
+    std::vector<Source> out;
+    int number = 100;
+    for (const auto& [kind, text] : samples())
+        out.push_back(textSource("s" + std::to_string(number++), text));
+    return out;
+}
+
+/// A program folder with the sample sets, and a place for sources; gone with the object.
+class Folder {
+public:
+    explicit Folder(const std::string& name)
+        : path_(fs::temp_directory_path() / ("gatewise_import_" + name)) {
+        fs::remove_all(path_);
+        fs::create_directories(path_ / "Data");
+        gt1::Report report;
+        gt1::compileFolder(fs::path(GATEWISE_TEST_SOURCE_DIR) / "data/sample-small", path_ / "Data",
+                           sampleShared(), report);
+        for (auto& table : {"aircraft.gt1", "VOR.gt1", "NDB.gt1", "ISC.gt1", "JRT.gt1"})
+            fs::copy_file(sampleCompiled() / table, path_ / "Data" / table);
+        EXPECT_EQ(report.errors(), std::vector<std::string>{});
+    }
+    ~Folder() { fs::remove_all(path_); }
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+
+    [[nodiscard]] const fs::path& path() const { return path_; }
+
+    [[nodiscard]] std::map<std::string, std::string> files() const {
+        std::map<std::string, std::string> out;
+        for (const auto& entry : fs::recursive_directory_iterator(path_)) {
+            if (!entry.is_regular_file()) continue;
+            const auto bytes = files::readAll(files::textOf(entry.path()));
+            out[fs::relative(entry.path(), path_).string()] = std::string(bytes->begin(), bytes->end());
+        }
+        return out;
+    }
+
+private:
+    static fs::path sampleShared() { return fs::path(GATEWISE_TEST_SOURCE_DIR) / "data/sample"; }
+
+    /// The sample's main set, compiled once for all tests.
+    static const fs::path& sampleCompiled() {
+        static const fs::path folder = [] {
+            const fs::path out = fs::temp_directory_path() / "gatewise_import_sample";
+            gt1::Report report;
+            gt1::compileFolder(sampleShared(), out, std::nullopt, report);
+            return out;
+        }();
+        return folder;
+    }
+
+    fs::path path_;
+};
+
+Imported imported(const Folder& folder, std::vector<Source> sources, const Job& job = Job()) {
+    gt1::Report report;
+    const gt1::World shared = sharedOf(folder.path(), report);
+    EXPECT_EQ(report.errors(), std::vector<std::string>{});
+    return makeImport(sources, shared, {}, job);
+}
+
+std::vector<std::string> put(const Folder& folder, const Imported& made) {
+    gt1::Report report;
+    install(made, folder.path(), report);
+    return report.errors();
+}
+
+TEST(Import, EveryFormTogetherMakesASet) {
+    const Folder folder("set");
+    const Imported made = imported(folder, allSources());
+    EXPECT_EQ(made.faults, std::vector<std::string>{});
+    EXPECT_EQ(made.name, "June 2008");
+    EXPECT_EQ(put(folder, made), std::vector<std::string>{});
+    for (const char* file : {"index", "airline", "routes", "arrivals", "Plans", "APT"})
+        EXPECT_TRUE(fs::exists(folder.path() / "Data/June 2008" / (std::string(file) + ".gt1"))) << file;
+    const auto sources = files::readAll(files::textOf(folder.path() / "Data/June 2008/SOURCES.txt"));
+    EXPECT_NE(std::string(sources->begin(), sources->end()).find("Copyright (c) 2021 Body"),
+              std::string::npos);
+    EXPECT_FALSE(fs::exists(folder.path() / "import.part"));
+    EXPECT_GT(made.counts.flown, 0U);
+    EXPECT_EQ(made.counts.own, 1U);
+}
+
+TEST(Import, TheOrderOfTheSourcesChangesNothing) {
+    const Folder one("order1");
+    const Folder two("order2");
+    std::vector<Source> turned = allSources();
+    std::reverse(turned.begin(), turned.end());
+    const Imported a = imported(one, allSources());
+    const Imported b = imported(two, turned);
+    EXPECT_EQ(a.report, b.report);
+    put(one, a);
+    put(two, b);
+    EXPECT_EQ(one.files(), two.files());
+}
+
+TEST(Import, TheSameAgainAddsNothing) {
+    const Folder folder("again");
+    put(folder, imported(folder, allSources()));
+    const auto before = folder.files();
+    const Imported again = imported(folder, allSources());
+    EXPECT_EQ(again.counts.grown, (std::vector<std::size_t>{0, 0, 0, 0, 0}));
+    EXPECT_EQ(put(folder, again), std::vector<std::string>{});
+    EXPECT_EQ(folder.files(), before);
+}
+
+TEST(Import, SharedTablesGrowAtTheirEnd) {
+    const Folder folder("grow");
+    const auto before = folder.files();
+    put(folder, imported(folder, allSources()));
+    const auto after = folder.files();
+    for (const auto& [name, bytes] : before) EXPECT_TRUE(after.at(name).starts_with(bytes)) << name;
+    EXPECT_GT(after.at("Data/VOR.gt1").size(), before.at("Data/VOR.gt1").size());
+}
+
+TEST(Import, ABrokenSourceOfAnyKindStopsItAndWritesNothing) {
+    const Folder folder("broken");
+    const auto before = folder.files();
+    for (const auto& [kind, text] : samples()) {
+        std::vector<Source> sources{textSource("good", kAirportsDat),
+                                    textSource("bad", text + std::string(100000, 'x'))};
+        const Imported made = imported(folder, sources);
+        ASSERT_EQ(made.faults.size(), 1U) << nameOf(kind);
+        EXPECT_NE(made.faults[0].find("bad: line "), std::string::npos) << made.faults[0];
+        EXPECT_TRUE(made.tables.empty());
+    }
+    EXPECT_EQ(folder.files(), before);
+}
+
+TEST(Import, WithoutAirportsThereIsNothing) {
+    const Folder folder("none");
+    EXPECT_EQ(imported(folder, {textSource("r", kRoutesDat)}).faults.size(), 1U);
+}
+
+TEST(Import, NoSetNameLeavesTheDataFolder) {
+    for (const char* name :
+         {"", ".", "..", "a/b", "a\\b", "CON", "all real world airline schedules", " x", ".x"})
+        EXPECT_FALSE(isSetName(name)) << name;
+    EXPECT_TRUE(isSetName("June 2002"));
+    const Folder folder("name");
+    const auto before = folder.files();
+    Imported made = imported(folder, allSources());
+    made.name = "../outside";
+    EXPECT_EQ(put(folder, made).size(), 1U);
+    EXPECT_EQ(folder.files(), before);
+}
+
+TEST(Import, ATableThatCannotBeCompiledLeavesAllAsItWas) {
+    const Folder folder("limit");
+    const auto before = folder.files();
+    Imported made = imported(folder, allSources());
+    made.tables[0].text += "AAA,KAAA,Twice,,0,0,0\n";
+    EXPECT_GT(put(folder, made).size(), 0U);
+    EXPECT_EQ(folder.files(), before);
+}
+
+TEST(Import, ARunThatWasStoppedBetweenRenamesIsMadeGood) {
+    const Folder folder("stopped");
+    const Imported made = imported(folder, allSources());
+    put(folder, made);
+    const fs::path set = folder.path() / "Data/June 2008";
+    const auto whole = folder.files();
+    fs::create_directories(folder.path() / "import.part/set");
+    std::ofstream(folder.path() / "import.part/old.txt") << files::textOf(set);
+    fs::rename(set, folder.path() / "import.part/old");
+    Imported bad = made;
+    bad.tables[0].text += "AAA,KAAA,Twice,,0,0,0\n";
+    put(folder, bad);
+    EXPECT_EQ(folder.files(), whole) << "the set that stood is back";
+}
+
+/// Cancels at once when a step begins.
+class CancelAt : public Job {
+public:
+    explicit CancelAt(std::string step) : step_(std::move(step)) {}
+    void step(std::string_view name) const override { cancelled_ = cancelled_ || name == step_; }
+    [[nodiscard]] bool cancelled() const override { return cancelled_; }
+
+private:
+    std::string step_;
+    mutable bool cancelled_ = false;
+};
+
+TEST(Import, ACancelledJobMakesNothing) {
+    const Folder folder("cancel");
+    for (const char* step : {"Reading s100", "Navigation", "Routes"}) {
+        const Imported made = imported(folder, allSources(), CancelAt(step));
+        EXPECT_TRUE(made.cancelled) << step;
+        EXPECT_TRUE(made.tables.empty()) << step;
+    }
+}
+
+void pack(const fs::path& folder, const std::string& command) {
+    ASSERT_EQ(std::system(("cd '" + folder.string() + "' && " + command + " > /dev/null").c_str()), 0)
+        << command;
+}
+
+TEST(Unpack, GzXzAndZipReadLikeThePlainFile) {
+#if defined(GATEWISE_TEST_ARCHIVES)
+    const Folder folder("packed");
+    const fs::path place = folder.path() / "sources";
+    fs::create_directories(place);
+    std::ofstream(place / "routes.dat") << kRoutesDat;
+    std::ofstream(place / "planes.dat") << kPlanesDat;
+    pack(place, "gzip -k routes.dat");
+    pack(place, "xz -k planes.dat");
+    pack(place, "python3 -m zipfile -c both.zip routes.dat planes.dat");
+    std::vector<std::string> faults;
+    std::map<std::string, Kind> kinds;
+    for (const Source& source : unpack::openSources(place, faults)) {
+        const SourceInfo info = lookAt(source);
+        EXPECT_EQ(info.fault, "");
+        kinds[source.name] = info.kind;
+    }
+    const std::map<std::string, Kind> expected{
+        {"routes.dat", Kind::WorldRoutes},          {"routes.dat.gz", Kind::WorldRoutes},
+        {"planes.dat", Kind::WorldPlanes},          {"planes.dat.xz", Kind::WorldPlanes},
+        {"both.zip/routes.dat", Kind::WorldRoutes}, {"both.zip/planes.dat", Kind::WorldPlanes}};
+    EXPECT_EQ(kinds, expected);
+#else
+    GTEST_SKIP() << "built without the library for packed files";
+#endif
+}
+
+TEST(Unpack, ATornFileIsAFault) {
+    const Folder folder("torn");
+    const fs::path place = folder.path() / "sources";
+    fs::create_directories(place);
+    std::string rows;
+    for (int i = 0; i < 20000; ++i) rows += "X0," + std::to_string(i * 7919) + ",AAA,1,BBB,2,,0,320\n";
+    std::ofstream(place / "routes.dat") << rows;
+    for (const char* command : {"gzip -k routes.dat && truncate -s 5000 routes.dat.gz",
+                                "xz -k routes.dat && truncate -s 5000 routes.dat.xz",
+                                "python3 -m zipfile -c r.zip routes.dat && truncate -s 30 r.zip"})
+        pack(place, command);
+    fs::remove(place / "routes.dat");
+    std::vector<std::string> faults;
+    const auto sources = unpack::openSources(place, faults);
+    EXPECT_EQ(sources.size(), 3U);
+    Findings findings;
+    readSources(sources, true, findings, faults, Job());
+    EXPECT_EQ(faults.size(), 3U) << "each torn file is named, skipped or not";
+}
+
+TEST(Unpack, AMissingPathIsAFault) {
+    std::vector<std::string> faults;
+    EXPECT_TRUE(unpack::openSources("/no/such/place", faults).empty());
+    EXPECT_EQ(faults, std::vector<std::string>{"/no/such/place: no such file or folder"});
+}
+
+} // namespace
+} // namespace gatewise::importer
