@@ -25,9 +25,9 @@ std::string carrierName(std::string name) {
     return name;
 }
 
-class Finder {
+class AirlineFinder {
 public:
-    explicit Finder(const RawTables& raw) {
+    explicit AirlineFinder(const RawTables& raw) {
         for (const AirlineIn& row : raw.airlines.rows) {
             if (!row.iata.empty()) byCode_[row.iata].push_back(&row);
             if (!row.icao.empty()) byCode_[row.icao].push_back(&row);
@@ -90,7 +90,7 @@ private:
 
 std::vector<AirlineRecord> makeAirlines(const RawTables& raw, const std::set<std::string>& codes,
                                         Findings& findings) {
-    const Finder finder(raw);
+    const AirlineFinder finder(raw);
     std::vector<AirlineRecord> out;
     for (const std::string& code : codes) out.push_back(finder.record(code, findings));
     return out;

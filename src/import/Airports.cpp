@@ -9,9 +9,9 @@ namespace gatewise::importer {
 
 namespace {
 
-class Maker {
+class AirportMaker {
 public:
-    explicit Maker(Findings& findings) : findings_(findings) {}
+    explicit AirportMaker(Findings& findings) : findings_(findings) {}
 
     void add(const std::vector<AirportIn>& rows, bool zonesOnly) {
         for (const AirportIn& row : rows) {
@@ -91,7 +91,7 @@ void Airports::index() {
 }
 
 Airports makeAirports(const RawTables& raw, Findings& findings) {
-    Maker maker(findings);
+    AirportMaker maker(findings);
     maker.add(raw.airports.rows, false);
     maker.add(raw.worldAirports.rows, !raw.airports.rows.empty());
     Airports out = maker.finish();

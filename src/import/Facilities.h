@@ -1,6 +1,7 @@
 #pragma once
 
-#include "import/Airports.h"
+#include "import/Airport.h"
+#include "import/Sources.h"
 
 namespace gatewise::importer {
 

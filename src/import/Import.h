@@ -1,13 +1,9 @@
 #pragma once
 
-#include "gt1/Commands.h"
-#include "gt1/DataSet.h"
-#include "import/Findings.h"
+#include "import/Imported.h"
 #include "import/Job.h"
 #include "import/Source.h"
-#include "import/Sources.h"
 
-#include <string>
 #include <vector>
 
 // The import as a whole: from public tables to our plain ones. Nothing is read but the sources, nothing is
@@ -15,37 +11,8 @@
 
 namespace gatewise::importer {
 
-struct ImportOptions {
-    std::string name; // of the set; empty: the timetable's month, "June 2002", or "World"
-    bool everyFlight = false;
-    bool skipUnknown = false;
-};
-
-struct ImportCounts {
-    std::size_t airports = 0, airlines = 0;
-    std::size_t own = 0, flown = 0, made = 0;         // flights
-    std::size_t pairs = 0, byNavaids = 0, direct = 0; // airport pairs; those without a way along airways
-    std::vector<std::size_t> grown;                   // shared records added: aircraft, vor, ndb, fixes, jets
-};
-
-struct Imported {
-    std::string name;
-    std::vector<gt1::NamedTable> tables; // of the set
-    std::vector<gt1::NamedTable> shared; // aircraft, vor, ndb, fixes, jets: those given, grown at their end
-    gt1::World world;                    // the same shared tables as records
-    std::string sources;                 // SOURCES.txt of the set, UTF-8
-    std::string report;                  // for a person, UTF-8
-    std::vector<SourceInfo> files;
-    ImportCounts counts;
-    std::vector<std::string> faults; // why there is nothing; empty when all is well
-    bool cancelled = false;
-};
-
 /// Makes a further data set beside the sets that share `shared`.
 Imported makeImport(const std::vector<Source>& sources, const gt1::World& shared,
                     const ImportOptions& options, const Job& job);
-
-/// What a person is told about the form of a table, one line: "airports (OpenFlights), 7698 rows".
-std::string describe(const SourceInfo& info);
 
 } // namespace gatewise::importer

@@ -1,10 +1,13 @@
 #pragma once
 
-#include "import/Import.h"
+#include "import/Imported.h"
 
 #include <string>
 
 namespace gatewise::importer {
+
+/// What a person is told about the form of a table, one line: "airports (OpenFlights), 7698 rows".
+std::string describe(const SourceInfo& info);
 
 /// What was read, kept and left out, and why.
 std::string reportText(const Imported& imported, const RawTables& raw, const Findings& findings);

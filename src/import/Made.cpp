@@ -30,10 +30,10 @@ struct Service {
 
 using Directed = std::tuple<std::string, std::size_t, std::size_t>; // airline, from, to
 
-class Maker {
+class FlightMaker {
 public:
-    Maker(const Airports& airports, const AircraftTypes& types, const Zones& zones, CycleMonth month,
-          Findings& findings)
+    FlightMaker(const Airports& airports, const AircraftTypes& types, const Zones& zones, CycleMonth month,
+                Findings& findings)
         : airports_(airports), types_(types), findings_(findings) {
         for (const Airport& airport : airports.all)
             ahead_.push_back(zones.minutesAhead(airport.zone, month.year, month.month));
@@ -206,7 +206,7 @@ std::vector<Flight> madeFlights(const std::vector<RouteIn>& routes, const Airpor
                                 const AircraftTypes& types, const Zones& zones, CycleMonth month,
                                 const std::vector<Flight>& real, Findings& findings) {
     Numbering numbers(real);
-    Maker maker(airports, types, zones, month, findings);
+    FlightMaker maker(airports, types, zones, month, findings);
     maker.take(routes, real);
     return maker.fly(numbers);
 }

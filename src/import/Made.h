@@ -1,6 +1,6 @@
 #pragma once
 
-#include "import/Airports.h"
+#include "import/Airport.h"
 #include "import/Flight.h"
 #include "import/Zones.h"
 

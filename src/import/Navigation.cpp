@@ -27,10 +27,6 @@ template<class Row, class Each> void readForm(const Reading& reading, Table<Row>
     table.edition.head = head;
 }
 
-std::string text(std::string_view cell) {
-    return std::string(cell);
-}
-
 const char* fix(const Cells& c, bool regions, std::vector<FixIn>& rows) {
     const auto latitude = latitudeIn(c[0]);
     const auto longitude = longitudeIn(c[1]);

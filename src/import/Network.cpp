@@ -40,9 +40,9 @@ std::string aidName(const std::string& name) {
 
 using ByIdent = std::unordered_map<std::string, std::vector<std::uint32_t>>;
 
-class Maker {
+class NetworkMaker {
 public:
-    Maker(const RawTables& raw, Findings& findings) : raw_(raw), findings_(findings) {}
+    NetworkMaker(const RawTables& raw, Findings& findings) : raw_(raw), findings_(findings) {}
 
     Network run(const Job& job) {
         addAids();
@@ -187,7 +187,7 @@ private:
 } // namespace
 
 Network makeNetwork(const RawTables& raw, Findings& findings, const Job& job) {
-    return Maker(raw, findings).run(job);
+    return NetworkMaker(raw, findings).run(job);
 }
 
 } // namespace gatewise::importer

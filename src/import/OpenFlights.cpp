@@ -7,10 +7,6 @@ namespace gatewise::importer {
 
 namespace {
 
-std::string text(std::string_view cell) {
-    return std::string(cell);
-}
-
 /// A code, or nothing where the cell holds something else ("-", "N/A").
 std::string codeIn(std::string_view cell, std::size_t least, std::size_t most) {
     return isCode(cell, least, most) ? std::string(cell) : std::string();

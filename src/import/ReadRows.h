@@ -17,6 +17,11 @@ namespace gatewise::importer {
 
 inline constexpr std::string_view kBadRow = "rows that cannot be read";
 
+/// A cell as a text of its own.
+inline std::string text(std::string_view cell) {
+    return std::string(cell);
+}
+
 struct Reading {
     const Source& source;
     Findings& findings;

@@ -8,10 +8,6 @@ namespace gatewise::importer {
 
 namespace {
 
-std::string text(std::string_view cell) {
-    return std::string(cell);
-}
-
 struct TailColumns {
     TailColumns() = default;
     explicit TailColumns(const Header& h)

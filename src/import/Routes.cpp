@@ -33,9 +33,10 @@ void nameAirways(const Network& network, const Graph& graph, const Way& way,
     }
 }
 
-class Finder {
+class RouteFinder {
 public:
-    Finder(const Network& network, const Graph& graph) : network_(network), graph_(graph), search_(graph) {
+    RouteFinder(const Network& network, const Graph& graph)
+        : network_(network), graph_(graph), search_(graph) {
         for (std::uint32_t i = 0; i < network.points.size(); ++i)
             if (network.points[i].kind != 'I') aids_.emplace_back(vectorOf(network.points[i].place), i);
     }
@@ -158,7 +159,7 @@ std::vector<RoutePair> findRoutes(const Network& network, const std::vector<std:
     std::vector<RoutePair> out(pairs.size());
     std::atomic<std::size_t> next{0};
     const auto work = [&] {
-        Finder finder(network, graph);
+        RouteFinder finder(network, graph);
         for (std::size_t i = next++; i < pairs.size() && !job.cancelled(); i = next++) {
             out[i] = finder.pair(pairs[i].first, pairs[i].second);
             if (i % 100 == 0) job.progress(static_cast<double>(i) / static_cast<double>(pairs.size()));

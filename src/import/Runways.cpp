@@ -90,9 +90,9 @@ Line lineOf(const RunwayIn& in, const Airport& airport, double east) {
     return out;
 }
 
-class Maker {
+class RunwayMaker {
 public:
-    Maker(Airports& airports, const RawTables& raw, Findings& findings)
+    RunwayMaker(Airports& airports, const RawTables& raw, Findings& findings)
         : airports_(airports), raw_(raw), findings_(findings), variations_(variations(raw)) {}
 
     void run() {
@@ -200,7 +200,7 @@ private:
 } // namespace
 
 void addRunways(Airports& airports, const RawTables& raw, Findings& findings) {
-    Maker(airports, raw, findings).run();
+    RunwayMaker(airports, raw, findings).run();
 }
 
 } // namespace gatewise::importer

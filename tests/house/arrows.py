@@ -28,7 +28,7 @@ ROOMS = {
     "sound_openal": {"sound", "platform"},
     "sound_directsound": {"sound", "platform"},
 }
-JOBS = {"board", "plan", "selection", "export", "programs", "simulator", "gt1", "import", "logbook", "sound",
+JOBS = {"board", "plan", "selection", "export", "programs", "simulator", "gt1", "import", "unpack", "logbook", "sound",
         "schedule", "platform"}
 # The storeys of the program itself. Forms are seen from the pages upwards and nowhere else.
 ROOMS["session"] = JOBS
