@@ -1,5 +1,6 @@
 #include "import/ImportReport.h"
 
+#include "import/Kinds.h"
 #include "platform/Machine.h"
 
 #include <array>

@@ -2,6 +2,7 @@
 
 #include "import/Airport.h"
 #include "import/Flight.h"
+#include "import/Sources.h"
 
 #include <vector>
 

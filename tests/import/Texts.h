@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/Kinds.h"
 #include "import/Sources.h"
 
 #include <string>
