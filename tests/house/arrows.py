@@ -1,5 +1,7 @@
 """Reads the includes of every room and fails on an arrow that does not run down, and on a cycle inside a room.
 
+The rooms and what they may look into are those of their libraries, as src/*/CMakeLists.txt links them.
+
     arrows.py PROJECT       checks src/
     arrows.py --self-test   checks that a wrong arrow, a form out of place and a cycle are seen
 """
@@ -9,37 +11,35 @@ import re
 import sys
 import tempfile
 
-# Room -> rooms that it may include from, itself aside.
-ROOMS = {
-    "platform": set(),
-    "forms": {"platform"},
-    "schedule": {"platform"},
-    "board": {"schedule", "platform"},
-    "plan": {"schedule", "platform"},
-    "selection": {"plan", "schedule", "platform"},
-    "export": {"plan", "schedule", "platform"},
-    "programs": {"plan", "schedule", "platform"},
-    "simulator": {"plan", "schedule", "platform"},
-    "gt1": {"plan", "schedule", "platform"},
-    "import": {"gt1", "plan", "schedule", "platform"},
-    "logbook": {"platform"},
-    "unpack": {"import", "platform"},
-    "sound": {"platform"},
-    "sound_openal": {"sound", "platform"},
-    "sound_directsound": {"sound", "platform"},
-}
-JOBS = {"board", "plan", "selection", "export", "programs", "simulator", "gt1", "import", "unpack", "logbook", "sound",
-        "schedule", "platform"}
-# The storeys of the program itself. Forms are seen from the pages upwards and nowhere else.
-ROOMS["session"] = JOBS
-ROOMS["work"] = ROOMS["session"] | {"session"}
-ROOMS["pages"] = ROOMS["work"] | {"work", "forms"}
-ROOMS["input"] = ROOMS["pages"] | {"pages"}
-ROOMS["app"] = ROOMS["input"] | {"input"}
-ROOMS["window"] = ROOMS["app"] | {"app", "sound_openal", "sound_directsound"}
-
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"/]+)/([^"]+)"')
 TOOLKIT = re.compile(r'^\s*#\s*include\s+[<"](Q[A-Z]\w*|Qt\w*/|AL/)')
+ROOM = re.compile(r'gatewise_room\((\w+)([^)]*)\)')
+
+# Forms are seen from the pages upwards and nowhere else, whatever a list of links says.
+SEES_FORMS = {"forms", "pages", "input", "app", "window"}
+# The program's own main names the device that the machine has.
+DEVICES = {"sound_openal", "sound_directsound"}
+
+
+def rooms_of(project):
+    """Room -> rooms that it may include from, itself aside: what its library links, and what that links in turn."""
+    links = {}
+    for path in sorted((project / "src").glob("*/CMakeLists.txt")):
+        for name, words in ROOM.findall(path.read_text(encoding="utf-8")):
+            named = re.search(r"\bLINKS\s+([a-z0-9_\s]+)", words)
+            links[name] = set(named.group(1).split()) if named else set()
+    rooms = {}
+    for room in links:
+        seen, open_ends = set(), list(links[room])
+        while open_ends:
+            below = open_ends.pop()
+            if below not in seen:
+                seen.add(below)
+                open_ends += links.get(below, ())
+        rooms[room] = seen
+    if "window" in rooms:
+        rooms["window"] |= DEVICES
+    return rooms
 
 
 def sources(project):
@@ -67,16 +67,18 @@ def cycles(arrows):
 
 
 def faults(project):
-    found = []
+    rooms = rooms_of(project)
+    found = [f"src/{room}: a circle of rooms" for room in rooms if room in rooms[room]]
+    found += [f"src/{room}: links the forms" for room in rooms if "forms" in rooms[room] and room not in SEES_FORMS]
     inside = {}  # room -> module -> modules of the same room that it includes
     for path, room, module in sources(project):
-        if room not in ROOMS:
-            found.append(f"{path}: unknown room {room}")
+        if room not in rooms:
+            found.append(f"{path}: a room without a library: {room}")
             continue
         own = inside.setdefault(room, {}).setdefault(module, set())
         for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
             hit = INCLUDE.match(line)
-            if hit and hit.group(1) != room and hit.group(1) not in ROOMS[room]:
+            if hit and hit.group(1) != room and hit.group(1) not in rooms[room]:
                 found.append(f"{path}:{number}: {room} may not look into {hit.group(1)}")
             if hit and hit.group(1) == room and hit.group(2) != module + ".h":
                 own.add(hit.group(2).removesuffix(".h"))
@@ -89,8 +91,15 @@ def faults(project):
 
 def self_test():
     files = {
+        "schedule/CMakeLists.txt": "gatewise_room(schedule)",
+        "forms/CMakeLists.txt": "gatewise_room(forms)",
+        "board/CMakeLists.txt": "gatewise_room(board LINKS schedule SOURCES ${more})",
+        "work/CMakeLists.txt": "gatewise_room(work\n  LINKS board)",
+        "pages/CMakeLists.txt": "gatewise_room(pages LINKS work forms)",
+        "session/CMakeLists.txt": "gatewise_room(session LINKS forms)",
         "board/Up.cpp": '#include "pages/Screens.h"\n#include <QWidget>\n#include "schedule/Records.h"\n',
-        "work/Form.cpp": '#include "forms/Control.h"\n',
+        "work/Form.cpp": '#include "forms/Control.h"\n#include "schedule/Records.h"\n',
+        "none/None.cpp": "",
         "pages/A.h": '#include "pages/Base.h"\n',
         "pages/A.cpp": '#include "pages/A.h"\n#include "pages/B.h"\n',
         "pages/B.cpp": '#include "pages/B.h"\n#include "pages/A.h"\n',
@@ -102,8 +111,8 @@ def self_test():
             path.parent.mkdir(parents=True, exist_ok=True)
             path.write_text(text)
         found = faults(pathlib.Path(folder))
-    if len(found) != 4 or found[-1] != "pages: a cycle of modules: A, B":
-        sys.exit(f"expected four faults, found: {found}")
+    if len(found) != 6 or found[0] != "src/session: links the forms" or found[-1] != "pages: a cycle of modules: A, B":
+        sys.exit(f"expected six faults, found: {found}")
 
 
 if __name__ == "__main__":
