@@ -57,7 +57,7 @@ def path_faults(project):
     found = []
     for document in [*project.glob('*.md'), *project.glob('docs/**/*.md')]:
         for span in SPAN.findall(document.read_text(encoding='utf-8')):
-            placeholder = re.search('NAME|SUBJECT|FORM', span)
+            placeholder = re.search('NAME|PLAN|SUBJECT|FORM', span)
             if PATH.fullmatch(span) and not placeholder and not (project / span).exists():
                 found.append(f'{document.relative_to(project)}: there is no {span}')
     return found
