@@ -12,15 +12,13 @@ protected:
         held.Bias = bias;
         return held;
     }
+
     BoardClock held;
     std::int16_t &HourOffset = held.HourOffset, &MinuteOffset = held.MinuteOffset;
     std::int16_t &ClockHours = held.ClockHours, &ClockMinutes = held.ClockMinutes;
-    std::array<std::int16_t, kZones>&ZoneHours = held.ZoneHours, &ZoneMinutes = held.ZoneMinutes,
-                             &ZoneShade = held.ZoneShade;
-};
-}
-std::int16_t HourOffset = 0, MinuteOffset = 0, ClockHours = 0, ClockMinutes = 0;
-std::array<std::int16_t, kZones> ZoneHours{}, ZoneMinutes{}, ZoneShade{};
+    std::array<std::int16_t, kZones>& ZoneHours = held.ZoneHours;
+    std::array<std::int16_t, kZones>& ZoneMinutes = held.ZoneMinutes;
+    std::array<std::int16_t, kZones>& ZoneShade = held.ZoneShade;
 };
 
 TEST_F(Clock, WithBiasSixtyAtTwentyThreeLondonShowsMidnight) {

@@ -223,6 +223,38 @@ TEST_F(Config, WhatAControlCannotHoldEndsTheRead) {
     EXPECT_EQ(p.session.settings.exportFolders["SB"].path, "");
 }
 
+TEST_F(Config, TheVolumeHoldsSixteenBitsAndWhatIsBeyondEndsTheRead) {
+    for (const auto& [text, value] : {std::pair{"-32768", -32768}, std::pair{"32767", 32767}}) {
+        read(fileWith("ambVolume", text));
+        EXPECT_EQ(p.session.settings.AmbienceVolume, value);
+        EXPECT_TRUE(options.fltnumOption.value) << text;
+        ASSERT_FALSE(WriteConfig(p.session.AppDir, p.session.settings));
+        EXPECT_EQ(written("Announcements", "ambVolume"), text);
+    }
+    for (const char* text : {"-32769", "32768"}) {
+        Terminal fresh(folder);
+        folder.write("/GT.cfg", fileWith("ambVolume", text));
+        loadSettings(fresh.p);
+        EXPECT_EQ(fresh.p.session.settings.AmbienceVolume, 0) << text;
+        EXPECT_EQ(fresh.p.forms.SettingsForm.statusboardCHECK.value, 2) << text;
+        EXPECT_FALSE(fresh.p.forms.OptionsForm.fltnumOption.value) << text;
+    }
+}
+
+TEST_F(Config, ABoxStoresItsValueAtOnceAndAnOptionThatIsTurnedOffNoLongerSorts) {
+    read(fileOf({std::begin(kKeys), std::end(kKeys)}));
+    user::check(settings.altCHECK, 2);
+    EXPECT_EQ(p.session.settings.FindAlternate, 2);
+    user::type(settings.lastTEXT, "Novak");
+    EXPECT_EQ(p.session.settings.Last, "Novak");
+    settings.altdistCOMBO.select(settings.altdistCOMBO.find("30"));
+    EXPECT_EQ(p.session.settings.MinDist, 30);
+    user::check(options.cityOption, 1);
+    EXPECT_EQ(p.session.settings.sort, BoardSort::City);
+    user::check(options.cityOption, 0);
+    EXPECT_EQ(p.session.settings.sort, BoardSort::None);
+}
+
 TEST_F(Config, OfTheTwoBoxesOfTheHomeAirportTheLaterReadWins) {
     read(fileWith("SetDept", "1"));
     EXPECT_EQ(settings.homeDeptCHECK.value, 0);
