@@ -76,7 +76,7 @@ TEST_F(PlanScreen, ARefusalIsAMessageAndLeavesTheList) {
     for (const int row : {0, 1, 2, 3}) {
         t.answers.emplace_back([&] { texts.push_back(t.p.forms.MsgBox.text.text); });
         pick(row);
-        removeShownPoint(t.p);
+        EXPECT_EQ(removeShownPoint(t.p), Waited::Answered);
     }
     EXPECT_EQ(t.shown, (std::vector<std::string>(4, "MsgBox")));
     EXPECT_EQ(texts, (std::vector<std::string>{std::string(kAirportRefusal), std::string(kComputedRefusal),
@@ -88,9 +88,9 @@ TEST_F(PlanScreen, ARefusalIsAMessageAndLeavesTheList) {
 
 TEST_F(PlanScreen, WithoutAPointThereIsNothingToRefuse) {
     screen.PlanList.picked = -1;
-    removeShownPoint(t.p);
+    EXPECT_EQ(removeShownPoint(t.p), Waited::Answered);
     pick(5);
-    removeShownPoint(t.p);
+    EXPECT_EQ(removeShownPoint(t.p), Waited::Answered);
     EXPECT_TRUE(t.shown.empty());
 }
 
