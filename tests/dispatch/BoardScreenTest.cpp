@@ -1,5 +1,6 @@
 #include "dispatch/Terminal.h"
 #include "pages/InfoForm.h"
+#include "platform/Profile.h"
 
 #include <algorithm>
 
@@ -9,10 +10,11 @@ namespace {
 
 class BoardScreen : public testing::Test {
 protected:
-    void begin(std::string_view settings = {}) {
+    void begin(int home = 0) {
         schedule.complete();
         schedule.write(folder, "/Data");
-        writeSettings(folder, settings);
+        writeSettings(folder);
+        (void)WriteValue("Main", "Index", std::to_string(home), folder.path("/GT.cfg"));
         t.start();
         t.shown.clear();
     }
@@ -51,7 +53,7 @@ TEST_F(BoardScreen, APageTurnShowsAllTwentyStatusTextsAgain) {
 TEST_F(BoardScreen, AnAirportWithExactlyOneArrivalHasABoardOfArrivals) {
     add(0, 2, 77, 1100);
     add(2, 1, 78, 1200);
-    begin("[Main]\r\nIndex=2\r\n");
+    begin(2);
     ASSERT_EQ(t.p.session.schedule.tables.airport(2).ArrivalCount, 1);
     ASSERT_EQ(t.p.session.board.BoardAirportIndex, 2);
     user::click(board.statusboard_LABEL);

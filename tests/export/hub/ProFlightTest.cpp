@@ -8,7 +8,8 @@ namespace gatewise::test {
 namespace {
 
 void send(Program& program) {
-    EXPECT_EQ(SendToProFlight(program), waited(program));
+    const Waited answer = SendToProFlight(program);
+    EXPECT_EQ(answer, waited(program));
 }
 
 class ProFlight : public Desk {
