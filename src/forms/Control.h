@@ -126,8 +126,8 @@ struct Frame : Control {
 };
 
 struct TextBox : Control {
-    TextBox(Screen& screen, std::string name, std::string text = {})
-        : Control(screen, std::move(name), Kind::TextBox), text(std::move(text)) {}
+    TextBox(Screen& screen, std::string name, std::string text = {}, int index = -1)
+        : Control(screen, std::move(name), Kind::TextBox, index), text(std::move(text)) {}
     std::string text;
     int maxLength = 0; // characters, 0: no limit
     bool readOnly = false;
@@ -137,8 +137,8 @@ struct TextBox : Control {
 
 /// Check box: 0, 1 or 2. Setting it counts as a click when it changes, as for a click of the user.
 struct Check : Control {
-    Check(Screen& screen, std::string name, std::string text)
-        : Control(screen, std::move(name), Kind::Check), text(std::move(text)) {}
+    Check(Screen& screen, std::string name, std::string text, int index = -1)
+        : Control(screen, std::move(name), Kind::Check, index), text(std::move(text)) {}
     void set(int newValue);
     std::string text;
     int value = 0;

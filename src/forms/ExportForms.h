@@ -21,6 +21,7 @@ struct ExportForm : Screen {
     Check kf747CHECK{*this, "kf747CHECK", "Kestrelfold's 747-400 FMC"};
     Check aetiCHECK{*this, "aetiCHECK", "AETI's ProFlight 2000 FMC"};
     Check abCHECK{*this, "abCHECK", "Abacus' Corporate Pilot FMC"};
+    SkinnedButton programsButton{*this, "programsButton", Kind::switchButton, "programs", "programs_regular"};
 };
 
 struct DirExportForm : Screen {

@@ -6,9 +6,9 @@
 namespace gatewise {
 
 std::vector<Screen*> Forms::all() {
-    return {&MainForm,   &SelectForm,   &FlightForm,  &InfoForm, &MsgForm,    &WaitForm,
-            &SplashForm, &SettingsForm, &OptionsForm, &DirForm,  &ExportForm, &DirExportForm,
-            &ViewPlan,   &PlanCharts,   &FlyForm,     &LogEntry, &ClockForm,  &MsgBox};
+    return {&MainForm,     &SelectForm,  &FlightForm, &InfoForm,   &MsgForm,       &WaitForm,     &SplashForm,
+            &SettingsForm, &OptionsForm, &DirForm,    &ExportForm, &DirExportForm, &ProgramsForm, &ViewPlan,
+            &PlanCharts,   &FlyForm,     &LogEntry,   &ClockForm,  &MsgBox};
 }
 
 Screen* Forms::find(std::string_view name) {

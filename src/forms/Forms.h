@@ -6,6 +6,7 @@
 #include "forms/NoticeForms.h"
 #include "forms/PickForms.h"
 #include "forms/PlanForms.h"
+#include "forms/ProgramsForms.h"
 #include "forms/SettingsForms.h"
 
 namespace gatewise {
@@ -24,6 +25,7 @@ struct Forms {
     forms::DirForm DirForm;
     forms::ExportForm ExportForm;
     forms::DirExportForm DirExportForm;
+    forms::ProgramsForm ProgramsForm;
     forms::ViewPlan ViewPlan;
     forms::PlanCharts PlanCharts;
     forms::FlyForm FlyForm;

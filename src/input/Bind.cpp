@@ -20,6 +20,7 @@
 #include "pages/MsgForm.h"
 #include "pages/OptionsForm.h"
 #include "pages/PlanCharts.h"
+#include "pages/ProgramsForm.h"
 #include "pages/SelectForm.h"
 #include "pages/SettingsForm.h"
 #include "pages/ViewPlan.h"
@@ -28,11 +29,11 @@
 namespace gatewise {
 
 void bindScreens(Program& p) {
-    for (auto* bind : {bindSkinnedButtons, bindMainForm,  bindMainTabs, bindMainData,   bindMainClocks,
-                       bindBoardTimers,    bindBoardRows, bindMainLog,  bindSelectForm, bindFlightForm,
-                       bindInfoForm,       bindMsgForm,   bindMsgBox,   bindWaitForm,   bindSettingsForm,
-                       bindOptionsForm,    bindDirForm,   bindViewPlan, bindPlanCharts, bindExportForm,
-                       bindDirExportForm,  bindFlyForm,   bindLogEntry, bindClockForm}) {
+    for (auto* bind : {bindSkinnedButtons, bindMainForm,      bindMainTabs, bindMainData,   bindMainClocks,
+                       bindBoardTimers,    bindBoardRows,     bindMainLog,  bindSelectForm, bindFlightForm,
+                       bindInfoForm,       bindMsgForm,       bindMsgBox,   bindWaitForm,   bindSettingsForm,
+                       bindOptionsForm,    bindDirForm,       bindViewPlan, bindPlanCharts, bindExportForm,
+                       bindProgramsForm,   bindDirExportForm, bindFlyForm,  bindLogEntry,   bindClockForm}) {
         bind(p);
     }
 }

@@ -12,6 +12,7 @@
 #include "pages/MainTabs.h"
 #include "pages/OptionsForm.h"
 #include "pages/PlanCharts.h"
+#include "pages/ProgramsForm.h"
 #include "pages/SaveSettings.h"
 #include "pages/SelectForm.h"
 #include "pages/ViewPlan.h"
@@ -90,6 +91,7 @@ constexpr Command kFormButton[] = {
     {"close_fly", hide<&Forms::FlyForm>},
     {"close_opt", hide<&Forms::OptionsForm>},
     {"close_charts", hide<&Forms::PlanCharts>},
+    {"close_programs", run<closePrograms>},
     {"charts", run<showCharts>},
     {"log_csv", run<exportLogBook>},
     {"log_print", run<printLogPage>},
@@ -197,6 +199,9 @@ constexpr Command kSwitchButton[] = {
     {"close_log", run<closeLogEntry>},
     {"delete", run<askToDelete>},
     {"export", run<writeExport>},
+    {"programs", modal<&Forms::ProgramsForm>},
+    {"send_programs", run<exportToPrograms>},
+    {"browse", browseProgramFolder},
 };
 
 /// The kinds of export come from their own table.

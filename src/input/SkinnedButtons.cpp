@@ -63,7 +63,8 @@ void bindSwitchButton(Program& p, SkinnedButton& b) {
         RefreshBoardButtons(p, b.button_type);
         RefreshLogButtons(p, b.button_type);
         RefreshExportButtons(p, b.button_type);
-        if (b.screen == &p.forms.SettingsForm) restorePictures(*b.screen);
+        if (b.screen == &p.forms.SettingsForm || b.screen == &p.forms.ProgramsForm)
+            restorePictures(*b.screen);
         const std::string hover = switchHover(b.button_type, b.State);
         if (!hover.empty()) b.picture = hover;
         if (b.button_type == "export") correctExportName(p);

@@ -4,6 +4,7 @@
 #include "pages/MainDispatch.h"
 #include "pages/MainPages.h"
 #include "pages/Pictures.h"
+#include "pages/ProgramsForm.h"
 #include "pages/SaveSettings.h"
 #include "pages/ViewPlan.h"
 #include "pages/WaitForm.h"
@@ -94,6 +95,7 @@ Waited SelectFlight(Program& p, int index, FlightSource source) {
     refreshShownPlan(p);
     RefreshMainButtons(p, " ");
     hideWait(p);
+    exportOnDispatch(p);
     const FlightRecord& flight = s.dispatch.CurrentFlight;
     PlayWelcome(*p.SoundEngine, s.AppDir, flight.AirlineCode.str() + std::to_string(flight.FlightNumber),
                 kWelcomeKind, flight.DestinationIata.str());

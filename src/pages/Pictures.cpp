@@ -74,6 +74,7 @@ void RefreshExportButtons(Program& p, std::string_view t) {
     for (const auto& b : p.forms.ExportForm.exportButton) {
         b->picture = b->button_type + (b->button_type == t ? "_mouse" : "_regular");
     }
+    p.forms.ExportForm.programsButton.picture = "programs_regular";
 }
 
 void RefreshClockButtons(Program& p, std::string_view t) {

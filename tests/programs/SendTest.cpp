@@ -4,6 +4,7 @@
 #include "platform/FileNames.h"
 #include "programs/Folders.h"
 #include "programs/Send.h"
+#include "programs/Settings.h"
 #include "support/TempFolder.h"
 
 #include <csignal>
@@ -160,6 +161,59 @@ TEST(Send, OneMessageSaysAll) {
               "Written: KML. Not written, the disk is full: GPX, FSX and Prepar3D.");
     EXPECT_EQ(summaryOf({{&gpx, "", "the folder is gone"}, {&kml, "", "the disk is full"}}),
               "Not written, the folder is gone: GPX. Not written, the disk is full: KML.");
+}
+
+std::string fileWith(const Choices& choices, const UserFolders& folders, const std::string& before) {
+    return contentWith(Bytes(before.begin(), before.end()), valuesOf(choices, folders));
+}
+
+TEST(Choices, NothingIsTickedInAFileWithoutThem) {
+    const TempFolder home;
+    const Choices choices = choicesIn(Profile("[Main]\r\nXPlane=1\r\n"), foldersIn(home));
+    ASSERT_EQ(choices.lines.size(), formats().size());
+    for (const Choice& choice : choices.lines) {
+        EXPECT_FALSE(choice.ticked);
+        EXPECT_EQ(choice.folder, home.path());
+    }
+    EXPECT_FALSE(choices.withComputed);
+    EXPECT_FALSE(choices.onDispatch);
+}
+
+TEST(Choices, AreReadAsTheyWereWritten) {
+    const TempFolder home;
+    Choices choices = choicesIn(Profile(), foldersIn(home));
+    choices.lines[0] = {true, "/a folder/plans; \xE9"};
+    choices.lines[3] = {true, home.path()}; // ticked: kept, should the proposal change
+    choices.lines[5].folder = std::string(1, '/') + std::string(400, 'x');
+    choices.withComputed = choices.onDispatch = true;
+    const std::string file = fileWith(choices, foldersIn(home), "[Main]\r\nA=1\r\n");
+    EXPECT_TRUE(file.starts_with("[Main]\r\nA=1\r\n")) << file;
+    const Choices read = choicesIn(Profile(file), {});
+    for (std::size_t i = 0; i < choices.lines.size(); ++i) {
+        const bool kept = i == 0 || i == 3 || i == 5;
+        EXPECT_EQ(read.lines[i].ticked, choices.lines[i].ticked) << i;
+        EXPECT_EQ(read.lines[i].folder, kept ? choices.lines[i].folder : "") << i;
+    }
+    EXPECT_TRUE(read.withComputed);
+    EXPECT_TRUE(read.onDispatch);
+}
+
+TEST(Choices, OneFolderThatFailsStopsNoOther) {
+    const TempFolder home;
+    const Plan plan = mixedPlan();
+    Choices choices = choicesIn(Profile(), foldersIn(home));
+    for (const std::size_t i : {0U, 7U, 8U, 10U}) choices.lines[i] = {true, home.path()};
+    choices.lines[7].folder = home.path("/gone");
+    choices.withComputed = true;
+    const Dispatch dispatch{plan, "F", testMoment()};
+    const auto sent = sendTicked(choices, dispatch);
+    EXPECT_EQ(summaryOf(sent),
+              "Written: X-Plane 11 and 12, KML, Route text. Not written, the folder is gone: GPX.");
+    EXPECT_NE(home.read("/F.fms").find("28 TOC"), std::string::npos);
+    EXPECT_EQ(home.read("/F.txt").find("TOC"), std::string::npos);
+    EXPECT_EQ(clipboardText(choices, dispatch) + "\n", home.read("/F.txt"));
+    choices.lines[10].ticked = false;
+    EXPECT_EQ(clipboardText(choices, dispatch), "");
 }
 
 } // namespace

@@ -1,0 +1,29 @@
+#include "work/ProgramChoices.h"
+
+#include "programs/Cycle.h"
+#include "schedule/FlightTexts.h"
+#include "work/ConfigFile.h"
+
+#include <algorithm>
+
+namespace gatewise {
+
+programs::Choices readChoices(const std::string& AppDir) {
+    return programs::choicesIn(loadProfile(configPath(AppDir)), userFolders());
+}
+
+std::error_code writeChoices(const std::string& AppDir, const programs::Choices& choices) {
+    const UserFolders folders = userFolders();
+    const auto same = [](const ProfileValue& a, const ProfileValue& b) { return a.value == b.value; };
+    const auto values = valuesOf(choices, folders);
+    if (std::ranges::equal(values, valuesOf(readChoices(AppDir), folders), same)) return {};
+    return WriteValues(values, configPath(AppDir));
+}
+
+programs::Dispatch programDispatch(const PlanDesk& desk, const Schedule& schedule, const Dispatch& dispatch,
+                                   const Machine& machine) {
+    return {desk.plan, flightStem(schedule.tables, dispatch.CurrentFlight),
+            programs::utcOf(machine.clock.now(), machine.clock.bias())};
+}
+
+} // namespace gatewise
