@@ -147,7 +147,11 @@ void Tour::flying() {
 void Tour::exports() {
     visit(
         "export", f_.ExportForm, [this] { stage_.click(f_.MainForm.export_LABEL); },
-        [this] { stage_.click(f_.ExportForm.exportButton(1)); });
+        [this] { stage_.click(f_.ExportForm.programsButton); });
+    for (const int line : {0, 4, 7}) then([this, line] { stage_.click(f_.ProgramsForm.programCHECK(line)); });
+    visit(
+        "programs", f_.ProgramsForm, [] {}, [this] { close(); });
+    then([this] { stage_.click(f_.ExportForm.exportButton(1)); });
     visit(
         "export-file", f_.DirExportForm, [] {}, [this] { stage_.click(f_.DirExportForm.selectButton); });
     visit(
