@@ -27,7 +27,7 @@ void showChoices(forms::ProgramsForm& f, const Choices& choices) {
     for (int i = 0; i < forms::kProgramLines; ++i) {
         const auto& line = choices.lines[static_cast<std::size_t>(i)];
         f.programCHECK(i).set(line.ticked ? 1 : 0);
-        f.folderTEXT(i).text = line.folder;
+        f.folderTEXT(i).text = f.folderTEXT(i).toolTip = line.folder;
     }
     f.computedCHECK.set(choices.withComputed ? 1 : 0);
     f.alwaysCHECK.set(choices.onDispatch ? 1 : 0);
