@@ -61,21 +61,22 @@ struct MountPlace {
 
 constexpr MountPlace kMountPlaces[] = {{"/media", 2}, {"/run/media", 2}, {"/mnt", 1}, {"/Volumes", 1}};
 
-void addFolders(PathList& drives, const std::string& folder, int depth) {
+void addFolders(std::vector<std::string>& found, const std::string& folder, int depth) {
     for (const auto& entry : files::list(folder)) {
         if (!entry.folder) continue;
         const std::string path = below(folder, entry.name);
-        drives.add(path);
-        if (depth > 1) addFolders(drives, path, depth - 1);
+        found.push_back(path);
+        if (depth > 1) addFolders(found, path, depth - 1);
     }
 }
 
-void addVolumes(PathList& drives) {
-    drives.add("/");
-    for (const auto& place : kMountPlaces) addFolders(drives, place.folder, place.depth);
-}
-
 } // namespace
+
+std::vector<std::string> mountedVolumes(const std::string& root) {
+    std::vector<std::string> found;
+    for (const auto& place : kMountPlaces) addFolders(found, root + place.folder, place.depth);
+    return found;
+}
 
 void fillDrives(PathList& drives) {
     drives.clear();
@@ -83,7 +84,10 @@ void fillDrives(PathList& drives) {
         const std::string drive{letter, ':'};
         if (files::folderExists(drive)) drives.add(drive);
     }
-    if (drives.count() == 0) addVolumes(drives);
+    if (drives.count() == 0) {
+        drives.add("/");
+        for (auto& volume : mountedVolumes()) drives.add(std::move(volume));
+    }
     if (drives.path.empty()) drives.path = drives.items.front();
     drives.picked = std::max(drives.find(drives.path), 0);
 }

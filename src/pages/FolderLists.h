@@ -3,6 +3,7 @@
 #include "forms/Control.h"
 
 #include <string>
+#include <vector>
 
 namespace gatewise {
 
@@ -12,6 +13,10 @@ struct FolderLists {
     PathList& Dir1;
     PathList& File1;
 };
+
+/// The folders in which systems without drive letters mount volumes, a folder before those inside it; `root`
+/// stands in front of the usual places.
+std::vector<std::string> mountedVolumes(const std::string& root = {});
 
 /// Roots and mounted volumes for the drive list.
 void fillDrives(PathList& drives);
