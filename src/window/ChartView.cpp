@@ -20,8 +20,8 @@ namespace {
 struct ToneLook {
     Tone tone;
     QColor screen, paper;
-    double width;  // of a line, pixels
-    double radius; // of a mark, pixels
+    double width;  // of a line, pixels of the screen
+    double radius; // of a mark, pixels of the screen
 };
 
 const ToneLook& look(Tone tone) {
@@ -43,7 +43,8 @@ const ToneLook& look(Tone tone) {
 /// route.
 class Words {
 public:
-    Words(const QRectF& box, const QFontMetricsF& metrics) : box_(box), metrics_(metrics) {}
+    Words(const QRectF& box, const QFontMetricsF& metrics, double pixel)
+        : box_(box), metrics_(metrics), pixel_(pixel) {}
 
     void keepOff(const QPolygonF& route) {
         for (qsizetype i = 1; i < route.size(); ++i) route_.emplace_back(route[i - 1], route[i]);
@@ -54,13 +55,13 @@ public:
     std::optional<QPointF> place(const QPointF& mark, double radius, const QString& word) {
         const double width = metrics_.horizontalAdvance(word);
         const double height = metrics_.ascent();
-        const double gap = radius + 2;
+        const double gap = radius + 2 * pixel_;
         // Above, below, to the right, to the left, then the corners between them.
         const QPointF corners[] = {
             mark + QPointF(-width / 2, -gap - height),
             mark + QPointF(-width / 2, gap),
-            mark + QPointF(gap + 1, -height / 2),
-            mark + QPointF(-gap - 1 - width, -height / 2),
+            mark + QPointF(gap + pixel_, -height / 2),
+            mark + QPointF(-gap - pixel_ - width, -height / 2),
             mark + QPointF(radius, gap),
             mark + QPointF(-radius - width, gap),
             mark + QPointF(radius, -gap - height),
@@ -101,6 +102,7 @@ private:
 
     QRectF box_;
     QFontMetricsF metrics_;
+    double pixel_;
     std::vector<QRectF> taken_;
     std::vector<QLineF> route_;
 };
@@ -119,7 +121,10 @@ void drawMark(QPainter& painter, const QPointF& at, Tone kind, double radius, co
 } // namespace
 
 void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, const QFont& font,
-                 bool paper) {
+                 double point) {
+    constexpr double kPixel = 0.75; // points
+    const bool paper = point > 0;
+    const double pixel = paper ? kPixel * point : 1;
     QRectF sheet = box;
     if (drawing.square) {
         const double side = std::min(box.width(), box.height());
@@ -132,11 +137,11 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
     painter.setClipRect(box);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(font);
-    const QFontMetricsF metrics(font);
-    Words words(box, metrics);
+    const QFontMetricsF metrics(font, painter.device());
+    Words words(box, metrics, pixel);
     for (const auto& line : drawing.lines) {
         const ToneLook& tone = look(line.tone);
-        QPen pen(paper ? tone.paper : tone.screen, tone.width);
+        QPen pen(paper ? tone.paper : tone.screen, tone.width * pixel);
         pen.setJoinStyle(Qt::RoundJoin);
         painter.setPen(pen);
         QPolygonF points;
@@ -160,13 +165,14 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
     for (const auto& mark : drawing.marks) {
         const ToneLook& tone = look(mark.tone);
         const QPointF at = place(mark.at);
-        drawMark(painter, at, mark.tone, tone.radius, paper ? tone.paper : tone.screen);
-        words.keepOff(QRectF(at.x() - tone.radius, at.y() - tone.radius, 2 * tone.radius, 2 * tone.radius));
+        const double radius = tone.radius * pixel;
+        drawMark(painter, at, mark.tone, radius, paper ? tone.paper : tone.screen);
+        words.keepOff(QRectF(at.x() - radius, at.y() - radius, 2 * radius, 2 * radius));
     }
     for (const auto& mark : drawing.marks) {
         const ToneLook& tone = look(mark.tone);
         const QString word = toQt(mark.label);
-        const auto at = words.place(place(mark.at), tone.radius, word);
+        const auto at = words.place(place(mark.at), tone.radius * pixel, word);
         if (word.isEmpty() || !at) continue;
         painter.setPen(paper ? tone.paper : tone.screen);
         painter.drawText(*at, word);
@@ -191,8 +197,7 @@ void ChartView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     drawWell(painter, rect().adjusted(0, 0, 0, -1), QColor(0x05, 0x07, 0x09), kSocket,
              QColor(0x39, 0x43, 0x4D));
-    drawDrawing(painter, QRectF(rect()).adjusted(2, 2, -2, -3), shown_, actor_.skin().text("caption").font,
-                false);
+    drawDrawing(painter, QRectF(rect()).adjusted(2, 2, -2, -3), shown_, actor_.skin().text("caption").font);
 }
 
 } // namespace gatewise::window

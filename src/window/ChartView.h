@@ -6,8 +6,11 @@ namespace gatewise::window {
 
 class Skin;
 
-/// Draws a drawing into a box, on the screen in the look's colours, on paper in black and grey.
-void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, const QFont& font, bool paper);
+/// Draws a drawing into a box: on the screen in the look's colours, on paper in black and grey. `point` is
+/// how many units of the painter make a point of paper, 0 on the screen. Texts are measured on the painter's
+/// device.
+void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, const QFont& font,
+                 double point = 0);
 
 /// A drawing of the program's own data on black glass.
 class ChartView : public PaintedView {

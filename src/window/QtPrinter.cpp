@@ -1,16 +1,16 @@
 #include "platform/Files.h"
 #include "platform/Text.h"
-#include "window/ChartView.h"
+#include "window/PrintedPages.h"
 #include "window/QtMachine.h"
 #include "window/QtText.h"
 
 #include <QFontDatabase>
 #include <QFontInfo>
-#include <QPainter>
+#include <QLocale>
+#include <QPageSize>
 #include <QPrinter>
 #include <QPrinterInfo>
 
-#include <algorithm>
 #include <filesystem>
 
 namespace gatewise::window {
@@ -29,36 +29,16 @@ QFont pitchedFont(const std::string& name, int size) {
     return font;
 }
 
-/// Lines down the page, page after page. False when the device takes nothing.
-/// The drawings stand on a page of their own, one below the other.
-bool printAll(QPrinter& printer, const QFont& font, const QString& text,
-              const std::vector<Drawing>& drawings) {
-    QPainter painter;
-    if (!painter.begin(&printer)) return false;
-    painter.setFont(font);
-    const QFontMetricsF metrics(font, &printer);
-    const QRectF page(QPointF(0, 0), QSizeF(printer.pageRect(QPrinter::DevicePixel).size()));
-    double y = 0;
-    QString lines = text;
-    lines.replace("\r\n", "\n");
-    const auto all = lines.split('\n');
-    for (const QString& line : all) {
-        if (y + metrics.height() > page.height()) {
-            printer.newPage();
-            y = 0;
-        }
-        painter.drawText(QRectF(0, y, page.width(), metrics.height() + 1),
-                         Qt::TextExpandTabs | Qt::TextSingleLine, line);
-        y += metrics.lineSpacing();
-    }
-    if (!drawings.empty()) printer.newPage();
-    const double height = page.height() / static_cast<double>(std::max<std::size_t>(drawings.size(), 1));
-    double top = 0;
-    for (const Drawing& drawing : drawings) {
-        drawDrawing(painter, QRectF(0, top, page.width(), height - metrics.height()), drawing, font, true);
-        top += height;
-    }
-    return painter.end();
+constexpr double kMargin = 42; // points, on all sides: 80 columns of ten points fit on either paper
+
+void setMargins(QPrinter& printer) {
+    printer.setPageMargins({kMargin, kMargin, kMargin, kMargin}, QPageLayout::Point);
+}
+
+/// The paper of the country where there is no printer that has its own.
+QPageSize usualPaper() {
+    const bool letter = QLocale::system().measurementSystem() == QLocale::ImperialUSSystem;
+    return QPageSize(letter ? QPageSize::Letter : QPageSize::A4);
 }
 
 /// First name "Printout 1", "Printout 2" ... for which the folder holds no file.
@@ -78,7 +58,8 @@ std::error_code QtPrinter::print(const std::string& font, int size, const std::s
     if (!info.isNull()) {
         QPrinter printer(info, QPrinter::HighResolution);
         printer.setDocName("Gatewise Terminal");
-        if (printAll(printer, face, toQt(text), drawings)) return {};
+        setMargins(printer);
+        if (printPages(printer, face, toQt(text), drawings)) return {};
     }
     const std::string folder = folder_ + "\\Printouts";
     std::error_code error;
@@ -90,7 +71,10 @@ std::error_code QtPrinter::print(const std::string& font, int size, const std::s
     QPrinter pages(QPrinter::HighResolution);
     pages.setOutputFormat(QPrinter::PdfFormat);
     pages.setOutputFileName(nativePath(name + ".pdf"));
-    const bool drawn = printAll(pages, face, toQt(text), drawings);
+    pages.setDocName(titleOf(toQt(text)));
+    pages.setPageSize(usualPaper());
+    setMargins(pages);
+    const bool drawn = printPages(pages, face, toQt(text), drawings);
     const std::string shown = drawn ? name + ".pdf" : name + ".txt";
     desktop_.notify((info.isNull() ? "There is no printer" : "The printer took nothing") +
                     std::string(". The pages lie in ") + fromQt(nativePath(shown)));

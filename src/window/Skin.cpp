@@ -18,6 +18,9 @@ namespace gatewise::window {
 
 namespace {
 
+/// Before the names of families that were changed for the program.
+constexpr QLatin1String kOwnPrefix("Gatewise ");
+
 QByteArray resource(const char* name) {
     takeResources();
     QFile file(QString(":/gatewise/") + name);
@@ -49,7 +52,11 @@ void Skin::loadFonts() {
         const std::string name = lowerCase(entry.name);
         if (name.ends_with(".ttf") || name.ends_with(".otf")) {
             typefaces_.push_back(nativePath(folder_ + "\\Fonts\\" + entry.name));
-            QFontDatabase::addApplicationFont(typefaces_.back());
+            const int id = QFontDatabase::addApplicationFont(typefaces_.back());
+            const QStringList families = QFontDatabase::applicationFontFamilies(id);
+            for (const QString& family : families) {
+                if (family.startsWith(kOwnPrefix)) families_[family.mid(kOwnPrefix.size())] = family;
+            }
         }
     }
 }
@@ -68,7 +75,7 @@ void Skin::loadCaptions() {
 
 QFont Skin::font(const std::string& name) const {
     const FontRole& role = layout_.role(name);
-    QFont font(role.family);
+    QFont font(families_.value(role.family, role.family));
     font.setStyleHint(role.family.startsWith("OCR") ? QFont::Monospace : QFont::SansSerif);
     font.setPixelSize(qRound(role.size));
     font.setWeight(static_cast<QFont::Weight>(role.weight));
@@ -82,7 +89,9 @@ QFont Skin::font(const std::string& name) const {
 QRawFont Skin::shipped(const FontRole& role) const {
     for (const QString& file : typefaces_) {
         QRawFont face(file, role.size, QFont::PreferNoHinting);
-        if (face.isValid() && face.familyName() == role.family && face.weight() == role.weight) return face;
+        if (face.isValid() && face.familyName() == families_.value(role.family, role.family) &&
+            face.weight() == role.weight)
+            return face;
     }
     return {};
 }

@@ -90,7 +90,7 @@ class Help(unittest.TestCase):
     def test_fonts_are_shipped(self):
         with open(os.path.join(help_pages.TEXTS, 'style.css'), encoding='utf-8') as file:
             named = set(re.findall(r'url\("\.\./Fonts/([^"]+)"\)', file.read()))
-        shipped = {os.path.basename(fonts.find(*face)) for face in fonts.used_in_layout(templates.layout())}
+        shipped = {fonts.shipped_name(fonts.find(*face)) for face in fonts.used_in_layout(templates.layout())}
         self.assertTrue(named)
         self.assertLessEqual(named, shipped)
 

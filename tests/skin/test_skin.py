@@ -2,6 +2,7 @@
 """Tests of the skin builder: templates, raster formats, fonts, the picture check."""
 import os
 import struct
+import subprocess
 import sys
 import tempfile
 import unittest
@@ -150,6 +151,32 @@ class Fonts(unittest.TestCase):
             fonts.copy_to(folder, layout)
             self.assertEqual(sorted(os.listdir(folder)),
                              ['Apache-2.0.txt', 'RobotoCondensed-Medium.ttf', 'fonts-roboto-unhinted-licence.txt'])
+
+
+    def test_cubic_outlines_become_truetype_under_a_name_of_their_own(self):
+        layout = {'fonts': {'a': {'family': 'B612', 'weight': 'bold', 'size': 12}}}
+        with tempfile.TemporaryDirectory() as folder:
+            with open(os.path.join(folder, 'B612-Bold.otf'), 'wb'):
+                pass  # of an older build
+            fonts.copy_to(folder, layout)
+            self.assertEqual(sorted(os.listdir(folder)), ['B612-Bold.ttf', 'fonts-b612-licence.txt'])
+            face = os.path.join(folder, 'B612-Bold.ttf')
+            with open(face, 'rb') as file:
+                self.assertEqual(file.read(4), b'\0\1\0\0')
+            names = subprocess.run(['fc-scan', '-f', '%{family}|%{style}', face], stdout=subprocess.PIPE)
+            self.assertEqual(names.stdout.decode(), 'Gatewise B612|Bold')
+            new, old = fonts.Metrics(face), fonts.metrics('B612', 700)
+            for text in ('Gatewise Terminal', '0123456789', 'WAVE To'):
+                self.assertEqual(new.width(text, 1000), old.width(text, 1000))
+
+    def test_a_conversion_is_not_repeated(self):
+        layout = {'fonts': {'a': {'family': 'B612', 'weight': 'bold', 'size': 12}}}
+        with tempfile.TemporaryDirectory() as folder:
+            fonts.copy_to(folder, layout)
+            face = os.path.join(folder, 'B612-Bold.ttf')
+            before = os.stat(face).st_mtime_ns
+            fonts.copy_to(folder, layout)
+            self.assertEqual(os.stat(face).st_mtime_ns, before)
 
 
 class Check(unittest.TestCase):

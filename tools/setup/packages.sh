@@ -30,9 +30,10 @@ need_packages() {
 
 # Everything that the build of the program and its folder takes.
 BUILD_PACKAGES=(g++ cmake ninja-build python3 qt6-base-dev libqt6svg6-dev libgl-dev libopenal-dev libarchive-dev librsvg2-bin
-  fontconfig fonts-b612 fonts-roboto-unhinted fonts-dseg fonts-ocr-b flite sox)
+  fontconfig fonts-b612 fonts-roboto-unhinted fonts-dseg fonts-ocr-b python3-fonttools flite sox)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libsqlite3-dev clang clang-format clang-tidy libclang-rt-14-dev git desktop-file-utils appstream
-  libxml2-dev libxml2-utils gpsbabel) # read back the plans that are written for other programs
+  libxml2-dev libxml2-utils gpsbabel  # read back the plans that are written for other programs
+  poppler-utils) # and the printed sheets
 
 # What the packages take besides.
 PACKAGE_PACKAGES=(git dpkg-dev lintian patchelf xz-utils file)

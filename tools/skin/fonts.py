@@ -5,6 +5,7 @@ import re
 import shutil
 import struct
 import subprocess
+import sys
 import xml.etree.ElementTree as ElementTree
 
 WEIGHTS = {'regular': 400, 'medium': 500, 'bold': 700}
@@ -18,6 +19,7 @@ PACKAGES = {
     'DSEG7 Classic': ('fonts-dseg', None),
     'OCR B': ('fonts-ocr-b', None),
 }
+TRUETYPE = os.path.join(os.path.dirname(os.path.abspath(__file__)), 'truetype.py')
 LICENCES = '/usr/share/common-licenses'
 DOCUMENTS = '/usr/share/doc'
 
@@ -71,11 +73,51 @@ def copy_to(folder, layout):
     os.makedirs(folder, exist_ok=True)
     for family, weight in sorted(used_in_layout(layout)):
         path = find(family, weight)
-        refresh(path, os.path.join(folder, os.path.basename(path)))
+        target = os.path.join(folder, shipped_name(path))
+        if is_cubic(path):
+            convert(path, target)
+        else:
+            refresh(path, target)
         package, licence = PACKAGES[family]
         refresh(os.path.join(DOCUMENTS, package, 'copyright'), os.path.join(folder, package + '-licence.txt'))
         if licence:
             refresh(os.path.join(LICENCES, licence), os.path.join(folder, licence + '.txt'))
+
+
+def is_cubic(path):
+    """Whether a face has outlines whose stems screens darken."""
+    with open(path, 'rb') as file:
+        return file.read(4) == b'OTTO'
+
+
+def shipped_name(path):
+    """Name of the file in which a face lies beside the program."""
+    name = os.path.basename(path)
+    return os.path.splitext(name)[0] + '.ttf' if is_cubic(path) else name
+
+
+@functools.lru_cache(None)
+def converter():
+    """Command that writes a face as TrueType: an interpreter that has Debian's library for fonts."""
+    for python in (sys.executable, '/usr/bin/python3'):
+        try:
+            if subprocess.run([python, '-c', 'import fontTools'], stderr=subprocess.DEVNULL).returncode == 0:
+                return [python, '-B', TRUETYPE]
+        except OSError:
+            continue
+    raise FontMissing('fontTools is missing (package python3-fonttools)')
+
+
+def convert(source, target):
+    """Writes a face as TrueType unless the target is newer than its source and the tool, and takes away the face
+    as it was."""
+    stale = os.path.join(os.path.dirname(target), os.path.basename(source))
+    if stale != target and os.path.isfile(stale):
+        os.remove(stale)
+    if os.path.isfile(target):
+        if os.stat(target).st_mtime >= max(os.stat(path).st_mtime for path in (source, TRUETYPE)):
+            return
+    subprocess.run(converter() + [source, target], check=True)
 
 
 def refresh(source, target):
