@@ -2,6 +2,7 @@
 #include "import/Install.h"
 #include "import/Texts.h"
 #include "platform/Files.h"
+#include "support/TempFolder.h"
 #include "unpack/OpenSources.h"
 
 #include <algorithm>
@@ -23,51 +24,48 @@ std::vector<Source> allSources() {
     return out;
 }
 
-/// A program folder with the sample sets, and a place for sources; gone with the object.
+fs::path sampleTables() {
+    return fs::path(GATEWISE_TEST_SOURCE_DIR) / "data/sample";
+}
+
+/// The sample's main set, compiled once for all tests of this process.
+const fs::path& sampleCompiled() {
+    static const test::TempFolder folder;
+    static const fs::path out = [] {
+        gt1::Report report;
+        gt1::compileFolder(sampleTables(), folder / "Data", std::nullopt, report);
+        return folder / "Data";
+    }();
+    return out;
+}
+
+/// A program folder with the sample world, of a small set alone; gone with the object.
 class Folder {
 public:
-    explicit Folder(const std::string& name)
-        : path_(fs::temp_directory_path() / ("gatewise_import_" + name)) {
-        fs::remove_all(path_);
-        fs::create_directories(path_ / "Data");
+    Folder() {
+        fs::create_directories(path() / "Data");
         gt1::Report report;
-        gt1::compileFolder(fs::path(GATEWISE_TEST_SOURCE_DIR) / "data/sample-small", path_ / "Data",
-                           sampleShared(), report);
-        for (auto& table : {"aircraft.gt1", "VOR.gt1", "NDB.gt1", "ISC.gt1", "JRT.gt1"})
-            fs::copy_file(sampleCompiled() / table, path_ / "Data" / table);
+        gt1::compileFolder(fs::path(GATEWISE_TEST_SOURCE_DIR) / "data/sample-small", path() / "Data",
+                           sampleTables(), report);
+        for (const char* table : {"aircraft.gt1", "VOR.gt1", "NDB.gt1", "ISC.gt1", "JRT.gt1"})
+            fs::copy_file(sampleCompiled() / table, path() / "Data" / table);
         EXPECT_EQ(report.errors(), std::vector<std::string>{});
     }
-    ~Folder() { fs::remove_all(path_); }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
 
-    [[nodiscard]] const fs::path& path() const { return path_; }
+    [[nodiscard]] fs::path path() const { return folder_.native(); }
 
     [[nodiscard]] std::map<std::string, std::string> files() const {
         std::map<std::string, std::string> out;
-        for (const auto& entry : fs::recursive_directory_iterator(path_)) {
+        for (const auto& entry : fs::recursive_directory_iterator(path())) {
             if (!entry.is_regular_file()) continue;
             const auto bytes = files::readAll(files::textOf(entry.path()));
-            out[fs::relative(entry.path(), path_).string()] = std::string(bytes->begin(), bytes->end());
+            out[fs::relative(entry.path(), path()).string()] = std::string(bytes->begin(), bytes->end());
         }
         return out;
     }
 
 private:
-    static fs::path sampleShared() { return fs::path(GATEWISE_TEST_SOURCE_DIR) / "data/sample"; }
-
-    /// The sample's main set, compiled once for all tests.
-    static const fs::path& sampleCompiled() {
-        static const fs::path folder = [] {
-            const fs::path out = fs::temp_directory_path() / "gatewise_import_sample";
-            gt1::Report report;
-            gt1::compileFolder(sampleShared(), out, std::nullopt, report);
-            return out;
-        }();
-        return folder;
-    }
-
-    fs::path path_;
+    test::TempFolder folder_;
 };
 
 Imported imported(const Folder& folder, std::vector<Source> sources, const Job& job = Job()) {
@@ -84,7 +82,7 @@ std::vector<std::string> put(const Folder& folder, const Imported& made) {
 }
 
 TEST(Import, EveryFormTogetherMakesASet) {
-    const Folder folder("set");
+    const Folder folder;
     const Imported made = imported(folder, allSources());
     EXPECT_EQ(made.faults, std::vector<std::string>{});
     EXPECT_EQ(made.name, "June 2008");
@@ -100,8 +98,8 @@ TEST(Import, EveryFormTogetherMakesASet) {
 }
 
 TEST(Import, TheOrderOfTheSourcesChangesNothing) {
-    const Folder one("order1");
-    const Folder two("order2");
+    const Folder one;
+    const Folder two;
     std::vector<Source> turned = allSources();
     std::reverse(turned.begin(), turned.end());
     const Imported a = imported(one, allSources());
@@ -113,7 +111,7 @@ TEST(Import, TheOrderOfTheSourcesChangesNothing) {
 }
 
 TEST(Import, TheSameAgainAddsNothing) {
-    const Folder folder("again");
+    const Folder folder;
     put(folder, imported(folder, allSources()));
     const auto before = folder.files();
     const Imported again = imported(folder, allSources());
@@ -123,7 +121,7 @@ TEST(Import, TheSameAgainAddsNothing) {
 }
 
 TEST(Import, SharedTablesGrowAtTheirEnd) {
-    const Folder folder("grow");
+    const Folder folder;
     const auto before = folder.files();
     put(folder, imported(folder, allSources()));
     const auto after = folder.files();
@@ -132,7 +130,7 @@ TEST(Import, SharedTablesGrowAtTheirEnd) {
 }
 
 TEST(Import, ABrokenSourceOfAnyKindStopsItAndWritesNothing) {
-    const Folder folder("broken");
+    const Folder folder;
     const auto before = folder.files();
     for (const auto& [kind, text] : samples()) {
         std::vector<Source> sources{textSource("good", kAirportsDat),
@@ -146,7 +144,7 @@ TEST(Import, ABrokenSourceOfAnyKindStopsItAndWritesNothing) {
 }
 
 TEST(Import, WithoutAirportsThereIsNothing) {
-    const Folder folder("none");
+    const Folder folder;
     EXPECT_EQ(imported(folder, {textSource("r", kRoutesDat)}).faults.size(), 1U);
 }
 
@@ -155,7 +153,7 @@ TEST(Import, NoSetNameLeavesTheDataFolder) {
          {"", ".", "..", "a/b", "a\\b", "CON", "all real world airline schedules", " x", ".x"})
         EXPECT_FALSE(isSetName(name)) << name;
     EXPECT_TRUE(isSetName("June 2002"));
-    const Folder folder("name");
+    const Folder folder;
     const auto before = folder.files();
     Imported made = imported(folder, allSources());
     made.name = "../outside";
@@ -164,7 +162,7 @@ TEST(Import, NoSetNameLeavesTheDataFolder) {
 }
 
 TEST(Import, ATableThatCannotBeCompiledLeavesAllAsItWas) {
-    const Folder folder("limit");
+    const Folder folder;
     const auto before = folder.files();
     Imported made = imported(folder, allSources());
     made.tables[0].text += "AAA,KAAA,Twice,,0,0,0\n";
@@ -173,7 +171,7 @@ TEST(Import, ATableThatCannotBeCompiledLeavesAllAsItWas) {
 }
 
 TEST(Import, ARunThatWasStoppedBetweenRenamesIsMadeGood) {
-    const Folder folder("stopped");
+    const Folder folder;
     const Imported made = imported(folder, allSources());
     put(folder, made);
     const fs::path set = folder.path() / "Data/June 2008";
@@ -200,7 +198,7 @@ private:
 };
 
 TEST(Import, ACancelledJobMakesNothing) {
-    const Folder folder("cancel");
+    const Folder folder;
     for (const char* step : {"Reading s100", "Navigation", "Routes"}) {
         const Imported made = imported(folder, allSources(), CancelAt(step));
         EXPECT_TRUE(made.cancelled) << step;
@@ -215,7 +213,7 @@ void pack(const fs::path& folder, const std::string& command) {
 
 TEST(Unpack, GzXzAndZipReadLikeThePlainFile) {
 #if defined(GATEWISE_TEST_ARCHIVES)
-    const Folder folder("packed");
+    const Folder folder;
     const fs::path place = folder.path() / "sources";
     fs::create_directories(place);
     std::ofstream(place / "routes.dat") << kRoutesDat;
@@ -241,7 +239,7 @@ TEST(Unpack, GzXzAndZipReadLikeThePlainFile) {
 }
 
 TEST(Unpack, ATornFileIsAFault) {
-    const Folder folder("torn");
+    const Folder folder;
     const fs::path place = folder.path() / "sources";
     fs::create_directories(place);
     std::string rows;
