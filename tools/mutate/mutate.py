@@ -24,12 +24,15 @@ ROOT = HERE.parent.parent
 
 # Room -> the test programs that look at it. "scripts" are the transcripts.
 TESTS = {
-    'platform': ['test_platform', 'test_native'],
+    'platform': ['test_platform', 'test_native', 'test_drive'],
     'schedule': ['test_schedule', 'test_selection'],
     'board': ['test_board'],
     'plan': ['test_plan', 'test_export'],
     'selection': ['test_selection'],
     'export': ['test_export'],
+    'programs': ['test_programs'],
+    'gt1': ['test_gt1'],
+    'import': ['test_import'],
     'simulator': ['test_simulator'],
     'logbook': ['test_logbook'],
     'sound': ['test_sound'],
