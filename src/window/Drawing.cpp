@@ -1,10 +1,13 @@
 #include "window/Drawing.h"
 
+#include "window/Witness.h"
+
 #include <QPainterPath>
 
 namespace gatewise::window {
 
 void drawPicture(QPainter& painter, const QRect& box, const QPixmap& picture) {
+    if (Witness::now != nullptr) Witness::now->picture(*painter.device(), picture);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(box, picture);
 }

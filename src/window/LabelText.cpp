@@ -1,5 +1,7 @@
 #include "window/LabelText.h"
 
+#include "window/Witness.h"
+
 #include <QFontMetricsF>
 #include <QGlyphRun>
 
@@ -111,6 +113,7 @@ double firstBaseLine(const TextStyle& style, double height, int lines) {
 }
 
 void drawText(QPainter& painter, const QRectF& box, const QString& text, const TextStyle& style) {
+    if (Witness::now != nullptr) Witness::now->text(*painter.device(), text, style.color);
     if (text.isEmpty()) return;
     painter.save();
     painter.setClipRect(box, Qt::IntersectClip);

@@ -1,0 +1,196 @@
+#include "gtwindow/WindowBackend.h"
+
+#include "drive/Controls.h"
+#include "gtwindow/Difference.h"
+#include "gtwindow/Lists.h"
+#include "gtwindow/Ranges.h"
+#include "screens/UserEvents.h"
+#include "window/QtText.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QDialog>
+#include <QTimer>
+
+namespace gatewise::gtwindow {
+
+namespace {
+
+bool isRows(const Control& control) {
+    return control.kind == Kind::ListBox || control.kind == Kind::ListView ||
+           control.kind == Kind::FolderList || control.kind == Kind::FileList;
+}
+
+int pickedOf(const Control& control) {
+    if (control.kind == Kind::ListView) return static_cast<const ListView&>(control).picked;
+    return static_cast<const ItemControl&>(control).picked;
+}
+
+Qt::Key codeOf(drive::Key key) {
+    switch (key) {
+    case drive::Key::Enter:
+        return Qt::Key_Return;
+    case drive::Key::Space:
+        return Qt::Key_Space;
+    case drive::Key::Escape:
+        break;
+    }
+    return Qt::Key_Escape;
+}
+
+} // namespace
+
+WindowBackend::WindowBackend(drive::Bench& bench)
+    : bench_(bench),
+      window_({bench.machine.clock, bench.machine.locale, bench.machine.registry, bench.machine.processes,
+               bench.machine.random, bench.sounds.device, &bench.machine.printer, &time_, &loop_},
+              bench.appDir) {
+    QDesktopServices::setUrlHandler("file", this, "openHelp");
+    qApp->installEventFilter(this);
+}
+
+void WindowBackend::openHelp(const QUrl& page) {
+    bench_.machine.desktop.helpPages.push_back(window::fromQt(page.toLocalFile()));
+}
+
+/// Nobody sits at this desk to answer dialogs of the toolkit: what they propose is taken.
+bool WindowBackend::eventFilter(QObject* object, QEvent* event) {
+    if (event->type() == QEvent::Show) {
+        if (auto* dialog = qobject_cast<QDialog*>(object)) {
+            QTimer::singleShot(0, dialog, [this, dialog] { answerDialog(*dialog); });
+        }
+    }
+    return QObject::eventFilter(object, event);
+}
+
+void WindowBackend::answerDialog(QWidget& dialog) {
+    dialog.activateWindow();
+    Keyboard::press(Qt::Key_Return);
+}
+
+void WindowBackend::advance(std::int64_t milliseconds) {
+    window_.desk.act([&] { bench_.machine.loop.advance(milliseconds); });
+}
+
+void WindowBackend::tick(Timer& timer) {
+    window_.desk.act([&] { user::tick(timer); });
+}
+
+/// Where the mouse goes for a control: in a list to its picked row.
+std::optional<Spot> WindowBackend::spotOf(const Control& control) {
+    return isRows(control) ? pickedSpot(pointer_, control, pickedOf(control)) : pointer_.reach(control);
+}
+
+void WindowBackend::click(Control& control) {
+    if (const auto spot = spotOf(control)) pointer_.click(*spot);
+}
+
+void WindowBackend::doubleClick(Control& control) {
+    if (const auto spot = spotOf(control)) pointer_.doubleClick(*spot);
+}
+
+void WindowBackend::press(Control& control) {
+    if (const auto spot = spotOf(control)) pointer_.press(*spot);
+}
+
+void WindowBackend::release(Control& control) {
+    pointer_.release(control, spotOf(control));
+}
+
+void WindowBackend::rightPress(Control& control) {
+    if (const auto spot = spotOf(control)) pointer_.click(*spot, Qt::RightButton);
+}
+
+void WindowBackend::move(Control& control) {
+    auto* table = isRows(control) ? tableOf(pointer_, control) : nullptr;
+    const auto spot = table == nullptr
+                          ? pointer_.reach(control)
+                          : pointer_.reach(control, *table->viewport(), table->viewport()->rect());
+    if (spot) pointer_.move(*spot);
+}
+
+void WindowBackend::drag(Control& ground, int dx, int dy) {
+    if (const auto spot = pointer_.reach(ground, true)) pointer_.drag(*spot, {dx, dy});
+}
+
+void WindowBackend::focus(Control& control) {
+    if (Keyboard::focused() == &control) Keyboard::press(Qt::Key_Tab);
+    keyboard_.walkTo(control);
+}
+
+void WindowBackend::key(Control& control, drive::Key key, int repeats) {
+    if (keyboard_.walkTo(control))
+        Keyboard::hold(codeOf(key), repeats);
+    else if (key == drive::Key::Escape && control.enabled)
+        escape(*control.screen);
+}
+
+void WindowBackend::escape(Screen& screen) {
+    if (!desk().window(screen).isVisible()) return;
+    keyboard_.turnTo(screen);
+    Keyboard::press(Qt::Key_Escape);
+}
+
+void WindowBackend::type(TextBox& box, std::string text) {
+    const auto spot = pointer_.reach(box);
+    if (!spot) return;
+    pointer_.click(*spot);
+    if (Keyboard::focused() != &box) return;
+    if (!box.multiLine) text.resize(std::min(text.size(), text.find_first_of("\r\n")));
+    Keyboard::press(Qt::Key_A, Qt::ControlModifier);
+    if (text.empty())
+        Keyboard::press(Qt::Key_Delete);
+    else
+        Keyboard::type(window::toQt(text));
+}
+
+void WindowBackend::choose(Control& list, int place) {
+    if (isRows(list))
+        chooseRow(pointer_, list, place);
+    else
+        chooseItem(pointer_, list, place);
+}
+
+/// Clicks until the box shows the value; each click turns it.
+void WindowBackend::check(Control& box, int value) {
+    const auto now = [&] {
+        return box.kind == Kind::Check ? static_cast<const Check&>(box).value
+                                       : static_cast<int>(static_cast<const Option&>(box).value);
+    };
+    for (int clicks = 0; clicks < 2 && now() != value; ++clicks) {
+        const auto spot = pointer_.reach(box);
+        if (!spot) return;
+        pointer_.click(*spot);
+    }
+}
+
+void WindowBackend::slide(RangeControl& range, int value) {
+    slideTo(pointer_, keyboard_, range, value);
+}
+
+void WindowBackend::column(ListView& list, int column) {
+    clickColumn(pointer_, list, column);
+}
+
+void WindowBackend::path(PathList& list, std::string path) {
+    walkFolders(pointer_, list, path);
+}
+
+bool WindowBackend::busy() const {
+    return QApplication::overrideCursor() != nullptr;
+}
+
+std::string WindowBackend::clipboard() const {
+    return window::fromQt(QGuiApplication::clipboard()->text());
+}
+
+std::optional<std::string> WindowBackend::differs(const Control& control) {
+    return difference(window_.desk, control);
+}
+
+std::optional<std::string> WindowBackend::differs(const Screen& screen) {
+    return difference(window_.desk, screen);
+}
+
+} // namespace gatewise::gtwindow
