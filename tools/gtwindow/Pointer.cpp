@@ -97,7 +97,9 @@ void Pointer::post(QEvent::Type type, Qt::MouseButton button) {
 }
 
 void Pointer::move(const Spot& spot) {
+    const bool there = last_.window == spot.window && last_.at == spot.at;
     last_ = spot;
+    if (there) last_.at.rx() ^= 1; // a mouse that stays says nothing
     post(QEvent::MouseMove, Qt::NoButton);
     QCoreApplication::processEvents();
 }

@@ -4,7 +4,7 @@
 #include "gtwindow/Difference.h"
 #include "gtwindow/Lists.h"
 #include "gtwindow/Ranges.h"
-#include "screens/UserEvents.h"
+#include "input/UserEvents.h"
 #include "window/QtText.h"
 
 #include <QApplication>
@@ -58,15 +58,25 @@ void WindowBackend::openHelp(const QUrl& page) {
 bool WindowBackend::eventFilter(QObject* object, QEvent* event) {
     if (event->type() == QEvent::Show) {
         if (auto* dialog = qobject_cast<QDialog*>(object)) {
-            QTimer::singleShot(0, dialog, [this, dialog] { answerDialog(*dialog); });
+            if (dynamic_cast<window::ScreenWindow*>(object) == nullptr) answerDialog(*dialog);
         }
     }
     return QObject::eventFilter(object, event);
 }
 
-void WindowBackend::answerDialog(QWidget& dialog) {
-    dialog.activateWindow();
-    Keyboard::press(Qt::Key_Return);
+void WindowBackend::answerDialog(QDialog& dialog) {
+    constexpr int kMostTries = 20; // with Enter, until it is given up
+    auto* again = new QTimer(&dialog);
+    connect(again, &QTimer::timeout, &dialog, [&dialog, tries = 0]() mutable {
+        if (!dialog.isVisible() || QApplication::activeModalWidget() != &dialog) return;
+        if (++tries > kMostTries) {
+            dialog.reject();
+            return;
+        }
+        dialog.activateWindow();
+        Keyboard::press(Qt::Key_Return);
+    });
+    again->start(5);
 }
 
 void WindowBackend::advance(std::int64_t milliseconds) {

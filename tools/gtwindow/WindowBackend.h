@@ -7,6 +7,8 @@
 #include "gtwindow/SimulatedTime.h"
 #include "window/WindowProgram.h"
 
+#include <QDialog>
+
 namespace gatewise::gtwindow {
 
 /// The real window between the words and the program: events are input to its widgets, and what is looked at
@@ -52,7 +54,7 @@ protected:
 
 private:
     [[nodiscard]] std::optional<Spot> spotOf(const Control& control);
-    void answerDialog(QWidget& dialog);
+    static void answerDialog(QDialog& dialog);
     Q_INVOKABLE void openHelp(const QUrl& page);
 
     drive::Bench& bench_;
