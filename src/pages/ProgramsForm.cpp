@@ -10,6 +10,9 @@ namespace gatewise {
 
 namespace {
 
+// The screen, its layout and its pictures have a line for each format.
+static_assert(forms::kProgramLines == programs::kFormatCount);
+
 using programs::Choices;
 using programs::Sent;
 

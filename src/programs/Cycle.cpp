@@ -7,7 +7,7 @@ namespace gatewise::programs {
 namespace {
 
 constexpr long long kCycleDays = 28;
-constexpr long long kDayMinutes = 24 * 60;
+constexpr long long kDayMinutes = 24LL * 60;
 
 long long floorDivide(long long a, long long b) {
     return a >= 0 ? a / b : -((b - 1 - a) / b);

@@ -30,7 +30,7 @@ bool isCode(char c) {
     return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
 }
 
-std::string withoutMinusZero(std::string text) {
+std::string withoutMinusZero(const std::string& text) {
     const bool zero = text.find_first_of("123456789") == std::string::npos;
     return zero && text.starts_with('-') ? text.substr(1) : text;
 }

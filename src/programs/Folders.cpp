@@ -26,7 +26,7 @@ std::string listed(const std::string& list, const char* folder) {
         const std::size_t end = std::min(rest.find_first_of("\r\n"), rest.size());
         std::string root = textFromUtf8(rest.substr(0, end));
         while (root.ends_with('/') || root.ends_with('\\')) root.pop_back();
-        const std::string found = below(root, folder);
+        std::string found = below(root, folder);
         if (!found.empty() && files::folderExists(found)) return found;
         rest.remove_prefix(std::min(end + 1, rest.size()));
     }

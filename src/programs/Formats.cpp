@@ -32,7 +32,7 @@ constexpr Place kLittleNavmap[] = {{Base::Documents, "Little Navmap Files/Flight
 constexpr std::span<const Place> kNowhere;
 
 // clang-format off
-constexpr std::array<Format, 11> kFormats = {{
+constexpr std::array<Format, kFormatCount> kFormats = {{
     // name                    key             extension   tail          computed  clipboard  writer       folders
     {"X-Plane 11 and 12",      "XPlane",       ".fms",     "",           true,  false, xPlane,           kXPlane},
     {"FSX and Prepar3D",       "FSX",          ".pln",     "",           true,  false, flightSimulatorX, kFlightSimulatorX},

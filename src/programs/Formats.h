@@ -38,6 +38,9 @@ struct Format {
     std::span<const Place> places; // usual folders; none of them there: the documents
 };
 
+/// Rows of the table.
+inline constexpr int kFormatCount = 11;
+
 std::span<const Format> formats();
 
 } // namespace gatewise::programs

@@ -13,26 +13,26 @@ namespace gatewise::programs {
 
 namespace {
 
-constexpr const char* kTypes[] = {"AIRPORT", "VOR", "NDB", "INT", "USER WAYPOINT"};
+constexpr const char* kGarminTypes[] = {"AIRPORT", "VOR", "NDB", "INT", "USER WAYPOINT"};
 constexpr std::size_t kLongestText = 25;
 
 const char* typeOf(const RoutePoint& point) {
-    return kTypes[static_cast<int>(point.fix)];
+    return kGarminTypes[static_cast<int>(point.fix)];
 }
 
 /// Upper-case letters, digits, blanks and "/".
-std::string textOf(std::string_view text) {
+std::string garminText(std::string_view text) {
     return lineText(codeText(lineText(text), kLongestText, " /"));
 }
 
-void addWaypoint(Xml& xml, const RoutePoint& point) {
+void addTablePoint(Xml& xml, const RoutePoint& point) {
     xml.open("waypoint");
     xml.leaf("identifier", point.ident);
     xml.leaf("type", typeOf(point));
     xml.leaf("country-code", ""); // the region, which our data does not know
     xml.leaf("lat", exactFigure(point.latitude));
     xml.leaf("lon", exactFigure(point.longitude));
-    xml.leaf("comment", textOf(point.name));
+    xml.leaf("comment", garminText(point.name));
     xml.close();
 }
 
@@ -41,7 +41,7 @@ void addTable(Xml& xml, const Route& route) {
     std::set<std::pair<Fix, std::string>> seen;
     xml.open("waypoint-table");
     for (const RoutePoint& point : route.points) {
-        if (seen.emplace(point.fix, point.ident).second) addWaypoint(xml, point);
+        if (seen.emplace(point.fix, point.ident).second) addTablePoint(xml, point);
     }
     xml.close();
 }

@@ -10,9 +10,9 @@ namespace gatewise::programs {
 
 namespace {
 
-constexpr const char* kTypes[] = {"airport", "VOR", "NDB", "intersection", "user"};
+constexpr const char* kJsonKinds[] = {"airport", "VOR", "NDB", "intersection", "user"};
 
-std::string quoted(std::string_view text) {
+std::string jsonText(std::string_view text) {
     std::string out = "\"";
     for (const char c : utf8FromText(lineText(text))) {
         if (c == '"' || c == '\\') out += '\\';
@@ -21,12 +21,12 @@ std::string quoted(std::string_view text) {
     return out + '"';
 }
 
-std::string position(double longitude, double latitude, const std::string& metres) {
+std::string jsonPosition(double longitude, double latitude, const std::string& metres) {
     return "[" + exactFigure(longitude) + ", " + exactFigure(latitude) + ", " + metres + "]";
 }
 
-std::string position(const RoutePoint& point) {
-    return position(point.longitude, point.latitude, metresFigure(point.altitude));
+std::string jsonPosition(const RoutePoint& point) {
+    return jsonPosition(point.longitude, point.latitude, metresFigure(point.altitude));
 }
 
 /// A leg over the 180th meridian is cut there, so that no map draws it around the world.
@@ -34,7 +34,7 @@ class Line {
 public:
     void add(const RoutePoint& point) {
         if (before_ != nullptr && std::abs(point.longitude - before_->longitude) > 180) cut(point);
-        text_ += (text_.ends_with(']') ? ", " : "") + position(point);
+        text_ += (text_.ends_with(']') ? ", " : "") + jsonPosition(point);
         before_ = &point;
     }
     [[nodiscard]] std::string geometry() const {
@@ -51,8 +51,8 @@ private:
         const double latitude = before_->latitude + part * (to.latitude - before_->latitude);
         const auto feet =
             static_cast<int>(std::lround(before_->altitude + part * (to.altitude - before_->altitude)));
-        text_ += ", " + position(edge, latitude, metresFigure(feet)) + "], [" +
-                 position(-edge, latitude, metresFigure(feet));
+        text_ += ", " + jsonPosition(edge, latitude, metresFigure(feet)) + "], [" +
+                 jsonPosition(-edge, latitude, metresFigure(feet));
         cut_ = true;
     }
 
@@ -67,10 +67,10 @@ std::string feature(const std::string& geometry, const std::string& properties) 
 }
 
 std::string pointFeature(const RoutePoint& point) {
-    return feature("{\"type\": \"Point\", \"coordinates\": " + position(point) + "}",
-                   "\"ident\": " + quoted(point.ident) + ", \"name\": " + quoted(point.name) +
-                       ", \"kind\": " + quoted(kTypes[static_cast<int>(point.fix)]) + ", \"airway\": " +
-                       quoted(point.airway) + ", \"altitude_ft\": " + std::to_string(point.altitude));
+    return feature("{\"type\": \"Point\", \"coordinates\": " + jsonPosition(point) + "}",
+                   "\"ident\": " + jsonText(point.ident) + ", \"name\": " + jsonText(point.name) +
+                       ", \"kind\": " + jsonText(kJsonKinds[static_cast<int>(point.fix)]) + ", \"airway\": " +
+                       jsonText(point.airway) + ", \"altitude_ft\": " + std::to_string(point.altitude));
 }
 
 } // namespace
@@ -79,7 +79,7 @@ std::string geoJson(const Route& route) {
     Line line;
     for (const RoutePoint& point : route.points) line.add(point);
     std::string out = "{\n  \"type\": \"FeatureCollection\",\n  \"features\": [\n";
-    out += feature(line.geometry(), "\"name\": " + quoted(route.flight) +
+    out += feature(line.geometry(), "\"name\": " + jsonText(route.flight) +
                                         ", \"cruise_ft\": " + std::to_string(route.cruiseAltitude));
     for (const RoutePoint& point : route.points) out += ",\n" + pointFeature(point);
     return out + "\n  ]\n}\n";

@@ -10,7 +10,7 @@ namespace gatewise::programs {
 
 namespace {
 
-constexpr const char* kTypes[] = {"AIRPORT", "VOR", "NDB", "WAYPOINT", "USER"};
+constexpr const char* kGpxTypes[] = {"AIRPORT", "VOR", "NDB", "WAYPOINT", "USER"};
 
 /// The format's longitudes end before 180.
 std::string longitude(const RoutePoint& point) {
@@ -22,12 +22,12 @@ void openPoint(Xml& xml, const char* tag, const RoutePoint& point) {
     xml.leaf("ele", metresFigure(point.altitude));
 }
 
-void addRoutePoint(Xml& xml, const RoutePoint& point) {
+void addGpxRoutePoint(Xml& xml, const RoutePoint& point) {
     openPoint(xml, "rtept", point);
     xml.leaf("name", point.ident);
     if (!point.airway.empty()) xml.leaf("cmt", point.airway);
     if (!point.name.empty()) xml.leaf("desc", point.name);
-    xml.leaf("type", kTypes[static_cast<int>(point.fix)]);
+    xml.leaf("type", kGpxTypes[static_cast<int>(point.fix)]);
     xml.close();
 }
 
@@ -54,7 +54,7 @@ std::string gpx(const Route& route) {
     xml.open("rte");
     xml.leaf("name", name);
     xml.leaf("desc", route.flight);
-    for (const RoutePoint& point : route.points) addRoutePoint(xml, point);
+    for (const RoutePoint& point : route.points) addGpxRoutePoint(xml, point);
     xml.close();
     xml.open("trk");
     xml.leaf("name", name);

@@ -7,7 +7,7 @@ namespace gatewise::programs {
 
 namespace {
 
-constexpr const char* kTypes[] = {"AIRPORT", "VOR", "NDB", "WAYPOINT", "USER"};
+constexpr const char* kNavmapTypes[] = {"AIRPORT", "VOR", "NDB", "WAYPOINT", "USER"};
 
 void addHeader(Xml& xml, const Route& route) {
     std::string created = isoTime(route.written);
@@ -24,12 +24,12 @@ void addHeader(Xml& xml, const Route& route) {
 }
 
 /// Elements that would be empty are left out.
-void addWaypoint(Xml& xml, const RoutePoint& point) {
+void addNavmapPoint(Xml& xml, const RoutePoint& point) {
     xml.open("Waypoint");
     if (!point.name.empty()) xml.leaf("Name", point.name);
     xml.leaf("Ident", point.ident);
     if (!point.airway.empty()) xml.leaf("Airway", point.airway);
-    xml.leaf("Type", kTypes[static_cast<int>(point.fix)]);
+    xml.leaf("Type", kNavmapTypes[static_cast<int>(point.fix)]);
     xml.empty("Pos", {{"Lon", fixedFigure(point.longitude, 6)},
                       {"Lat", fixedFigure(point.latitude, 6)},
                       {"Alt", fixedFigure(point.altitude, 2)}});
@@ -49,7 +49,7 @@ std::string littleNavmap(const Route& route) {
     xml.leaf("SimData", "FS2002");
     xml.leaf("NavData", "GATEWISE");
     xml.open("Waypoints");
-    for (const RoutePoint& point : route.points) addWaypoint(xml, point);
+    for (const RoutePoint& point : route.points) addNavmapPoint(xml, point);
     return xml.take();
 }
 

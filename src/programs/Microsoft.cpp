@@ -8,7 +8,7 @@ namespace gatewise::programs {
 
 namespace {
 
-constexpr const char* kTypes[] = {"Airport", "VOR", "NDB", "Intersection", "User"};
+constexpr const char* kSimulatorTypes[] = {"Airport", "VOR", "NDB", "Intersection", "User"};
 
 std::string angle(double degrees, char positive, char negative) {
     const long long hundredths = std::llround(std::abs(degrees) * 360000);
@@ -26,7 +26,7 @@ std::string worldPosition(const RoutePoint& point) {
 }
 
 const char* waypointType(const RoutePoint& point) {
-    return kTypes[static_cast<int>(point.fix)];
+    return kSimulatorTypes[static_cast<int>(point.fix)];
 }
 
 void addIcao(Xml& xml, const RoutePoint& point) {

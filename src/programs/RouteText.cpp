@@ -12,7 +12,7 @@ namespace gatewise::programs {
 namespace {
 
 /// A point that only our plan has a name for: degrees and minutes, "4620N07805W".
-std::string position(const RoutePoint& point) {
+std::string item15Position(const RoutePoint& point) {
     const auto part = [](double degrees, int digits, char positive, char negative) {
         const long long minutes = std::llround(std::abs(degrees) * 60);
         return wholeFigure(minutes / 60, digits) + wholeFigure(minutes % 60, 2) +
@@ -29,7 +29,7 @@ std::string routeText(const Route& route) {
     for (std::size_t i = 1; i + 1 < route.points.size(); ++i) {
         const RoutePoint& point = route.points[i];
         if (i > 1) out += " " + (point.airway.empty() ? "DCT" : point.airway);
-        out += " " + (point.fix == Fix::User ? position(point) : point.ident);
+        out += " " + (point.fix == Fix::User ? item15Position(point) : point.ident);
     }
     return out + (route.points.size() == 2 ? " DCT\n" : "\n");
 }

@@ -57,6 +57,10 @@ std::string fileNameOf(const Format& format, std::string_view stem) {
 
 Sent sendTo(const Format& format, const std::string& folder, std::string_view stem, const Route& route) {
     Sent sent{&format, {}, {}};
+    if (folder.empty()) {
+        sent.reason = "no folder is named";
+        return sent;
+    }
     if (!isWholePath(folder) || !files::folderExists(folder)) {
         sent.reason = reasonOf(std::make_error_code(std::errc::no_such_file_or_directory));
         return sent;

@@ -9,7 +9,7 @@ namespace gatewise::programs {
 namespace {
 
 /// Without the regions that the simulator would look a fix up by, its position finds it.
-void addWaypoint(Xml& xml, const RoutePoint& point) {
+void addTabletPoint(Xml& xml, const RoutePoint& point) {
     if (point.fix == Fix::User)
         xml.open("ATCWaypoint", {{"id", point.ident}});
     else
@@ -37,7 +37,7 @@ std::string msfs2024(const Route& route) {
     xml.leaf("AppVersionMajor", "12");
     xml.close();
     for (const RoutePoint& point : route.points) {
-        if (point.fix != Fix::Airport) addWaypoint(xml, point);
+        if (point.fix != Fix::Airport) addTabletPoint(xml, point);
     }
     return xml.take();
 }

@@ -44,7 +44,7 @@ void addHead(Xml& xml, const Route& route, const Version& version) {
     xml.close();
 }
 
-void addWaypoint(Xml& xml, const RoutePoint& point) {
+void addSimulatorPoint(Xml& xml, const RoutePoint& point) {
     xml.open("ATCWaypoint", {{"id", point.ident}});
     addWaypointBody(xml, point);
     if (point.fix != Fix::User) addIcao(xml, point);
@@ -57,7 +57,7 @@ std::string plan(const Route& route, const Version& version) {
     xml.leaf("Descr", "AceXML Document");
     xml.open("FlightPlan.FlightPlan");
     addHead(xml, route, version);
-    for (const RoutePoint& point : route.points) addWaypoint(xml, point);
+    for (const RoutePoint& point : route.points) addSimulatorPoint(xml, point);
     return xml.take();
 }
 

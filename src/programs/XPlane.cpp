@@ -9,7 +9,7 @@ namespace gatewise::programs {
 namespace {
 
 /// By Fix: airport, VOR, NDB, named fix, a position without a name in the program's data.
-constexpr const char* kTypes[] = {"1", "3", "2", "11", "28"};
+constexpr const char* kXPlaneTypes[] = {"1", "3", "2", "11", "28"};
 
 /// An airway holds only between two points that lie on it, and a user point lies on none.
 std::string via(const RoutePoint& point, const RoutePoint& before) {
@@ -18,7 +18,7 @@ std::string via(const RoutePoint& point, const RoutePoint& before) {
 }
 
 std::string line(const RoutePoint& point, const std::string& via) {
-    return std::string(kTypes[static_cast<int>(point.fix)]) + " " + point.ident + " " + via + " " +
+    return std::string(kXPlaneTypes[static_cast<int>(point.fix)]) + " " + point.ident + " " + via + " " +
            fixedFigure(point.altitude, 6) + " " + fixedFigure(point.latitude, 6) + " " +
            fixedFigure(point.longitude, 6) + "\n";
 }

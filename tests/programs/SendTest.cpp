@@ -110,13 +110,13 @@ TEST(Send, AFolderThatIsGoneSaysSo) {
     const TempFolder folder;
     const Route route = routeOfPlan(directPlan());
     folder.write("/file", "x");
-    for (const std::string& gone :
-         {folder.path("/gone"), folder.path("/file"), std::string(), std::string("plans")}) {
+    for (const std::string& gone : {folder.path("/gone"), folder.path("/file"), std::string("plans")}) {
         const Sent sent = sendTo(formatOf("GPX"), gone, "F", route);
         EXPECT_EQ(sent.reason, "the folder is gone") << gone;
         EXPECT_EQ(sent.file, "");
     }
     EXPECT_FALSE(std::filesystem::exists(folder.path("/gone")));
+    EXPECT_EQ(sendTo(formatOf("GPX"), "", "F", route).reason, "no folder is named");
 }
 
 TEST(Send, AFolderInTheFilesPlaceSaysSo) {
