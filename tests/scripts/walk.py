@@ -1,0 +1,116 @@
+#!/usr/bin/env python3
+"""Random walks of a person through the real window.
+
+walk.py GTWINDOW PROGRAM_FOLDER WALKS EVENTS
+
+Each walk plays so many events at controls in sight, drawn from its own number, and looks at the screen in front after
+every tenth. Fails when the window shows something else than its form holds, when the tool ends badly, or when a walk
+of many events holds ever more memory. Prints events a second.
+"""
+
+import json
+import os
+import random
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+LOOK = 10  # events between two looks
+
+
+class Desk:
+    """The tool on a fresh copy of a program folder."""
+
+    def __init__(self, tool, program, scratch):
+        folder = os.path.join(scratch, "Gatewise")
+        shutil.rmtree(folder, ignore_errors=True)
+        shutil.copytree(program, folder, symlinks=True)
+        self.tool = subprocess.Popen([tool, folder], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True, encoding="utf-8")
+        self.ended = False
+        self.said = []
+
+    def say(self, command):
+        """The value lines of an answer and its closing line."""
+        self.said.append(command)
+        self.tool.stdin.write(command + "\n")
+        self.tool.stdin.flush()
+        values = []
+        while True:
+            line = self.tool.stdout.readline()
+            if not line:
+                sys.exit(f"the tool ended at: {command}")
+            line = line.rstrip("\n")
+            if line in ("ok", "ended") or line.startswith(("modal ", "error: ")):
+                self.ended = line == "ended"
+                if line.startswith("error: window differs"):
+                    sys.exit("\n".join(self.said[-2 * LOOK :] + [line]))
+                return values, line
+            values.append(line)
+
+    def memory(self):
+        with open(f"/proc/{self.tool.pid}/status", encoding="ascii") as status:
+            return next(int(line.split()[1]) / 1024 for line in status if line.startswith("VmRSS:"))
+
+
+def event(draw, screen, controls):
+    """A command at a control of the screen that shows and can be used."""
+    sight = [name for name, c in controls.items() if c["visible"] and c["enabled"] and "interval" not in c]
+    if not sight:
+        return "advance 500"
+    name = draw.choice(sight)
+    control = controls[name]
+    full = f"{screen}.{name}"
+    if "rows" in control or ("items" in control and "itemdata" in control):
+        count = len(control.get("rows", control.get("items", [])))
+        if count and "path" not in control:
+            return f"choose {full} {draw.randrange(count)}"
+    if "min" in control:
+        return f"slide {full} {draw.randint(control['min'], control['max'])}"
+    if set(control) == {"visible", "enabled", "text"} and draw.random() < 0.7:
+        return f"type {full} {draw.choice(['KATL', 'boston', 'x', '', 'Ada'])}"
+    word = draw.choice(["click", "click", "move", "move", "dblclick", "rightdown", "key", "advance"])
+    if word == "key":
+        return f"key {full} {draw.choice(['enter', 'space', 'escape'])}"
+    return f"advance {draw.choice([100, 500, 5000])}" if word == "advance" else f"{word} {full}"
+
+
+def walk(tool, program, number, events):
+    """Plays one walk; MB held in the middle and at the end, where it came so far."""
+    draw = random.Random(number)
+    with tempfile.TemporaryDirectory() as scratch:
+        desk = Desk(tool, program, scratch)
+        desk.say(f"seed {number}")
+        desk.say("start")
+        controls, screen, middle = {}, "", None
+        for i in range(events):
+            if i % LOOK == 0:
+                shown = json.loads(desk.say("shown")[0][0])
+                screen = shown[0]
+                controls = json.loads(desk.say(f"dump {screen}")[0][0])
+            if i == events // 2:
+                middle = desk.memory()
+            desk.say(event(draw, screen, controls))
+            if desk.ended:
+                desk.tool.wait()
+                return None
+        memory = (middle, desk.memory())
+        desk.say("quit")
+        desk.tool.wait()
+        return memory
+
+
+def main():
+    tool, program = sys.argv[1:3]
+    walks, events = map(int, sys.argv[3:5])
+    begun = time.perf_counter()
+    for number in range(1, walks + 1):
+        memory = walk(tool, program, number, events)
+        if memory and memory[1] > memory[0] * 1.5 + 20:
+            sys.exit(f"walk {number} holds {memory[0]:.0f} MB in the middle and {memory[1]:.0f} MB at the end")
+    print(f"{walks} walks, {walks * events / (time.perf_counter() - begun):.0f} events a second at least")
+
+
+if __name__ == "__main__":
+    main()
