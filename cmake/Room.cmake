@@ -56,7 +56,7 @@ function(gatewise_test name)
   add_executable(test_${name} ${sources})
   target_include_directories(test_${name} PRIVATE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/tests")
   target_compile_definitions(test_${name} PRIVATE GATEWISE_TEST_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
-                                                  GATEWISE_PROGRAM_DIR="${GATEWISE_PROGRAM_DIR}")
+                                                  GATEWISE_PROGRAM_DIR="${GATEWISE_DELIVERED_DIR}")
   target_link_libraries(test_${name} PRIVATE gatewise_warnings gatewise_test_build GTest::gtest_main)
   target_precompile_headers(test_${name} REUSE_FROM gatewise_test_common)
   foreach(link IN LISTS TEST_LINKS)

@@ -56,6 +56,8 @@ std::optional<std::string> fmcPlans(const Plan& plan, std::string_view oldFile, 
     const auto lines = linesOf(oldFile);
     if (!lines) return std::nullopt;
     const std::string key = keyOf(plan);
+    // A plan that could not be read has no names; its key would be found in every other plan's header.
+    if (key == "*") return std::nullopt;
     const auto match = std::find_if(lines->begin(), lines->end(),
                                     [&](std::string_view line) { return containsNoCase(line, key); });
     TextLines out;

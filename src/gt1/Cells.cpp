@@ -99,6 +99,7 @@ void CellReader::bits(const char* name, std::uint8_t& field, const BitNames& nam
     const Cell cell = next(name);
     std::string_view rest = cell.utf8;
     field = 0;
+    if (rest.empty() && names.needed) report_.error(cell.place, names.expected, foundCell(rest));
     while (!rest.empty()) {
         const std::size_t length = names.between.empty() ? 1 : std::min(rest.find(' '), rest.size());
         const auto* bit = std::find_if(names.bits.begin(), names.bits.end(), [&](const Bit& b) {

@@ -5,6 +5,7 @@
 #include "gt1/Plans.h"
 #include "gt1/Tables.h"
 #include "gt1/Unpack.h"
+#include "platform/FileSet.h"
 #include "platform/Files.h"
 
 #include <iterator>
@@ -28,29 +29,23 @@ template<class Content> void writeFile(const fs::path& file, const Content& cont
         report.error({file.string(), 0, 0, ""}, "a file that can be written", error.message());
 }
 
-/// Writes the files beside the old ones first: they belong together, so that all of them are replaced or
-/// none.
-bool writeSet(const std::vector<PackedFile>& packed, const fs::path& folder, Report& report) {
-    const auto part = [&](const PackedFile& file) { return folder / (file.name + ".part"); };
-    const auto tell = [&](const PackedFile& file, const std::string& found) {
-        report.error({(folder / file.name).string(), 0, 0, ""}, "a file that can be written", found);
+/// The files belong together: all of them are replaced or none.
+bool writeSet(std::vector<PackedFile> packed, const fs::path& folder, Report& report) {
+    const auto tell = [&](const std::string& name, const std::string& found) {
+        report.error({(folder / name).string(), 0, 0, ""}, "a file that can be written", found);
     };
     constexpr auto kWrite = fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
-    std::error_code error;
-    for (const PackedFile& file : packed) {
+    std::vector<files::NamedBytes> set;
+    for (PackedFile& file : packed) {
+        std::error_code error;
         const auto old = fs::status(folder / file.name, error);
         if (fs::is_directory(old) || (fs::exists(old) && (old.permissions() & kWrite) == fs::perms::none))
-            tell(file, "a protected one");
-        else
-            writeFile(part(file), ByteView(file.bytes), report);
+            tell(file.name, "a protected one");
+        set.push_back({std::move(file.name), std::move(file.bytes)});
     }
-    const bool good = !report.failed();
-    for (const PackedFile& file : packed) {
-        if (!good)
-            fs::remove(part(file), error);
-        else if (fs::rename(part(file), folder / file.name, error); error)
-            tell(file, error.message());
-    }
+    if (report.failed()) return false;
+    const files::SetFailure failure = files::replaceSet(folder, set);
+    if (failure.error) tell(failure.name, failure.error.message());
     return !report.failed();
 }
 
@@ -106,13 +101,18 @@ std::string compileFolder(const fs::path& source, const fs::path& target,
                       std::make_move_iterator(more.end()));
     }
     if (report.failed() || !makeFolder(target, report)) return {};
-    return writeSet(packed, target, report) ? summary(set) : std::string();
+    return writeSet(std::move(packed), target, report) ? summary(set) : std::string();
 }
 
 std::vector<NamedTable> dumpFolder(const fs::path& folder, const std::optional<fs::path>& world,
                                    Report& report) {
     const bool further = world || !files::fileExists(files::textOf(folder / "aircraft.gt1"));
     const fs::path shared = world ? *world : further ? folder / ".." : folder;
+    for (const fs::path& place : {folder, shared}) {
+        if (const auto left = files::finishSet(place); left.error)
+            report.error({(place / left.name).string(), 0, 0, ""}, "a set that can be finished",
+                         left.error.message());
+    }
     const DataSet set = unpackDataSet(folder, report);
     const World names = unpackWorld(shared, report);
     std::vector<NamedTable> out;

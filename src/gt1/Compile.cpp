@@ -2,6 +2,7 @@
 
 #include "gt1/Plans.h"
 #include "gt1/Tables.h"
+#include "platform/FileNames.h"
 
 #include <algorithm>
 #include <numeric>
@@ -90,9 +91,32 @@ std::vector<Facilities> facilitiesOf(const Table<RunwayRow>& runways, const Tabl
     return out;
 }
 
+/// What stands in the names of a flight's files must be what a file name can take.
+void warnOfName(const Place& place, std::string_view name, std::string_view stem, Report& report) {
+    if (files::isFileName(stem)) return;
+    report.warning(place, inQuotes(utf8FromText(trimmed(name))) +
+                              " cannot stand in a file name: plans and situations of these flights cannot be "
+                              "written");
+}
+
+void warnOfAirlines(const Table<AirlineRow>& table, Report& report) {
+    for (const auto& [line, row] : table.lines) {
+        const std::string_view name = row.record.Name.trimmed();
+        warnOfName(table.place(line, "name"), name, std::string(name) + " Flight 1", report);
+    }
+}
+
+void warnOfAirports(const Table<AirportRow>& table, Report& report) {
+    for (const auto& [line, row] : table.lines) {
+        const std::string_view code = row.record.Iata.view();
+        warnOfName(table.place(line, "iata"), code, " to " + std::string(code) + ".pln", report);
+    }
+}
+
 std::vector<AirlineRecord> airlinesOf(const Table<AirlineRow>& table, Report& report) {
     uniqueKeys(
         table, "code", [](const AirlineRow& r) { return r.record.Code.str(); }, report);
+    warnOfAirlines(table, report);
     std::vector<AirlineRecord> out;
     for (const auto& line : table.lines) out.push_back(line.row.record);
     return out;
@@ -117,6 +141,17 @@ void linkFlights(Table<FlightRow>& table, const Codes& codes, Report& report) {
         find(codes.airlines, line, "airline", f.AirlineCode.view(), "the code of an airline in airlines.csv");
         find(codes.aircraft, line, "aircraft", f.AircraftCode.view(),
              "the code of an aircraft in aircraft.csv");
+    }
+}
+
+/// An airport's record holds the number of its flights in 16 bits.
+void limitFlights(const Table<FlightRow>& table, const char* column, std::int16_t FlightRecord::*airport,
+                  Report& report) {
+    constexpr int kMost = 32767;
+    std::unordered_map<int, int> counts;
+    for (const auto& [line, row] : table.lines) {
+        if (++counts[row.record.*airport] != kMost + 1) continue;
+        report.error(table.place(line, column), "at most 32767 flights of one airport", "one more");
     }
 }
 
@@ -173,7 +208,10 @@ DataSet readDataSet(const std::filesystem::path& folder, const World& world, Rep
                 indexBy(airlines, [](const AirlineRow& r) { return r.record.Code.str(); }),
                 aircraftCodes(world)};
     set.facilities = facilitiesOf(runways, radios, airports, codes.airports, report);
+    warnOfAirports(airports, report);
     linkFlights(flights, codes, report);
+    limitFlights(flights, "origin", &FlightRecord::OriginIndex, report);
+    limitFlights(flights, "destination", &FlightRecord::DestIndex, report);
     set.plans = linkPlans(plans, flights, world, report);
     set.flights = groupedByOrigin(flights);
     return set;

@@ -35,18 +35,21 @@ struct BitNames {
     std::string_view between;
     std::string_view expected;
     std::uint8_t known; // bits that may be set
+    bool needed;        // at least one of them
 };
 
 inline constexpr BitNames dayNames{
     {{{1, "1"}, {2, "2"}, {4, "3"}, {8, "4"}, {16, "5"}, {32, "6"}, {64, "7"}, {128, "8"}}},
     "",
     "days from 1, Monday, to 7, Sunday, each once",
-    127};
+    127,
+    true};
 inline constexpr BitNames mealNames{
     {{{1, "B"}, {2, "L"}, {4, "D"}, {8, "S"}, {16, "Bev"}, {32, "32"}, {64, "64"}, {128, "128"}}},
     " ",
     "meals of B L D S Bev, each once, with a blank between",
-    31};
+    31,
+    false};
 
 struct AirportRow {
     static constexpr std::string_view file = "airports.csv";

@@ -25,14 +25,14 @@ void markDay(std::string_view backup, long long day) {
     using namespace std::chrono;
     const sys_time<seconds> noon = sys_days(days(day - kSerialOf1970)) + hours(12);
     std::error_code ignored;
-    std::filesystem::last_write_time(files::resolve(backup), file_clock::from_sys(noon), ignored);
+    std::filesystem::last_write_time(files::target(backup), file_clock::from_sys(noon), ignored);
 }
 
 /// Day serial of the backup; 0 without one.
 long long markedDay(std::string_view backup) {
     using namespace std::chrono;
     std::error_code error;
-    const auto time = std::filesystem::last_write_time(files::resolve(backup), error);
+    const auto time = std::filesystem::last_write_time(files::target(backup), error);
     if (error) return 0;
     return floor<days>(file_clock::to_sys(time)).time_since_epoch().count() + kSerialOf1970;
 }

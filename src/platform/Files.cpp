@@ -1,8 +1,26 @@
 #include "platform/Files.h"
+#include "platform/Delivered.h"
+#include "platform/Text.h"
+
+#include <algorithm>
 
 namespace gatewise::files {
 
 namespace fs = std::filesystem;
+
+namespace {
+
+std::vector<Entry> entriesOf(const fs::path& folder) {
+    std::vector<Entry> out;
+    std::error_code error;
+    for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
+        std::error_code ignored;
+        out.push_back({textOf(it->path().filename()), it->is_directory(ignored)});
+    }
+    return out;
+}
+
+} // namespace
 
 bool fileExists(std::string_view path) {
     std::error_code error;
@@ -21,12 +39,14 @@ std::string foundName(std::string_view path) {
 }
 
 std::optional<Bytes> readAll(std::string_view path, std::error_code* error, Stamp* stamp) {
-    const InFile file(resolve(path));
+    const fs::path native = resolve(path);
+    const InFile file(native);
     std::error_code failed = file.error();
     Bytes bytes;
     if (!failed) bytes.resize(file.readAll(bytes, kLongestFile, failed));
     if (error != nullptr) *error = failed;
-    if (stamp != nullptr) *stamp = file.stamp();
+    // What came with the program is not the file that would be replaced.
+    if (stamp != nullptr) *stamp = native == target(path) ? file.stamp() : Stamp();
     if (failed) return std::nullopt;
     return bytes;
 }
@@ -49,16 +69,19 @@ std::error_code rewrite(std::string_view path, const Change& change) {
 
 std::error_code remove(std::string_view path) {
     std::error_code error;
-    fs::remove(resolve(path), error);
+    fs::remove(target(path), error);
     return error;
 }
 
 std::vector<Entry> list(std::string_view path) {
-    std::vector<Entry> out;
-    std::error_code error;
-    for (fs::directory_iterator it(resolve(path), error), end; !error && it != end; it.increment(error)) {
-        std::error_code ignored;
-        out.push_back({textOf(it->path().filename()), it->is_directory(ignored)});
+    std::vector<Entry> out = entriesOf(target(path));
+    const fs::path delivered = deliveredFolderOf(path);
+    if (delivered.empty()) return out;
+    const std::size_t own = out.size();
+    for (Entry& entry : entriesOf(delivered)) {
+        const auto same = [&](const Entry& other) { return equalNoCase(other.name, entry.name); };
+        if (std::none_of(out.begin(), out.begin() + static_cast<std::ptrdiff_t>(own), same))
+            out.push_back(std::move(entry));
     }
     return out;
 }

@@ -18,8 +18,12 @@
 
 namespace gatewise::files {
 
-/// The native path that stands for `path` now; empty for a text with a NUL, which the system would cut there.
+/// The native path that stands for `path` now, to read from; empty for a text with a NUL, which the system
+/// would cut there. What came with the program is found below AppDir (see platform/Delivered.h).
 std::filesystem::path resolve(std::string_view path);
+
+/// The same to write to: what came with the program is never written over.
+std::filesystem::path target(std::string_view path);
 
 /// A native path as a text of the program.
 std::string textOf(const std::filesystem::path& path);

@@ -1,3 +1,4 @@
+#include "platform/Delivered.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
 #include "platform/Utf8.h"
@@ -56,7 +57,7 @@ fs::path child(const fs::path& folder, std::string_view component) {
 
 } // namespace
 
-fs::path resolve(std::string_view path) {
+fs::path target(std::string_view path) {
     if (path.find('\0') != std::string_view::npos) return {};
     fs::path out;
     std::size_t at = 0;
@@ -76,6 +77,13 @@ fs::path resolve(std::string_view path) {
         }
     }
     return out;
+}
+
+fs::path resolve(std::string_view path) {
+    fs::path own = target(path);
+    if (own.empty()) return own;
+    fs::path theirs = deliveredFor(path, own);
+    return theirs.empty() ? own : theirs;
 }
 
 std::string textOf(const fs::path& path) {

@@ -7,7 +7,6 @@
 #include <array>
 #include <charconv>
 #include <filesystem>
-#include <fstream>
 #include <optional>
 
 namespace gatewise {
@@ -17,7 +16,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::size_t kVariations = 100;
-constexpr std::size_t kChunk = 65536;   // bytes of one read
 constexpr std::size_t kTextLimit = 254; // a buffer of 255 characters holds one terminator
 constexpr std::string_view kSection = "fltsim.";
 constexpr std::string_view kMissingTitle = "title";
@@ -108,28 +106,16 @@ std::string shown(std::string value) {
     return std::string(trimmed(value));
 }
 
-/// The bytes of a folder's aircraft.cfg in `buffer`; nothing without one. The usual spelling is tried first:
-/// looking for any other means reading the folder.
-std::optional<std::string_view> readConfig(const fs::path& folder, std::string& buffer) {
+/// The bytes of a folder's aircraft.cfg in `buffer`; nothing without one, or for one that no simulator would
+/// read. The usual spelling is tried first: looking for any other means reading the folder.
+std::optional<std::string_view> readConfig(const fs::path& folder, Bytes& buffer) {
+    files::InFile file(folder / "aircraft.cfg");
+    if (!file.isOpen()) file = files::InFile(files::resolve(files::textOf(folder) + "\\aircraft.cfg"));
+    if (!file.isOpen()) return std::nullopt;
     std::error_code error;
-    std::ifstream file;
-    // Only a plain file: a pipe would hold the scan until somebody writes into it.
-    if (fs::is_regular_file(folder / "aircraft.cfg", error))
-        file.open(folder / "aircraft.cfg", std::ios::binary);
-    if (!file.is_open()) {
-        const auto bytes = files::readAll(files::textOf(folder) + "\\aircraft.cfg");
-        if (!bytes) return std::nullopt;
-        buffer.assign(bytes->begin(), bytes->end());
-        return buffer;
-    }
-    std::size_t size = 0;
-    while (file) {
-        if (buffer.size() < size + kChunk) buffer.resize(size + kChunk);
-        file.read(buffer.data() + size, static_cast<std::streamsize>(buffer.size() - size));
-        size += static_cast<std::size_t>(file.gcount());
-    }
-    if (file.bad()) return std::nullopt;
-    return std::string_view(buffer).substr(0, size);
+    const std::size_t size = file.readAll(buffer, files::kLongestFile, error);
+    if (error) return std::nullopt;
+    return asText(buffer).substr(0, size);
 }
 
 bool hasPanel(const fs::path& folder) {
@@ -140,7 +126,7 @@ bool hasPanel(const fs::path& folder) {
 
 /// Adds the aircraft of one folder, which `name` names in paths; false when the table is full.
 bool addFolder(std::vector<ScannedAircraft>& out, const fs::path& folder, const std::string& name,
-               std::string& buffer) {
+               Bytes& buffer) {
     const auto content = readConfig(folder, buffer);
     if (!content) return true;
     const auto variations = variationsOf(*content);
@@ -178,7 +164,7 @@ std::vector<ScannedAircraft> FilesSearch(std::string_view path) {
     std::string root(path);
     if (!root.ends_with('\\')) root += '\\';
     std::vector<ScannedAircraft> out;
-    std::string buffer;
+    Bytes buffer; // of all folders
     std::size_t folders = 0;
     std::error_code error;
     // The root is looked up once and its folders go by their native paths: each step of a path costs.

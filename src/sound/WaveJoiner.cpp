@@ -3,13 +3,13 @@
 #include "platform/Binary.h"
 #include "platform/Files.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <fstream>
 #include <limits>
 #include <optional>
 #include <system_error>
-#include <utility>
 #include <vector>
 
 namespace gatewise {
@@ -39,46 +39,69 @@ Bytes headerFor(std::int32_t size) {
     return header;
 }
 
-/// Written as it goes, without a flush to the disk: the next announcement makes the file anew.
-bool write(const std::string& path, ByteView bytes) {
-    std::ofstream file(files::resolve(path), std::ios::binary | std::ios::trunc);
-    file << asText(bytes);
-    file.close();
-    return file.good();
+/// An empty file in the place of a recording that is missing.
+bool makeEmpty(const std::string& path) {
+    return std::ofstream(files::target(path), std::ios::binary | std::ios::trunc).good();
 }
 
 /// Opening makes the file when there is none.
-std::optional<Bytes> openRecording(const std::string& path) {
-    std::error_code error;
-    auto bytes = files::readAll(path, &error);
-    if (!bytes && error == std::errc::no_such_file_or_directory && write(path, {})) bytes.emplace();
-    return bytes;
+files::InFile openRecording(const std::string& path) {
+    files::InFile file(files::resolve(path));
+    if (file.error() == std::errc::no_such_file_or_directory && makeEmpty(path))
+        file = files::InFile(files::resolve(path));
+    return file;
+}
+
+/// The samples of all pieces; nothing when one of them holds none, or when no wave can hold them all.
+std::optional<std::int32_t> sizeOf(const std::vector<files::InFile>& recordings) {
+    constexpr auto kMost = std::int64_t{std::numeric_limits<std::int32_t>::max()} - std::int64_t{kHeaderSize};
+    std::int64_t size = 0;
+    for (const files::InFile& recording : recordings) {
+        if (recording.length() <= std::int64_t{kHeaderSize}) return std::nullopt;
+        size += recording.length() - std::int64_t{kNotCounted};
+        if (size > kMost) return std::nullopt;
+    }
+    return static_cast<std::int32_t>(size);
+}
+
+/// Hands on the bytes of a recording behind its header up to `end`, a block at a time.
+bool copySamples(const files::InFile& recording, long long end, std::ofstream& out) {
+    constexpr long long kBlock = 65536;
+    Bytes block;
+    for (long long at = kHeaderSize; at < end;) {
+        block.resize(static_cast<std::size_t>(std::min(kBlock, end - at)));
+        std::error_code error;
+        if (recording.read(at, block, error) != block.size()) return false;
+        out << asText(block);
+        at += static_cast<long long>(block.size());
+    }
+    return out.good();
+}
+
+/// Written as it goes, without a flush to the disk: the next announcement makes the file anew.
+bool writeJoined(const std::vector<files::InFile>& recordings, std::int32_t size, const std::string& target) {
+    std::ofstream out(files::target(target), std::ios::binary | std::ios::trunc);
+    out << asText(headerFor(size));
+    for (const files::InFile& recording : recordings) {
+        const bool last = &recording == &recordings.back();
+        if (!copySamples(recording, recording.length() - (last ? 0 : 1), out)) return false;
+    }
+    out.close();
+    return out.good();
 }
 
 } // namespace
 
 bool joinWaves(std::span<const std::string> pieces, const std::string& target) {
     // All are opened before the first is weighed, so that every missing one leaves its empty file.
-    std::vector<Bytes> recordings;
+    std::vector<files::InFile> recordings;
     for (const std::string& piece : pieces) {
-        auto bytes = openRecording(piece);
-        if (!bytes) return false;
-        recordings.push_back(std::move(*bytes));
+        recordings.push_back(openRecording(piece));
+        if (!recordings.back().isOpen()) return false;
     }
-    std::size_t size = 0;
-    for (const Bytes& recording : recordings) {
-        if (recording.size() <= kHeaderSize) return false;
-        size += recording.size() - kNotCounted;
-    }
-    if (size > static_cast<std::size_t>(std::numeric_limits<std::int32_t>::max()) - kHeaderSize) return false;
-
-    Bytes wave = headerFor(static_cast<std::int32_t>(size));
-    wave.reserve(kHeaderSize + size + 1);
-    for (const Bytes& recording : recordings) {
-        if (wave.size() > kHeaderSize) wave.pop_back();
-        wave.insert(wave.end(), recording.begin() + kHeaderSize, recording.end());
-    }
-    if (write(target, wave)) return true;
+    const auto size = sizeOf(recordings);
+    if (!size) return false;
+    if (writeJoined(recordings, *size, target)) return true;
     (void)files::remove(target); // what could not be written need not be there
     return false;
 }

@@ -174,8 +174,14 @@ std::optional<std::int32_t> OpenAlDevice::frequency(SoundBuffer buffer) const {
 
 void OpenAlDevice::playOnce(const std::string& path) {
     open();
-    release(std::exchange(click_, SoundBuffer::None));
-    click_ = load(path);
+    // The same click is heard at every button: its file is read again when it has changed.
+    const files::Stamp stamp = files::stampOf(files::resolve(path));
+    if (click_ == SoundBuffer::None || path != clickPath_ || stamp != clickStamp_) {
+        release(std::exchange(click_, SoundBuffer::None));
+        click_ = load(path);
+        clickPath_ = path;
+        clickStamp_ = stamp;
+    }
     play(click_, false);
 }
 

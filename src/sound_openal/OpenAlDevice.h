@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/InFile.h"
 #include "sound/Device.h"
 #include "sound_openal/OpenAlOutput.h"
 #include "sound_openal/OpenAlRest.h"
@@ -56,6 +57,8 @@ private:
     std::map<SoundBuffer, OpenAlVoice> voices_;
     std::uint32_t last_ = 0;
     SoundBuffer click_ = SoundBuffer::None;
+    std::string clickPath_; // of the click, and its file as it was read
+    files::Stamp clickStamp_;
     std::int32_t speakers_ = 0;
     bool waited_ = false;
 };

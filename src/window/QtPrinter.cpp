@@ -63,7 +63,7 @@ std::error_code QtPrinter::print(const std::string& font, int size, const std::s
     }
     const std::string folder = folder_ + "\\Printouts";
     std::error_code error;
-    std::filesystem::create_directories(files::resolve(folder), error);
+    std::filesystem::create_directories(files::target(folder), error);
     if (error) return error;
     const std::string name = freeName(folder);
     error = files::replace(name + ".txt", replaceAll(replaceAll(text, "\r\n", "\n"), "\n", "\r\n"));

@@ -27,9 +27,17 @@ QByteArray resource(const char* name) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+/// The bytes of a file of the program; none for what cannot be read and for what is no file: a pipe in the
+/// place of a picture would hold the start for ever.
+QByteArray contentOf(const std::string& path) {
+    const auto bytes = files::readAll(path);
+    if (!bytes) return {};
+    return {reinterpret_cast<const char*>(bytes->data()), static_cast<qsizetype>(bytes->size())};
+}
+
 QPixmap load(const std::string& path) {
     QPixmap picture;
-    picture.load(nativePath(path));
+    picture.loadFromData(contentOf(path));
     return picture;
 }
 
@@ -51,8 +59,8 @@ void Skin::loadFonts() {
     for (const auto& entry : files::list(folder_ + "\\Fonts")) {
         const std::string name = lowerCase(entry.name);
         if (name.ends_with(".ttf") || name.ends_with(".otf")) {
-            typefaces_.push_back(nativePath(folder_ + "\\Fonts\\" + entry.name));
-            const int id = QFontDatabase::addApplicationFont(typefaces_.back());
+            typefaces_.push_back(contentOf(folder_ + "\\Fonts\\" + entry.name));
+            const int id = QFontDatabase::addApplicationFontFromData(typefaces_.back());
             const QStringList families = QFontDatabase::applicationFontFamilies(id);
             for (const QString& family : families) {
                 if (family.startsWith(kOwnPrefix)) families_[family.mid(kOwnPrefix.size())] = family;
@@ -87,7 +95,7 @@ QFont Skin::font(const std::string& name) const {
 
 /// The face of a role from the program folder, invalid when it is not there.
 QRawFont Skin::shipped(const FontRole& role) const {
-    for (const QString& file : typefaces_) {
+    for (const QByteArray& file : typefaces_) {
         QRawFont face(file, role.size, QFont::PreferNoHinting);
         if (face.isValid() && face.familyName() == families_.value(role.family, role.family) &&
             face.weight() == role.weight)

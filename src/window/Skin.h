@@ -41,8 +41,8 @@ private:
     Layout layout_;
     QHash<QString, QString> captions_; // by tail in lower case, without ending
     mutable QHash<QString, QPixmap> pictures_;
-    std::vector<QString> typefaces_;   // files
-    QHash<QString, QString> families_; // names that shipped families have in place of their own
+    std::vector<QByteArray> typefaces_; // contents of font files
+    QHash<QString, QString> families_;  // names that shipped families have in place of their own
     mutable std::map<std::string, TextStyle> styles_;
 };
 

@@ -63,4 +63,11 @@ void WindowProgram::run(const std::string& note) {
     desk.sync();
 }
 
+void WindowProgram::toFront() {
+    QWidget* front = desk.front() != nullptr ? desk.front() : &desk.mainWindow();
+    if (front->isMinimized()) front->showNormal();
+    front->raise();
+    front->activateWindow();
+}
+
 } // namespace gatewise::window

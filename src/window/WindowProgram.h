@@ -36,6 +36,9 @@ public:
     /// The start-up alone.
     void start();
 
+    /// Shows the main window in front of all others.
+    void toFront();
+
     QtDesktop desktop;
 
 private:

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <regex>
 
 namespace gatewise::gt1 {
 namespace {
@@ -29,9 +30,50 @@ protected:
     std::string source;
 };
 
+/// The tiny world has an airline with quotes in its name, which no file name takes.
+const std::string kQuotedName = "airlines.csv:3: column 2 (name): \"Quote \"Q\" Lines\" cannot stand in a "
+                                "file name: plans and situations of "
+                                "these flights cannot be written";
+
 TEST_F(CompileErrors, TheTinyWorldHasNone) {
     EXPECT_EQ(errors(), Lines{});
-    EXPECT_EQ(warnings, Lines{});
+    EXPECT_EQ(warnings, Lines{kQuotedName});
+}
+
+TEST_F(CompileErrors, NamesThatNoFileNameTakesAreAWarning) {
+    edit(tables["airlines.csv"], "\"Quote \"\"Q\"\" Lines\"", "../../esc");
+    edit(tables["airports.csv"], "BBB,", "B:B,");
+    for (const char* table : {"runways.csv", "radios.csv", "flights.csv", "plans.csv"}) {
+        for (std::string& text = tables[table]; text.find("BBB") != std::string::npos;)
+            edit(text, "BBB", "B:B");
+    }
+    EXPECT_EQ(errors(), Lines{});
+    ASSERT_EQ(warnings.size(), 2U);
+    EXPECT_EQ(warnings[0].substr(0, 46), "airlines.csv:3: column 2 (name): \"../../esc\" c");
+    EXPECT_EQ(warnings[1].substr(0, 40), "airports.csv:3: column 1 (iata): \"B:B\" c");
+}
+
+TEST_F(CompileErrors, AFlightNeedsADayToFly) {
+    tables["flights.csv"] = std::regex_replace(tables["flights.csv"], std::regex(",1234567,"), ",,");
+    const Lines found = errors();
+    ASSERT_FALSE(found.empty());
+    EXPECT_NE(found[0].find(
+                  "column 6 (days): expected days from 1, Monday, to 7, Sunday, each once, found nothing"),
+              std::string::npos)
+        << found[0];
+}
+
+TEST_F(CompileErrors, TooManyFlightsOfAnAirportAreNamedByTheirLine) {
+    std::string& flights = tables["flights.csv"];
+    const std::string line = flights.substr(flights.find('\n') + 1,
+                                            flights.find('\n', flights.find('\n') + 1) - flights.find('\n'));
+    for (int i = 0; i < 32767; ++i) flights += line;
+    const Lines found = errors();
+    ASSERT_EQ(found.size(), 2U);
+    EXPECT_EQ(found[0].substr(0, 12), "flights.csv:");
+    EXPECT_NE(found[0].find("(origin): expected at most 32767 flights of one airport, found one more"),
+              std::string::npos)
+        << found[0];
 }
 
 TEST_F(CompileErrors, TextThatDoesNotFitItsField) {
@@ -250,6 +292,7 @@ TEST_F(CompileErrors, TextThatIsNoText) {
 }
 
 TEST_F(CompileErrors, CharactersOutsideThePageAreAWarning) {
+    edit(tables["airlines.csv"], "\"Quote \"\"Q\"\" Lines\"", "Quote Q Lines");
     edit(tables["airports.csv"], "Bravo Intl",
          "\xC5\x81\xC3\xB3"
          "d\xC5\xBA");

@@ -171,6 +171,7 @@ TEST(Tool, CompilesDumpsAndSaysWhatIsWrong) {
     const test::TempFolder folder;
     const std::string at = folder.native().string();
     TableTexts tables = tinyWorld();
+    edit(tables["airlines.csv"], "\"Quote \"\"Q\"\" Lines\"", "Quote Q Lines");
     writeFolder(tables, folder / "source");
     EXPECT_EQ(run("compile " + at + "/source " + at + "/target").out,
               at + "/target: 3 airports, 2 airlines, 3 flights, 3 plans\n");

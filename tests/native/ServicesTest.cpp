@@ -1,6 +1,7 @@
 #include "platform/AppFolder.h"
 #include "platform/Files.h"
 #include "platform/Native.h"
+#include "platform/Profile.h"
 #include "platform/posix/ProcessTable.h"
 #include "platform/simulated/SimulatedClock.h"
 #include "support/Soon.h"
@@ -186,51 +187,84 @@ TEST_F(Services, TheSimulatorIsKnownByItsProgramAloneOrBehindWhatRunsIt) {
     EXPECT_FALSE(simulatorRunsIn(folder / "none"));
 }
 
-TEST_F(Services, AWritableProgramFolderIsTheOneThatIsUsed) {
+TEST_F(Services, AWritableProgramFolderHoldsTheUsersFilesToo) {
     std::error_code error;
-    EXPECT_EQ(chooseAppDir(folder, folder / "user", error), folder.string());
+    fs::create_directories(folder / "Images");
+    const AppFolders found = chooseFolders(folder, folder / "user", error);
+    EXPECT_EQ(found.AppDir, folder.string());
+    EXPECT_EQ(found.delivered, folder);
     EXPECT_FALSE(error);
     EXPECT_FALSE(fs::exists(folder / "user"));
-    EXPECT_TRUE(fs::is_empty(folder));
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder), {}), 1);
 }
 
-TEST_F(Services, AnInstalledProgramWorksOnACopyOfItsOwnData) {
-    // A folder that is none cannot be written, not even by an administrator.
-    const fs::path program = folder / "program";
-    const fs::path own = folder / "user" / "Gatewise Terminal";
-    write(own / "GT.cfg", "mine");
+TEST_F(Services, AnInstalledProgramFindsItsPicturesInTheSharedFolder) {
+    fs::create_directories(folder / "bin");
+    fs::create_directories(folder / "share" / "gatewise" / "Images");
     std::error_code error;
-    EXPECT_EQ(chooseAppDir(program, folder / "user", error), own.string());
+    const AppFolders found = chooseFolders(folder / "bin", folder / "user", error);
+    EXPECT_EQ(found.delivered, folder / "share" / "gatewise");
+    EXPECT_EQ(found.AppDir, (folder / "user" / "Gatewise Terminal").string());
     EXPECT_FALSE(error);
-    EXPECT_EQ(read(own / "GT.cfg"), "mine");
-
-    fs::remove_all(own);
-    EXPECT_EQ(chooseAppDir(program, folder / "user", error), program.string());
-    EXPECT_TRUE(error);
-    EXPECT_FALSE(fs::exists(own));
+    EXPECT_TRUE(fs::is_directory(folder / "user" / "Gatewise Terminal" / "Data"));
 }
 
-TEST_F(Services, TheFirstStartFillsTheUsersFolder) {
-    // An administrator can write everywhere, so somebody else does it.
-    const uid_t before = geteuid();
-    fs::permissions(folder, fs::perms::all);
-    if (before == 0) {
-        ASSERT_EQ(seteuid(65534), 0);
-    }
-    const fs::path program = folder / "program";
-    write(program / "Data" / "index.gt1", "bytes");
-    fs::permissions(program / "Data" / "index.gt1", fs::perms::owner_read);
-    fs::permissions(program / "Data", fs::perms::owner_read | fs::perms::owner_exec);
-    fs::permissions(program, fs::perms::owner_read | fs::perms::owner_exec);
+TEST_F(Services, AUsersFolderThatCannotBeMadeIsAnError) {
+    write(folder / "user", "a file");
     std::error_code error;
-    const std::string dir = chooseAppDir(program, folder / "user", error);
-    fs::permissions(program, fs::perms::owner_all);
-    fs::permissions(program / "Data", fs::perms::owner_all);
-    EXPECT_EQ(dir, (folder / "user" / "Gatewise Terminal").string());
-    EXPECT_EQ(read(fs::path(dir) / "Data" / "index.gt1"), "bytes");
-    write(fs::path(dir) / "Data" / "index.gt1", "changed");
-    EXPECT_EQ(read(fs::path(dir) / "Data" / "index.gt1"), "changed");
-    EXPECT_EQ(seteuid(before), 0);
+    // A folder that is none cannot be written, not even by an administrator.
+    EXPECT_EQ(chooseFolders(folder / "program", folder / "user", error).AppDir,
+              (folder / "program").string());
+    EXPECT_TRUE(error);
+}
+
+/// An installed program and its user's folder, which holds what an older program once copied there.
+struct Installed : Services {
+    Installed() {
+        write(program / "Images" / "icon.png", "new picture");
+        write(program / "Data" / "index.gt1", "main index");
+        write(program / "Data" / "routes.gt1", "main routes");
+        write(program / "Data" / "Europe" / "index.gt1", "delivered set");
+        write(program / "Data" / "Europe" / "routes.gt1", "delivered routes");
+        write(program / "GT.cfg", "[Main]\r\nIndex=3\r\n");
+        write(own / "Images" / "icon.png", "old picture");
+        write(own / "Images" / "extra.png", "mine");
+        write(own / "Data" / "LogBook.gt1", "flights");
+        useFolders({own.string(), program});
+    }
+    ~Installed() override { useFolders({own.string(), own}); }
+    [[nodiscard]] std::string seen(const std::string& tail) const {
+        const auto bytes = files::readAll(own.string() + tail);
+        return bytes ? std::string(asText(*bytes)) : std::string("(no such file)");
+    }
+
+    const fs::path program = folder / "program";
+    const fs::path own = folder / "user";
+};
+
+TEST_F(Installed, AnUpdatedProgramShowsItsNewPictures) {
+    EXPECT_EQ(seen("\\Images\\icon.png"), "new picture");
+    EXPECT_EQ(seen("\\images\\EXTRA.png"), "mine");
+    EXPECT_EQ(files::list(own.string() + "\\Images").size(), 2U);
+}
+
+TEST_F(Installed, WhatTheUserHasWinsWholeSetBySet) {
+    EXPECT_EQ(seen("\\Data\\routes.gt1"), "main routes");
+    EXPECT_EQ(seen("\\Data\\LogBook.gt1"), "flights");
+    EXPECT_EQ(seen("\\Data\\Europe\\routes.gt1"), "delivered routes");
+    write(own / "Data" / "Europe" / "index.gt1", "my set");
+    EXPECT_EQ(seen("\\Data\\Europe\\index.gt1"), "my set");
+    EXPECT_EQ(seen("\\Data\\Europe\\routes.gt1"), "(no such file)");
+    EXPECT_EQ(seen("\\Data\\index.gt1"), "main index");
+}
+
+TEST_F(Installed, NothingIsWrittenIntoTheProgramsFolder) {
+    EXPECT_EQ(seen("\\GT.cfg"), "[Main]\r\nIndex=3\r\n");
+    EXPECT_FALSE(WriteValue("Main", "Last", "Hart", own.string() + "\\GT.cfg"));
+    EXPECT_EQ(read(program / "GT.cfg"), "[Main]\r\nIndex=3\r\n");
+    EXPECT_EQ(read(own / "GT.cfg"), "[Main]\r\nIndex=3\r\nLast=Hart\r\n");
+    EXPECT_FALSE(files::remove(own.string() + "\\Data\\index.gt1"));
+    EXPECT_TRUE(fs::exists(program / "Data" / "index.gt1"));
 }
 
 } // namespace gatewise::native

@@ -4,6 +4,7 @@
 #include <array>
 #include <cctype>
 #include <clocale>
+#include <ctime>
 #include <langinfo.h>
 #include <locale.h>
 
@@ -46,17 +47,40 @@ public:
         put(LocaleKey::Decimal, signs->decimal_point);
         put(LocaleKey::Thousand, signs->thousands_sep);
         put(LocaleKey::Time, timeSign(nl_langinfo(T_FMT)).c_str());
+        dateForm_ = nl_langinfo(D_FMT);
         // Lists have no setting of their own; where "," is the decimal sign, items are parted by ";".
         put(LocaleKey::List, std::string_view(signs->decimal_point) == "," ? ";" : ",");
         uselocale(before);
-        freelocale(user);
+        user_ = user;
     }
+    ~PosixLocale() override {
+        if (user_ != locale_t{}) freelocale(user_);
+    }
+    PosixLocale(const PosixLocale&) = delete;
+    PosixLocale& operator=(const PosixLocale&) = delete;
 
     [[nodiscard]] std::string text(LocaleKey key) const override {
         return texts_[static_cast<std::size_t>(key)];
     }
 
+    /// A person who has chosen no locale has the plain form.
+    [[nodiscard]] std::string shortDate(const DateTime& moment) const override {
+        if (user_ == locale_t{} || dateForm_ == kNobodysForm) return Locale::shortDate(moment);
+        std::tm day{};
+        day.tm_year = moment.year - 1900;
+        day.tm_mon = moment.month - 1;
+        day.tm_mday = moment.day;
+        day.tm_wday = weekday(moment);
+        std::array<char, 128> text{};
+        const std::size_t length = strftime_l(text.data(), text.size(), dateForm_.c_str(), &day, user_);
+        return length > 0 ? textFromUtf8(std::string_view(text.data(), length)) : Locale::shortDate(moment);
+    }
+
 private:
+    static constexpr std::string_view kNobodysForm = "%m/%d/%y"; // of the C locale
+
+    locale_t user_{};
+    std::string dateForm_;
     std::array<std::string, 6> texts_ = {".", ",", ".", ",", ":", ","};
 };
 

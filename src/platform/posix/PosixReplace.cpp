@@ -75,7 +75,7 @@ void flushFolder(const fs::path& path) {
 } // namespace
 
 std::error_code replace(std::string_view path, ByteView bytes, const Stamp* old) {
-    fs::path target = resolve(path);
+    fs::path target = files::target(path);
     if (target.empty()) return std::make_error_code(std::errc::invalid_argument);
     mode_t mode = 0644;
     if (const auto error = followLinks(target)) return error;

@@ -28,7 +28,7 @@ std::error_code writeFlushed(const fs::path& name, ByteView bytes) {
 } // namespace
 
 std::error_code replace(std::string_view path, ByteView bytes, const Stamp* old) {
-    const fs::path target = resolve(path);
+    const fs::path target = files::target(path);
     if (target.empty()) return std::make_error_code(std::errc::invalid_argument);
     fs::path beside = target;
     beside += ".new~";

@@ -52,14 +52,24 @@ public:
     }
 
     [[nodiscard]] std::string longDate(const DateTime& moment) const override {
+        const std::string text = date(DATE_LONGDATE, moment);
+        return text.empty() ? Locale::longDate(moment) : text;
+    }
+    [[nodiscard]] std::string shortDate(const DateTime& moment) const override {
+        const std::string text = date(DATE_SHORTDATE, moment);
+        return text.empty() ? Locale::shortDate(moment) : text;
+    }
+
+private:
+    static std::string date(DWORD form, const DateTime& moment) {
         SYSTEMTIME day{};
         day.wYear = static_cast<WORD>(moment.year);
         day.wMonth = static_cast<WORD>(moment.month);
         day.wDay = static_cast<WORD>(moment.day);
         std::array<char, 255> buffer{};
-        const int length = GetDateFormatA(GetUserDefaultLCID(), DATE_LONGDATE, &day, nullptr, buffer.data(),
+        const int length = GetDateFormatA(GetUserDefaultLCID(), form, &day, nullptr, buffer.data(),
                                           static_cast<int>(buffer.size()));
-        return length > 0 ? std::string(buffer.data()) : Locale::longDate(moment);
+        return length > 0 ? std::string(buffer.data()) : std::string();
     }
 };
 

@@ -1,6 +1,8 @@
 #include "pages/MsgBox.h"
 #include "platform/AppFolder.h"
 #include "platform/Native.h"
+#include "window/OneInstance.h"
+#include "window/QtText.h"
 #include "window/WindowProgram.h"
 
 #if GATEWISE_HAS_DIRECTSOUND
@@ -49,8 +51,15 @@ int main(int count, char** arguments) {
     QGuiApplication::setDesktopFileName("org.gatewise.terminal");
 
     std::error_code error;
-    const std::string appDir = chooseAppDir(error);
+    const AppFolders folders = chooseFolders(error);
     if (error) std::cerr << "gatewise: " << error.message() << '\n';
+    useFolders(folders);
+    window::OneInstance instance(window::nativePath(folders.AppDir));
+    if (!instance.first()) {
+        std::cerr << "gatewise: the program is running already; its window comes to the front\n";
+        instance.callFirst();
+        return EXIT_SUCCESS;
+    }
 
     window::WindowProgram* window = nullptr;
     const auto clock = native::systemClock();
@@ -63,8 +72,9 @@ int main(int count, char** arguments) {
     const auto processes = native::systemProcesses(say);
     const auto random = native::systemRandom();
     const auto sound = soundDevice(window);
-    window::WindowProgram program({*clock, *locale, *registry, *processes, *random, *sound}, appDir);
+    window::WindowProgram program({*clock, *locale, *registry, *processes, *random, *sound}, folders.AppDir);
     window = &program;
+    instance.onCall([&program] { program.toFront(); });
     program.run(error ? "The program's folder for settings could not be made: " + error.message() : "");
     window = nullptr;
     return EXIT_SUCCESS;

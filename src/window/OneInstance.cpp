@@ -1,0 +1,31 @@
+#include "window/OneInstance.h"
+
+#include <QFile>
+
+namespace gatewise::window {
+
+OneInstance::OneInstance(const QString& folder)
+    : call_(folder + "/gatewise.show"), lock_(folder + "/gatewise.lock") {
+    // A program may run for days: only the end of its process makes its lock a stale one.
+    lock_.setStaleLockTime(0);
+    first_ = lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError;
+    if (!first_) return;
+    QFile::remove(call_);
+    watcher_.addPath(folder);
+    QObject::connect(&watcher_, &QFileSystemWatcher::directoryChanged, &watcher_, [this] { answer(); });
+}
+
+void OneInstance::callFirst() const {
+    QFile call(call_);
+    (void)call.open(QIODevice::WriteOnly);
+}
+
+void OneInstance::onCall(std::function<void()> show) {
+    show_ = std::move(show);
+}
+
+void OneInstance::answer() {
+    if (QFile::exists(call_) && QFile::remove(call_) && show_) show_();
+}
+
+} // namespace gatewise::window
