@@ -1,6 +1,7 @@
 #include "simulator/AircraftScan.h"
 
 #include "platform/Files.h"
+#include "platform/ProfileText.h"
 #include "platform/Text.h"
 
 #include <algorithm>
@@ -96,8 +97,9 @@ private:
     Section* current_ = nullptr;
 };
 
-std::string held(const std::optional<std::string_view>& value, std::string_view missing) {
-    return std::string(value.value_or(missing).substr(0, kTextLimit));
+std::string held(const std::optional<std::string_view>& value, std::string_view missing,
+                 ProfileCoding coding) {
+    return valueFrom(value.value_or(missing), coding).substr(0, kTextLimit);
 }
 
 /// A value as text: NUL characters count as blanks, blanks around it go.
@@ -141,23 +143,30 @@ bool addFolder(std::vector<ScannedAircraft>& out, const fs::path& folder, const 
     return true;
 }
 
-} // namespace
-
-std::vector<AircraftVariation> variationsOf(std::string_view content) {
+std::vector<AircraftVariation> variationsIn(std::string_view lines, ProfileCoding coding) {
     SectionReader reader;
-    while (!content.empty()) {
-        std::string_view line = takeUpTo('\n', content);
+    while (!lines.empty()) {
+        std::string_view line = takeUpTo('\n', lines);
         while (!line.empty()) reader.line(takeUpTo('\r', line));
     }
     std::vector<AircraftVariation> out;
     for (std::size_t j = 0; j < kVariations; ++j) {
         const Section& section = reader.section(j);
-        const std::string title = held(section.title, kMissingTitle);
+        const std::string title = held(section.title, kMissingTitle, coding);
         if (title.empty() || title.front() == '\0') break;
         if (equalNoCase(std::string_view(title).substr(0, kMissingTitle.size()), kMissingTitle)) break;
-        out.push_back({title, held(section.sim, "sim")});
+        out.push_back({title, held(section.sim, "sim", coding)});
     }
     return out;
+}
+
+} // namespace
+
+std::vector<AircraftVariation> variationsOf(std::string_view content) {
+    const ProfileCoding coding = codingOf(viewOf(content));
+    if (coding == ProfileCoding::Page) return variationsIn(content, coding);
+    const Bytes lines = unmarked(Bytes(content.begin(), content.end()), coding);
+    return variationsIn(asText(lines), coding);
 }
 
 std::vector<ScannedAircraft> FilesSearch(std::string_view path) {

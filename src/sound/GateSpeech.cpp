@@ -1,5 +1,6 @@
 #include "sound/GateSpeech.h"
 
+#include "platform/FileNames.h"
 #include "platform/Files.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
@@ -13,8 +14,12 @@ namespace {
 
 constexpr std::size_t kAirlineWidth = 3;
 
-std::string keyRecording(const std::string& folder, const std::string& key) {
-    return folder + lowerCase(trimmed(key)) + ".wav";
+/// The recording of a code or a name out of the data; empty when there is none, as for what no file name can
+/// be.
+std::string keyRecording(const std::string& folder, std::string_view key) {
+    std::error_code refused;
+    const auto path = files::namedIn(folder, lowerCase(trimmed(key)) + ".wav", refused);
+    return path && files::fileExists(*path) ? *path : std::string();
 }
 
 } // namespace
@@ -33,13 +38,13 @@ std::optional<SpokenFlight> splitFlight(const std::string& flightKey) {
 }
 
 std::string airlineRecording(const std::string& folder, const std::string& airline) {
-    const std::string own = keyRecording(folder + "Airlines\\", airline);
-    return files::fileExists(own) ? own : folder + "ann2.wav";
+    const std::string own = keyRecording(folder + "Airlines", airline);
+    return own.empty() ? folder + "ann2.wav" : own;
 }
 
 SpokenCity cityRecordings(const std::string& folder, const std::string& link, const std::string& city) {
-    const std::string own = keyRecording(folder + "Cities\\", city);
-    if (files::fileExists(own)) return {folder + link, own};
+    const std::string own = keyRecording(folder + "Cities", city);
+    if (!own.empty()) return {folder + link, own};
     return {folder + "0.wav", folder + "0.wav"};
 }
 

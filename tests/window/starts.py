@@ -1,0 +1,81 @@
+#!/usr/bin/env python3
+"""starts.py PROGRAM DELIVERED_FOLDER: the program as it is started, without a display.
+
+A second start hands over to the first one; the lock of a program that was killed is taken over; pipes in the place of
+pictures and fonts do not hold the start; nothing comes into the delivered folder."""
+
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+
+PATIENCE = 60  # seconds
+
+
+def wait_for(what, condition):
+    end = time.monotonic() + PATIENCE
+    while time.monotonic() < end:
+        if condition():
+            return
+        time.sleep(0.05)
+    sys.exit(f'{what}: not within {PATIENCE} seconds')
+
+
+class Place:
+    """An installed program with a user of its own."""
+
+    def __init__(self, folder, program, delivered):
+        self.program = folder / 'bin' / program.name
+        self.program.parent.mkdir()
+        shutil.copy2(program, self.program)
+        shared = folder / 'share' / 'gatewise'
+        shared.mkdir(parents=True)
+        for part in ('Fonts', 'Images', 'Wavs', 'Data', 'help', 'GT.cfg'):
+            if (delivered / part).exists():
+                (shared / part).symlink_to(delivered / part)
+        self.user = folder / 'user' / 'Gatewise Terminal'
+        self.environment = dict(os.environ, QT_QPA_PLATFORM='offscreen', ALSOFT_DRIVERS='null',
+                                XDG_DATA_HOME=str(folder / 'user'), HOME=str(folder))
+
+    def start(self):
+        return subprocess.Popen([self.program], env=self.environment, stderr=subprocess.PIPE, text=True)
+
+    def owner(self):
+        lock = self.user / 'gatewise.lock'
+        lines = lock.read_text().splitlines() if lock.exists() else []
+        return int(lines[0]) if lines else None
+
+
+def main():
+    program, delivered = (pathlib.Path(name).resolve() for name in sys.argv[1:])
+    before = sorted((path, path.stat().st_mtime) for path in delivered.rglob('*'))
+    with tempfile.TemporaryDirectory() as name:
+        place = Place(pathlib.Path(name), program, delivered)
+        for pipe in ('Images/icon_16.png', 'Fonts/pipe.ttf', 'GT.cfg'):
+            (place.user / pipe).parent.mkdir(parents=True, exist_ok=True)
+            os.mkfifo(place.user / pipe)
+        first = place.start()
+        wait_for('the first start', lambda: place.owner() == first.pid)
+        second = place.start()
+        _, said = second.communicate(timeout=PATIENCE)
+        if second.returncode != 0 or 'running already' not in said:
+            sys.exit(f'the second start ended with {second.returncode}: {said}')
+        wait_for('the call to the first start', lambda: not (place.user / 'gatewise.show').exists())
+        if first.poll() is not None:
+            sys.exit('the first program has ended')
+        first.kill()
+        first.wait()
+        third = place.start()
+        wait_for('the start after a kill', lambda: place.owner() == third.pid)
+        third.kill()
+        third.wait()
+    if before != sorted((path, path.stat().st_mtime) for path in delivered.rglob('*')):
+        sys.exit('the delivered folder has changed')
+    print('a second start hands over, a third takes over')
+
+
+if __name__ == '__main__':
+    main()
