@@ -7,6 +7,7 @@
 #include "pages/MainTabs.h"
 #include "pages/Placement.h"
 #include "pages/Screens.h"
+#include "platform/Text.h"
 #include "sound/DS_Engine.h"
 #include "work/Clocks.h"
 #include "work/DataSets.h"
@@ -57,9 +58,20 @@ void loadAll(Program& p) {
     Session& s = p.session;
     LoadTables(s.AppDir, s.settings.DataSetPath, s.schedule,
                [&p](const char* message) { sayOnSplash(p, message); });
-    LoadLogBook(logFiles(s.AppDir, s.settings.FsPath), s.log);
+    (void)LoadLogBook(logFiles(s.AppDir, s.settings.FsPath), p.machine.clock.now(), s.log);
     loadGraphics(p);
     sayOnSplash(p, "Finding Flights, Standby...");
+}
+
+/// The pilot's own files that are there but could not be read: they are left as they are.
+void sayUnread(Program& p) {
+    const std::pair<const char*, std::error_code> files[] = {
+        {"GT.cfg", p.session.settings.unread}, {"The log book", p.session.log.logStore.doubt()}};
+    for (const auto& [name, error] : files) {
+        if (error)
+            p.machine.desktop.notify(std::string(name) + " could not be read and is left as it is: " +
+                                     textFromUtf8(error.message()));
+    }
 }
 
 } // namespace
@@ -84,6 +96,7 @@ void startUp(Program& p) {
     hideScreen(p, p.forms.SplashForm);
     if (s.settings.StatusBoard == 1 && StartBoard(p) == Waited::Ended) return;
     showScreen(p, p.forms.MainForm);
+    sayUnread(p);
 }
 
 } // namespace gatewise

@@ -5,6 +5,7 @@
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
 #include "pages/SaveSettings.h"
+#include "platform/FileNames.h"
 #include "platform/Files.h"
 #include "platform/Text.h"
 #include "work/PlanWork.h"
@@ -92,12 +93,14 @@ Waited openExportPicker(Program& p, const std::string& kind) {
 Waited writeExport(Program& p) {
     auto& f = p.forms.DirExportForm;
     const Session& s = p.session;
-    const std::string path = f.Dir1.path + "\\" + f.filenameTEXT.text;
+    std::error_code refused;
+    const auto path = files::namedIn(f.Dir1.path, f.filenameTEXT.text, refused);
     rememberFolder(p);
     hideScreen(p, f);
     if (const ExportKind* kind = exportKind(p)) {
-        const Notice notice = kind->write(
-            exportJob(s.plan.plan, s.schedule, s.dispatch, s.settings, s.locale, p.machine), path);
+        const ExportJob job = exportJob(s.plan.plan, s.schedule, s.dispatch, s.settings, s.locale, p.machine);
+        const bool named = path || kind->ownName;
+        const Notice notice = named ? kind->write(job, path.value_or("")) : failure(refused, "ExportPlans");
         if (ShowMessage(p, notice) == Waited::Ended) return Waited::Ended;
     }
     saveSettings(p);

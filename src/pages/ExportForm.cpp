@@ -4,6 +4,7 @@
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
 #include "pages/SettingControls.h"
+#include "platform/FileNames.h"
 #include "work/FmcExports.h"
 #include "work/PlanWork.h"
 #include "work/ProFlight.h"
@@ -70,7 +71,10 @@ Waited SendToProFlight(Program& p) {
     Session& s = p.session;
     const ExportJob job = exportJob(s.plan.plan, s.schedule, s.dispatch, s.settings, s.locale, p.machine);
     const std::string planName = job.stem + ".pln";
-    writeFs2000Plan(job, s.settings.FsPath + "\\flights\\myflts\\" + planName);
+    std::error_code refused;
+    const auto plan = files::namedIn(s.settings.FsPath + "\\flights\\myflts", planName, refused);
+    if (!plan) return ShowMessage(p, failure(refused, "SendToProFlight"));
+    writeFs2000Plan(job, *plan);
     const auto missing = proFlightMissing(s.settings);
     if (missing && ShowMessage(p, *missing) == Waited::Ended) return Waited::Ended;
     ExportPF2K(s.settings, s.schedule, s.dispatch, s.locale.numbers, planName, s.plan.plan);

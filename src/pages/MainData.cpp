@@ -17,11 +17,15 @@ Waited changeDataSet(Program& p) {
     const std::string path = dataSetPath(s.AppDir, f.routeCombo.text());
     if (path == s.settings.DataSetPath) return waited(p);
 
+    p.machine.desktop.setPointer(true);
+    if (const auto error = changeTables(s.AppDir, path, s.schedule)) {
+        p.machine.desktop.setPointer(false);
+        f.routeCombo.select(dataSetPlace(f.routeCombo.items, s.settings.DataSetPath));
+        return ShowMessage(p, failure(error, "LoadTables"));
+    }
     s.settings.DataSetPath = path;
     s.settings.HomeIndex = 0;
     saveSettings(p);
-    p.machine.desktop.setPointer(true);
-    LoadTables(s.AppDir, path, s.schedule);
     ClearDispatch(p);
     f.arrivalButton.State = 0;
     f.statusboard_LABEL.enabled = false;

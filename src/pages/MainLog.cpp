@@ -96,7 +96,7 @@ Waited DeleteLogEntry(Program& p) {
         return ShowMessage(p, *notice);
     }
     if (ShowMessage(p, Heading::Warning, Message::DeleteLogEntry) == Waited::Ended) return Waited::Ended;
-    LoadLogBook(bookFiles(p), log);
+    (void)LoadLogBook(bookFiles(p), p.machine.clock.now(), log);
     ShowLogPage(p);
     return Waited::Answered;
 }

@@ -7,6 +7,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <system_error>
 
 namespace gatewise {
 
@@ -24,6 +25,9 @@ inline constexpr std::array kAlternateMiles = {5, 10, 15, 20, 25, 30, 35, 40, 45
 /// store every change of theirs here at once; all other work reads them here. A box holds 0, 1 or 2, and only
 /// 1 is on.
 struct Settings {
+    /// Why GT.cfg could not be read: what stands here then is not the pilot's, and is not written over it.
+    std::error_code unread;
+
     std::string FsPath;          // folder of the simulator
     std::int32_t HomeIndex = 0;  // in the airport table; "Index" in the file
     std::string FavoriteAirline; // the default airline; the board may be filtered by another

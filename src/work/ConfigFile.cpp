@@ -122,7 +122,8 @@ std::string configPath(const std::string& AppDir) {
 }
 
 void ReadConfig(const std::string& AppDir, Settings& settings) {
-    const Profile profile = loadProfile(configPath(AppDir));
+    const Profile profile = loadProfile(configPath(AppDir), &settings.unread);
+    if (settings.unread == std::errc::no_such_file_or_directory) settings.unread.clear();
     std::vector<ConfigKey> keys(configKeys().begin(), configKeys().end());
     std::stable_sort(keys.begin(), keys.end(),
                      [](const ConfigKey& a, const ConfigKey& b) { return a.read < b.read; });
@@ -137,6 +138,7 @@ void ReadConfig(const std::string& AppDir, Settings& settings) {
 }
 
 std::error_code WriteConfig(const std::string& AppDir, const Settings& settings) {
+    if (settings.unread) return settings.unread;
     std::vector<ProfileValue> values;
     for (const ConfigKey& key : configKeys())
         values.push_back({key.section, key.key, written(settings, key)});

@@ -1,5 +1,6 @@
 #include "work/DataSets.h"
 
+#include "platform/FileSet.h"
 #include "platform/Files.h"
 #include "schedule/Readers.h"
 
@@ -9,6 +10,15 @@ namespace {
 
 constexpr const char* kMainSet = "\\Data";
 constexpr const char* kAllSchedules = "All Real World Airline Schedules";
+
+/// What a set needs of its own besides the index.
+constexpr const char* kTables[] = {"\\index.gt1", "\\airline.gt1", "\\routes.gt1", "\\arrivals.gt1"};
+
+/// A set whose compilation was cut short is finished before it is read.
+void finishTables(const std::string& AppDir, const std::string& DataSetPath) {
+    (void)files::finishSet(files::target(AppDir + kMainSet));
+    if (DataSetPath != kMainSet) (void)files::finishSet(files::target(AppDir + DataSetPath));
+}
 
 } // namespace
 
@@ -37,6 +47,7 @@ void LoadTables(const std::string& AppDir, const std::string& DataSetPath, Sched
     const auto tell = [&](const char* message) {
         if (before) before(message);
     };
+    finishTables(AppDir, DataSetPath);
     tell("Loading Airports, Standby...");
     loadAirports(AppDir + DataSetPath + "\\index.gt1", schedule.tables);
     schedule.airportFinder = AirportFinder(schedule.tables.airports);
@@ -44,6 +55,22 @@ void LoadTables(const std::string& AppDir, const std::string& DataSetPath, Sched
     loadAirlines(AppDir + DataSetPath + "\\airline.gt1", schedule.tables);
     tell("Loading Aircraft, Standby...");
     loadAircraft(AppDir + "\\Data\\aircraft.gt1", schedule.tables);
+}
+
+std::error_code changeTables(const std::string& AppDir, const std::string& DataSetPath, Schedule& schedule) {
+    finishTables(AppDir, DataSetPath);
+    for (const char* table : kTables) {
+        if (const auto error = files::InFile(files::resolve(AppDir + DataSetPath + table)).error())
+            return error;
+    }
+    Tables tables = schedule.tables;
+    const bool whole = loadAirports(AppDir + DataSetPath + "\\index.gt1", tables) &&
+                       loadAirlines(AppDir + DataSetPath + "\\airline.gt1", tables) &&
+                       loadAircraft(AppDir + "\\Data\\aircraft.gt1", tables);
+    if (!whole) return std::make_error_code(std::errc::io_error);
+    schedule.tables = std::move(tables);
+    schedule.airportFinder = AirportFinder(schedule.tables.airports);
+    return {};
 }
 
 } // namespace gatewise

@@ -5,6 +5,7 @@
 #include "export/ExportFSNav.h"
 #include "export/ExportRC2.h"
 #include "export/ExportSB.h"
+#include "platform/FileNames.h"
 #include "platform/Files.h"
 #include "work/Notices.h"
 
@@ -53,12 +54,13 @@ Notice ExportSB(const ExportJob& job, const std::string& path) {
 
 /// The name is always that of the flight, in FSNavigator's own folder.
 Notice ExportFSNav(const ExportJob& job, const std::string&) {
-    const std::string path = job.FsPath + kFsNavigatorPlans + "\\" + job.stem + ".fsn";
     std::error_code error;
-    const auto old = files::readAll(path, &error);
+    const auto path = files::namedIn(job.FsPath + kFsNavigatorPlans, job.stem + ".fsn", error);
     // What is there but cannot be read must not lose its tail.
-    if (!old && error != std::errc::no_such_file_or_directory) return failure(error, "ExportFSNav");
-    error = files::replace(path, fsnavPlan(job.plan, flightOf(job), old ? ByteView(*old) : ByteView()));
+    if (path)
+        error = files::rewrite(*path, [&](const Bytes& old) -> std::optional<Bytes> {
+            return fsnavPlan(job.plan, flightOf(job), old);
+        });
     return written(error, Message::FsNavigatorExported, "ExportFSNav");
 }
 

@@ -15,9 +15,11 @@ constexpr FmcProduct kProducts[] = {
 
 void exportFmcPlan(const std::string& folder, const Plan& plan, const NumberLocale& numbers) {
     const std::string path = folder + "\\fmsplans.fmc";
-    const auto old = files::readAll(path);
-    if (!old) return;
-    if (const auto plans = fmcPlans(plan, asText(*old), numbers)) (void)files::replace(path, *plans);
+    (void)files::rewrite(path, [&](const Bytes& old) -> std::optional<Bytes> {
+        const auto plans = fmcPlans(plan, asText(old), numbers);
+        if (!plans) return std::nullopt;
+        return Bytes(plans->begin(), plans->end());
+    });
 }
 
 } // namespace

@@ -29,6 +29,13 @@ LogRecord newEntry(const Schedule& schedule, const Dispatch& dispatch, const Dat
     return entry;
 }
 
+/// An entry for a book that could not be read, and what the pilot is told of it.
+Notice keepEntry(const LogFiles& files, const LogRecord& entry, const std::error_code& doubt, LogDesk& log) {
+    log.LogEntries.push_back(entry);
+    const auto error = LogStore::keepBeside(files.book, entry);
+    return failure(error ? error : doubt, "AddLogEntry");
+}
+
 constexpr ClockField kFields[] = {
     {"dept", "Set Deptarture Time", &LogRecord::actualDeparture, nullptr},
     {"arr", "Set Arrival Time", &LogRecord::actualArrival, nullptr},
@@ -43,21 +50,24 @@ LogFiles logFiles(const std::string& AppDir, const std::string& FsPath) {
     return {AppDir + "\\Data\\LogBook.gt1", FsPath + "\\Modules\\logrecords.gt1"};
 }
 
-void LoadLogBook(const LogFiles& files, LogDesk& log) {
-    log.LogEntries = readLogBook(files.book);
-    log.logStore.remember(static_cast<long long>(log.LogEntries.size()) *
-                          static_cast<long long>(recordSize<LogRecord>()));
-    MergeLogRecords(files.exchange, log.LogEntries);
+std::error_code LoadLogBook(const LogFiles& files, const DateTime& now, LogDesk& log) {
+    const auto error = log.logStore.load(files.book, daySerial(now), log.LogEntries);
+    if (!error) MergeLogRecords(files.exchange, log.LogEntries);
+    return error;
 }
 
 Notice AddLogEntry(const LogFiles& files, const Schedule& schedule, const Dispatch& dispatch,
                    const DateTime& now, LogDesk& log) {
-    const std::size_t index = log.LogEntries.size();
-    if (index >= kLogEntries) return tableFull("AddLogEntry");
-    if (const auto error = log.logStore.put(files.book, index, newEntry(schedule, dispatch, now),
-                                            daySerial(now), log.LogEntries))
+    // A book that could not be read may be readable by now.
+    if (log.logStore.doubt()) (void)LoadLogBook(files, now, log);
+    if (log.LogEntries.size() >= kLogEntries) return tableFull("AddLogEntry");
+    const LogRecord entry = newEntry(schedule, dispatch, now);
+    if (const auto doubt = log.logStore.doubt()) return keepEntry(files, entry, doubt, log);
+    if (const auto error = log.logStore.add(files.book, entry, daySerial(now), log.LogEntries))
         return failure(error, "AddLogEntry");
-    LoadLogBook(files, log);
+    // It stands, whether or not the file can be read back.
+    log.LogEntries.push_back(entry);
+    (void)LoadLogBook(files, now, log);
     WriteLogRecords(files.exchange, log.LogEntries);
     return inform(Message::LogEntryMade);
 }

@@ -20,10 +20,12 @@ struct LogFiles {
 };
 LogFiles logFiles(const std::string& AppDir, const std::string& FsPath);
 
-/// Reads the log book and merges the times that came back from the simulator.
-void LoadLogBook(const LogFiles& files, LogDesk& log);
+/// Reads the log book and merges the times that came back from the simulator. On an error what is known of
+/// the book stays, and nothing is written over the file (see LogStore).
+std::error_code LoadLogBook(const LogFiles& files, const DateTime& now, LogDesk& log);
 
 /// An entry for the flight on the pass. The result is what the pilot is told: that it stands, or why not.
+/// When the book cannot be read the entry waits in memory and beside the file until it can.
 Notice AddLogEntry(const LogFiles& files, const Schedule& schedule, const Dispatch& dispatch,
                    const DateTime& now, LogDesk& log);
 

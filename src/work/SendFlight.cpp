@@ -1,5 +1,6 @@
 #include "work/SendFlight.h"
 
+#include "platform/FileNames.h"
 #include "work/Notices.h"
 
 namespace gatewise {
@@ -18,13 +19,18 @@ std::vector<std::string> loadStartChoices(const Settings& settings, const Plan& 
 std::error_code WriteFlightToSimulator(const std::string& AppDir, const ExportJob& job,
                                        const FlightRecord& flight, const Settings& settings,
                                        const FlyOptions& options, SimulatorHandOff& simulator) {
+    std::error_code refused;
+    const auto plan = files::namedIn(settings.FsPath + "\\flights\\myflts", job.stem + ".pln", refused);
+    const auto situation =
+        files::namedIn(settings.FsPath + "\\flights\\fs2kflts", job.stem + ".FLT", refused);
+    if (!plan || !situation) return refused;
     const StartPosition start =
         resolveStart(simulator.StartChoice, job.plan, simulator.storedPositions, simulator.SelectedPoint,
                      {simulator.StartLat, simulator.StartLon, simulator.StartHdg});
     simulator.StartLat = start.StartLat;
     simulator.StartLon = start.StartLon;
     simulator.StartHdg = start.StartHdg;
-    writeFs2000Plan(job, settings.FsPath + "\\flights\\myflts\\" + job.stem + ".pln");
+    writeFs2000Plan(job, *plan);
     const SituationInput input{.plan = job.plan,
                                .CurrentFlight = flight,
                                .numbers = job.numbers,
@@ -35,9 +41,7 @@ std::error_code WriteFlightToSimulator(const std::string& AppDir, const ExportJo
                                .fuelPCT = options.fuelPCT,
                                .PreFlight = settings.PreFlight.value_or(0),
                                .pointIndex = simulator.SelectedPoint};
-    return WriteSituationFile(AppDir + "\\Data\\default.FLT",
-                              settings.FsPath + "\\flights\\fs2kflts\\" + job.stem + ".FLT",
-                              situationKeys(input));
+    return WriteSituationFile(AppDir + "\\Data\\default.FLT", *situation, situationKeys(input));
 }
 
 std::vector<Notice> afterSending(const Settings& settings, const std::string& stem) {

@@ -1,26 +1,10 @@
 #include "OutsideFile.h"
-#include "pages/LoadSettings.h"
 #include "platform/Profile.h"
-#include "platform/simulated/SimulatedMachine.h"
-#include "sound/DS_Engine.h"
-#include "sound/SilentDevice.h"
 #include "work/ConfigFile.h"
-
-#include <memory>
 
 namespace {
 
 using namespace gatewise;
-
-/// The program as far as its configuration goes, on a machine of its own.
-struct Configured {
-    explicit Configured(const std::string& AppDir) : program(machine.machine, AppDir) {
-        loadSettings(program);
-    }
-    SilentDevice sound;
-    simulated::SimulatedMachine machine{sound};
-    Program program;
-};
 
 std::string folderOfThisProcess() {
     const auto folder = fuzz::scratchPath("config");
@@ -62,16 +46,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         std::ofstream out(file, std::ios::binary | std::ios::trunc);
         out.write(reinterpret_cast<const char*>(data), static_cast<std::streamsize>(size));
     }
-    const auto first = std::make_unique<Configured>(folder.path);
-    fuzz::expect(first->program.session.settings.DataSetPath == "\\Data");
-    fuzz::expect(!WriteConfig(folder.path, first->program.session.settings));
+    Settings first;
+    ReadConfig(folder.path, first);
+    fuzz::expect(first.DataSetPath == "\\Data");
+    fuzz::expect(!WriteConfig(folder.path, first));
     const Profile written = loadProfile(file);
 
-    const auto second = std::make_unique<Configured>(folder.path);
-    fuzz::expect(second->program.session.settings.HomeIndex == first->program.session.settings.HomeIndex);
-    fuzz::expect(second->program.session.settings.AmbienceVolume ==
-                 first->program.session.settings.AmbienceVolume);
-    fuzz::expect(!WriteConfig(folder.path, second->program.session.settings));
+    Settings second;
+    ReadConfig(folder.path, second);
+    fuzz::expect(second.HomeIndex == first.HomeIndex);
+    fuzz::expect(second.AmbienceVolume == first.AmbienceVolume);
+    fuzz::expect(!WriteConfig(folder.path, second));
     const Profile again = loadProfile(file);
     for (const auto& [section, key] : kNumbers) {
         // A read that ended early leaves the lists without a pick; a value that is there picks one.

@@ -51,7 +51,7 @@ protected:
         t.p.session.settings.FsPath = folder.path("/fs");
         t.start();
         t.p.session.settings.FsPath = folder.path("/fs");
-        LoadLogBook(logFiles(t.p.session.AppDir, t.p.session.settings.FsPath), t.p.session.log);
+        (void)LoadLogBook(logFiles(t.p.session.AppDir, t.p.session.settings.FsPath), {}, t.p.session.log);
         user::click(page.log_LABEL);
         t.shown.clear();
     }
@@ -365,7 +365,7 @@ TEST_F(LogScreens, ABookWithABrokenLastRecordIsShownWithoutItAndKeptBeforeAChang
     Bytes broken = bytesOf(entries(2));
     broken.resize(broken.size() + 100, 'x');
     folder.write(kBook, ByteView(broken));
-    LoadLogBook(logFiles(t.p.session.AppDir, t.p.session.settings.FsPath), t.p.session.log);
+    (void)LoadLogBook(logFiles(t.p.session.AppDir, t.p.session.settings.FsPath), {}, t.p.session.log);
     EXPECT_EQ(t.p.session.log.LastLogIndex(), 1);
     logCurrentFlight();
     EXPECT_EQ(folder.read("/Data/LogBook.bak"), std::string(broken.begin(), broken.end()));

@@ -1,6 +1,7 @@
 #include "pages/MsgBox.h"
 #include "platform/AppFolder.h"
 #include "platform/Native.h"
+#include "platform/Text.h"
 #include "window/OneInstance.h"
 #include "window/QtText.h"
 #include "window/WindowProgram.h"
@@ -75,7 +76,8 @@ int main(int count, char** arguments) {
     window::WindowProgram program({*clock, *locale, *registry, *processes, *random, *sound}, folders.AppDir);
     window = &program;
     instance.onCall([&program] { program.toFront(); });
-    program.run(error ? "The program's folder for settings could not be made: " + error.message() : "");
+    program.run(
+        error ? "The program's folder for settings could not be made: " + textFromUtf8(error.message()) : "");
     window = nullptr;
     return EXIT_SUCCESS;
 }
