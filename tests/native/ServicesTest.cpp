@@ -8,8 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <cstdlib>
 #include <fstream>
+#include <locale.h>
 #include <sstream>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -185,6 +187,26 @@ TEST_F(Services, TheSimulatorIsKnownByItsProgramAloneOrBehindWhatRunsIt) {
     EXPECT_FALSE(runs("42", ""));
     EXPECT_FALSE(runs("self", "fs2002.exe|"));
     EXPECT_FALSE(simulatorRunsIn(folder / "none"));
+}
+
+TEST_F(Services, TheShortDateIsThatOfTheChosenLocale) {
+    const std::pair<const char*, const char*> forms[] = {{"C", "6/5/2002"},
+                                                         {"de_DE.UTF-8", "05.06.2002"},
+                                                         {"en_US.UTF-8", "06/05/2002"},
+                                                         {"fr_FR.UTF-8", "05/06/2002"}};
+    const char* before = std::getenv("LC_ALL");
+    const std::string kept = before != nullptr ? before : "";
+    for (const auto& [name, text] : forms) {
+        const locale_t known = newlocale(LC_ALL_MASK, name, locale_t{});
+        if (known == locale_t{}) continue; // not installed here
+        freelocale(known);
+        setenv("LC_ALL", name, 1);
+        EXPECT_EQ(userLocale()->shortDate({2002, 6, 5, 0, 0, 0, 0}), text) << name;
+    }
+    if (before != nullptr)
+        setenv("LC_ALL", kept.c_str(), 1);
+    else
+        unsetenv("LC_ALL");
 }
 
 TEST_F(Services, AWritableProgramFolderHoldsTheUsersFilesToo) {

@@ -54,6 +54,7 @@ int play(const std::string& folder, const std::string& out, bool fine) {
     gatewise::stage::Stage stage(gatewise::stage::makeProgramFolder(GATEWISE_PROGRAM_DIR, folder));
     stage.machine.registry.folder = gatewise::files::textOf(fs::path(folder) / "FS2002");
     const Times before = filesOf(folder);
+    const Times delivered = filesOf(GATEWISE_PROGRAM_DIR);
     gatewise::tour::Tour tour(stage, out, fine);
     tour.play();
     for (const auto& picture : tour.pictures()) std::cout << picture << '\n';
@@ -63,7 +64,9 @@ int play(const std::string& folder, const std::string& out, bool fine) {
     }
     for (const auto& complaint : tour.complaints()) std::cerr << "tour: " << complaint << '\n';
     for (const auto& miss : stage.misses) std::cerr << "tour: " << miss << '\n';
-    return tour.complaints().empty() && stage.misses.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
+    const bool untouched = filesOf(GATEWISE_PROGRAM_DIR) == delivered;
+    if (!untouched) std::cerr << "tour: the delivered folder has changed\n";
+    return untouched && tour.complaints().empty() && stage.misses.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 } // namespace
