@@ -275,5 +275,21 @@ TEST(AircraftScan, ManyFoldersInAMoment) {
     EXPECT_LT(ms, 1000);
 }
 
+TEST(AircraftVariations, AreReadBehindAMarkOfUtf8) {
+    const auto found = variationsOf("\xEF\xBB\xBF[fltsim.0]\r\ntitle=Z\xC3\xBCrich\r\nsim=b737\r\n");
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_EQ(found[0].title, "Z\xFCrich");
+    EXPECT_EQ(found[0].sim, "b737");
+}
+
+TEST(AircraftScan, AFileOfAbsurdLengthIsNoAircraft) {
+    const test::TempFolder folder;
+    folder.write("/Aircraft/b737/aircraft.cfg", "[fltsim.0]\r\ntitle=Boeing\r\n");
+    std::filesystem::create_directories(folder / "Aircraft/b737/panel");
+    EXPECT_EQ(FilesSearch(folder.path("/Aircraft")).size(), 1U);
+    std::filesystem::resize_file(folder / "Aircraft/b737/aircraft.cfg", 1500ULL << 20U);
+    EXPECT_TRUE(FilesSearch(folder.path("/Aircraft")).empty());
+}
+
 } // namespace
 } // namespace gatewise
