@@ -1,6 +1,6 @@
 #include "platform/Delivered.h"
 
-#include "platform/Files.h"
+#include "platform/Paths.h"
 #include "platform/Text.h"
 
 #include <algorithm>

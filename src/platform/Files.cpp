@@ -22,6 +22,13 @@ std::vector<Entry> entriesOf(const fs::path& folder) {
 
 } // namespace
 
+fs::path resolve(std::string_view path) {
+    fs::path own = target(path);
+    if (own.empty()) return own;
+    fs::path theirs = deliveredFor(path, own);
+    return theirs.empty() ? own : theirs;
+}
+
 bool fileExists(std::string_view path) {
     std::error_code error;
     return fs::is_regular_file(resolve(path), error);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/InFile.h"
+#include "platform/Paths.h"
 
 #include <filesystem>
 #include <functional>
@@ -10,23 +11,13 @@
 #include <system_error>
 #include <vector>
 
-// Files by the system's own paths: a native absolute folder followed by tails such as "\Data\index.gt1". "\"
-// and "/" are the same; each component is looked up as written first and then without regard to letter case;
-// what does not exist yet is created as written. Paths are texts of the program (Windows-1252); a component
-// that is valid UTF-8 with bytes above 127 is taken as it is, and one that only exists with its bytes as they
-// are is found by them, so that folders whose names the page cannot hold still work.
+// Files by the system's own paths (see platform/Paths.h).
 
 namespace gatewise::files {
 
-/// The native path that stands for `path` now, to read from; empty for a text with a NUL, which the system
-/// would cut there. What came with the program is found below AppDir (see platform/Delivered.h).
+/// The native path that stands for `path` now, to read from: its target, or what came with the program and is
+/// found below AppDir (see platform/Delivered.h).
 std::filesystem::path resolve(std::string_view path);
-
-/// The same to write to: what came with the program is never written over.
-std::filesystem::path target(std::string_view path);
-
-/// A native path as a text of the program.
-std::string textOf(const std::filesystem::path& path);
 
 /// No file that the program reads whole comes near this many bytes (64 MB): what is longer is damaged.
 inline constexpr long long kLongestFile = 64LL << 20U;

@@ -1,5 +1,5 @@
-#include "platform/Delivered.h"
-#include "platform/Files.h"
+#include "platform/Paths.h"
+
 #include "platform/Text.h"
 #include "platform/Utf8.h"
 
@@ -77,13 +77,6 @@ fs::path target(std::string_view path) {
         }
     }
     return out;
-}
-
-fs::path resolve(std::string_view path) {
-    fs::path own = target(path);
-    if (own.empty()) return own;
-    fs::path theirs = deliveredFor(path, own);
-    return theirs.empty() ? own : theirs;
 }
 
 std::string textOf(const fs::path& path) {
