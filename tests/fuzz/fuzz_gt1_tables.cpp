@@ -30,12 +30,12 @@ constexpr std::array<std::pair<const char*, const char*>, 11> kTables = {{
 }};
 
 /// A folder of sound tables in which one at a time is replaced.
-struct Tables {
-    Tables() {
+struct TableFolder {
+    TableFolder() {
         std::filesystem::create_directories(path);
         for (const auto& [name, text] : kTables) write(name, text);
     }
-    ~Tables() {
+    ~TableFolder() {
         std::error_code ignored;
         std::filesystem::remove_all(path, ignored);
     }
@@ -49,7 +49,7 @@ struct Tables {
 
 // Any bytes as one of the tables: a set that is made without an error can be packed.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const Tables tables;
+    static const TableFolder tables;
     if (size == 0) return 0;
     const auto& [name, sound] = kTables[data[0] % kTables.size()];
     tables.write(name, {reinterpret_cast<const char*>(data + 1), size - 1});
