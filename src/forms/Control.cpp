@@ -161,6 +161,12 @@ SkinnedButton* skinnedButton(Control* control) {
     }
 }
 
+Control* Screen::closingControl() const {
+    const auto at =
+        std::find_if(closedBy.begin(), closedBy.end(), [](const Control* c) { return c->usable(); });
+    return at == closedBy.end() ? nullptr : *at;
+}
+
 Control* Screen::find(std::string_view controlName, int index) const {
     for (Control* control : controls) {
         if (control->index == index && control->name == controlName) return control;

@@ -86,6 +86,9 @@ struct Control {
     void fire(Event event, const EventArgs& args = {});
     [[nodiscard]] bool handles(Event event) const;
 
+    /// Whether a press on it does something now: visible, enabled, and for a button with a State, that is 1.
+    [[nodiscard]] virtual bool usable() const { return visible && enabled; }
+
     /// "MainForm.fltnum_LABEL(3)"
     [[nodiscard]] std::string fullName() const;
 
@@ -245,6 +248,7 @@ struct SkinnedButton : Control {
     SkinnedButton(Screen& screen, std::string name, Kind kind, std::string type, std::string picture,
                   int state = 1, int index = -1);
     /// Whether the class has a State at all.
+    [[nodiscard]] bool usable() const override { return Control::usable() && (!hasState() || State == 1); }
     [[nodiscard]] bool hasState() const { return kind == Kind::FlatButton || kind == Kind::switchButton; }
     int State;
     std::string button_type;
@@ -337,6 +341,10 @@ struct Screen {
     Screen(const Screen&) = delete;
     Screen& operator=(const Screen&) = delete;
 
+    /// What Escape and the window manager press to close the screen: the first of `closedBy` that can be
+    /// used, nullptr when there is none.
+    [[nodiscard]] Control* closingControl() const;
+
     /// The control "name" or "name(index)", nullptr when there is none.
     [[nodiscard]] Control* find(std::string_view controlName, int index = -1) const;
 
@@ -351,8 +359,11 @@ struct Screen {
     bool modal = false;  // shown modally now
     bool loaded = false;
     std::vector<Control*> controls; // in the order of their declaration
+    std::vector<Control*> closedBy; // see closingControl
+    bool heedsEscape = true;        // else only the window manager closes it
     std::function<void()> load;     // the first time that the screen is needed
     std::function<void()> activate; // each time that it is shown
+    std::function<void()> moved;    // each time that the window manager has put it elsewhere
 };
 
 } // namespace gatewise

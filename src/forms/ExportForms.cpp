@@ -3,9 +3,13 @@
 namespace gatewise::forms {
 
 ExportForm::ExportForm()
-    : Screen("ExportForm", "Gatewise Terminal - Export", 440, 400, "\\Images\\Select_BG.bmp") {}
+    : Screen("ExportForm", "Gatewise Terminal - Export", 440, 400, "\\Images\\Select_BG.bmp") {
+    closedBy = {&closeButton};
+}
 
 DirExportForm::DirExportForm()
-    : Screen("DirExportForm", "Gatewise Terminal - Export File", 460, 400, "\\Images\\Dir_BG.bmp") {}
+    : Screen("DirExportForm", "Gatewise Terminal - Export File", 460, 400, "\\Images\\Dir_BG.bmp") {
+    closedBy = {&closeButton};
+}
 
 } // namespace gatewise::forms

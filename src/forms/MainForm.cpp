@@ -15,6 +15,8 @@ constexpr Day kDays[] = {{"Any Day of the Week", 0}, {"Monday", 1},   {"Tuesday"
 } // namespace
 
 MainForm::MainForm() : Screen("MainForm", "Gatewise Terminal", 800, 600, "\\Images\\GT_BG.bmp") {
+    closedBy = {&close_button};
+    heedsEscape = false;
     routeCombo.add("All Real World Airline Schedules");
     for (const auto& day : kDays) dayCombo.add(day.text, day.bit);
     cityTime(4).text = "LOCAL";

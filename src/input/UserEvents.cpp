@@ -135,6 +135,7 @@ void path(PathList& list, std::string path) {
 void moveTo(Screen& screen, double left, double top) {
     screen.left = left;
     screen.top = top;
+    if (screen.moved) screen.moved();
 }
 
 void turnTo(Forms& forms, Screen& screen) {

@@ -50,6 +50,23 @@ std::string ButtonView::pictureTail() const {
     return folderOf(control->kind) + button().picture + ".bmp";
 }
 
+std::string ButtonView::paintedTail() const {
+    if (!button().hasState() || button().State > 0) return pictureTail();
+    struct Off {
+        std::string_view on, off;
+    };
+    static constexpr Off kOff[] = {
+        {"_regular", "_disabled"}, {"_mouse", "_disabled"}, {"_reg", "_dis"}, {"_mouse", "_dis"}};
+    const std::string& name = button().picture;
+    for (const Off& row : kOff) {
+        if (!name.ends_with(row.on)) continue;
+        const std::string stem = name.substr(0, name.size() - row.on.size());
+        const std::string tail = folderOf(control->kind) + stem + std::string(row.off) + ".bmp";
+        if (!actor_.skin().picture(tail, devicePixelRatioF()).isNull()) return tail;
+    }
+    return pictureTail();
+}
+
 void ButtonView::sync() {
     syncCommon();
     if (button().picture == shown_ && button().State == shownState_) return;
@@ -67,10 +84,6 @@ void ButtonView::sync() {
 QString ButtonView::spokenName() const {
     const QString caption = actor_.skin().caption(pictureTail());
     return caption.isEmpty() ? View::spokenName() : caption;
-}
-
-bool ButtonView::usable() const {
-    return View::usable() && (!button().hasState() || button().State == 1);
 }
 
 void ButtonView::byKey(const std::function<void()>& what) {
@@ -114,7 +127,7 @@ void ButtonView::keyPressEvent(QKeyEvent* event) {
 
 void ButtonView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    const QPixmap picture = actor_.skin().picture(pictureTail(), devicePixelRatioF());
+    const QPixmap picture = actor_.skin().picture(paintedTail(), devicePixelRatioF());
     if (picture.isNull()) {
         drawKey(painter, rect(), spokenName(), actor_.skin(), shown_.ends_with("_mouse"), usable());
         return;

@@ -12,14 +12,17 @@ class ButtonView : public PaintedView {
 public:
     ButtonView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
     void sync() override;
+    [[nodiscard]] std::span<const Event> emits() const override { return emitsWithKeys(); }
     [[nodiscard]] QString spokenName() const override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Button; }
-    [[nodiscard]] bool usable() const override;
     [[nodiscard]] bool takesFocus() const override { return usable(); }
     void activate() override;
 
-    /// File of the picture below the program folder.
+    /// File of the form's picture below the program folder.
     [[nodiscard]] std::string pictureTail() const;
+    /// File of the picture that is painted: that of a key that cannot be pressed where the form leaves a lit
+    /// or a regular one on it.
+    [[nodiscard]] std::string paintedTail() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

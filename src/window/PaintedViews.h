@@ -26,6 +26,7 @@ class LabelView : public PaintedView {
 public:
     using PaintedView::PaintedView;
     void sync() override;
+    [[nodiscard]] std::span<const Event> emits() const override { return emitsWithKeys(); }
     [[nodiscard]] QString spokenName() const override;
     [[nodiscard]] QAccessible::Role role() const override;
     [[nodiscard]] bool takesFocus() const override;
@@ -52,6 +53,7 @@ class HitAreaView : public PaintedView {
 public:
     using PaintedView::PaintedView;
     void sync() override { syncCommon(); }
+    [[nodiscard]] std::span<const Event> emits() const override { return emitsWithKeys(); }
     [[nodiscard]] QString spokenName() const override;
     [[nodiscard]] QAccessible::Role role() const override;
     [[nodiscard]] bool takesFocus() const override;

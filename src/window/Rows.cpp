@@ -13,12 +13,13 @@ RowsView::RowsView(Actor& actor, Control* control, const ControlLayout& place, Q
 }
 
 std::span<const Event> RowsView::emits() const {
-    static constexpr Event kEvents[] = {Event::Click, Event::DoubleClick, Event::RightPress,
-                                        Event::Move,  Event::Focus,       Event::Enter,
-                                        Event::Space, Event::Column,      Event::Change};
-    const bool folders = control->kind == Kind::FolderList;
+    // Between what folders and what lists with columns have alone lies what all have.
+    static constexpr Event kEvents[] = {Event::Change,     Event::Click, Event::DoubleClick,
+                                        Event::RightPress, Event::Move,  Event::Focus,
+                                        Event::Enter,      Event::Space, Event::Column};
     const std::span<const Event> all(kEvents);
-    return control->kind == Kind::ListView ? all.first(8) : folders ? all : all.first(7);
+    if (control->kind == Kind::FolderList) return all.first(8);
+    return control->kind == Kind::ListView ? all.subspan(1) : all.subspan(1, 7);
 }
 
 void RowsView::putAt(QPoint corner) {

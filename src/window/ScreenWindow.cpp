@@ -1,7 +1,6 @@
 #include "window/ScreenWindow.h"
 
 #include "input/UserEvents.h"
-#include "window/ClosingKey.h"
 #include "window/Drawing.h"
 #include "window/QtText.h"
 #include "window/ScreenNames.h"
@@ -102,13 +101,13 @@ QRect ScreenWindow::ringBox(View& view) const {
 void ScreenWindow::keyPressEvent(QKeyEvent* event) {
     View* view = viewOf(focusWidget());
     if (event->key() == Qt::Key_Escape)
-        pressClose();
+        screen_.heedsEscape ? pressClose() : event->ignore();
     else if (view == nullptr || !walk_.press(*view, event->key()))
         event->ignore();
 }
 
 void ScreenWindow::pressClose() {
-    Control* key = closingKey(screen_, views_.all);
+    Control* key = screen_.closingControl();
     if (key != nullptr) actor_.act([&] { user::click(*key); });
 }
 
@@ -156,13 +155,7 @@ void ScreenWindow::paintEvent(QPaintEvent*) {
 
 void ScreenWindow::closeEvent(QCloseEvent* event) {
     event->ignore();
-    if (!screen_.enabled) return; // it takes no input now, from the window manager neither
-    if (screen_.name != "MainForm") {
-        pressClose();
-        return;
-    }
-    Control* close = screen_.find("close_button");
-    if (close != nullptr) actor_.act([&] { user::click(*close); });
+    if (screen_.enabled) pressClose(); // else it takes no input now, from the window manager neither
 }
 
 void ScreenWindow::moveEvent(QMoveEvent* event) {

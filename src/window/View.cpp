@@ -19,7 +19,7 @@ QString View::spokenName() const {
 }
 
 bool View::usable() const {
-    return control != nullptr && control->enabled && control->visible;
+    return control != nullptr && control->usable();
 }
 
 void View::syncCommon() {
@@ -37,11 +37,20 @@ PaintedView::PaintedView(Actor& actor, Control* control, const ControlLayout& pl
     setMouseTracking(true);
 }
 
+namespace {
+
+constexpr Event kHands[] = {Event::Press,      Event::Release, Event::Click, Event::DoubleClick,
+                            Event::RightPress, Event::Move,    Event::Focus, Event::Enter};
+constexpr std::size_t kMouseEvents = 6; // the last two belong to the keyboard
+
+} // namespace
+
 std::span<const Event> PaintedView::emits() const {
-    static constexpr Event kEvents[] = {Event::Press,      Event::Release, Event::Click, Event::DoubleClick,
-                                        Event::RightPress, Event::Move,    Event::Focus, Event::Enter};
-    // The last two belong to the keyboard.
-    return takesFocus() || control == nullptr ? std::span(kEvents) : std::span(kEvents).first(6);
+    return std::span(kHands).first(kMouseEvents);
+}
+
+std::span<const Event> PaintedView::emitsWithKeys() {
+    return kHands;
 }
 
 void pressEnter(Actor& actor, Control& control) {

@@ -39,7 +39,7 @@ public:
     [[nodiscard]] virtual QString spokenName() const;
     [[nodiscard]] virtual QAccessible::Role role() const { return QAccessible::StaticText; }
     /// Whether it can be used now.
-    [[nodiscard]] virtual bool usable() const;
+    [[nodiscard]] bool usable() const;
     /// Whether the Tab key stops here.
     [[nodiscard]] virtual bool takesFocus() const { return false; }
     /// The events of its control that a person can bring about here.
@@ -76,6 +76,8 @@ public:
     [[nodiscard]] std::span<const Event> emits() const override;
 
 protected:
+    /// The same for a view that the keyboard reaches too.
+    static std::span<const Event> emitsWithKeys();
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;

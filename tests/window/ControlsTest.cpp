@@ -2,6 +2,7 @@
 
 #include "input/UserEvents.h"
 #include "pages/Screens.h"
+#include "window/Buttons.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -308,6 +309,24 @@ TEST_F(Controls, ADraggedColumnIsResetByItsHead) {
         stage().key(Qt::Key_Escape);
     });
     then([&] { EXPECT_FALSE(forms().ViewPlan.visible); });
+    play();
+}
+
+TEST_F(Controls, AKeyThatCannotBePressedLooksIt) {
+    then([&] { open(forms().SettingsForm); });
+    then([&] {
+        auto& f = forms().SettingsForm;
+        auto& key = dynamic_cast<window::ButtonView&>(stage().widget(f.airlineSearchButton));
+        if (f.anyairlineCHECK.value == 1) stage().click(f.anyairlineCHECK);
+        const QImage on = key.grab().toImage();
+        stage().click(f.anyairlineCHECK);
+        ASSERT_EQ(f.airlineSearchButton.State, 0);
+        EXPECT_EQ(key.paintedTail(), "\\Images\\Buttons\\selair_disabled.bmp");
+        EXPECT_NE(key.grab().toImage(), on);
+        stage().click(f.anyairlineCHECK);
+        EXPECT_EQ(key.grab().toImage(), on);
+        stage().key(Qt::Key_Escape);
+    });
     play();
 }
 

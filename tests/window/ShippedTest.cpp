@@ -1,0 +1,230 @@
+#include "window/StageTest.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QElapsedTimer>
+#include <QTest>
+#include <QTimer>
+
+#include <map>
+#include <random>
+
+// The loop, the timers and the desktop that ship, on the computer's own time.
+
+namespace gatewise::test {
+
+namespace {
+
+class Shipped : public StageTest {
+protected:
+    void SetUp() override {
+        if (!dataIsThere()) GTEST_SKIP() << "built without data sets";
+        makeStage(GATEWISE_PROGRAM_DIR, stage::Time::Real);
+    }
+    forms::MainForm& main() { return forms().MainForm; }
+};
+
+/// Takes the addresses that the program opens.
+class Opened : public QObject {
+    Q_OBJECT
+public:
+    Opened() { QDesktopServices::setUrlHandler("file", this, "take"); }
+    ~Opened() override { QDesktopServices::unsetUrlHandler("file"); }
+    QList<QUrl> urls;
+public slots:
+    void take(const QUrl& url) { urls << url; }
+};
+
+} // namespace
+
+TEST_F(Shipped, TheColonOfTheClockBlinksByItself) {
+    then([&] {
+        const bool before = main().gt_sepLABEL.visible;
+        EXPECT_TRUE(QTest::qWaitFor([&] { return main().gt_sepLABEL.visible != before; }, 5000));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return main().gt_sepLABEL.visible == before; }, 5000));
+        EXPECT_EQ(stage().widget(main().gt_sepLABEL).isVisible(), main().gt_sepLABEL.visible);
+    });
+    play();
+}
+
+TEST_F(Shipped, AHeldKeyOfTheClockCountsAndStopsWithTheHand) {
+    then([&] {
+        const auto minutes = [&] { return std::stoi(main().gt_minutesLABEL.text); };
+        const int before = minutes();
+        QWidget& key = stage().widget(main().gt_minupButton);
+        QWindow* at = key.window()->windowHandle();
+        const QPoint middle = key.mapTo(key.window(), key.rect().center());
+        QTest::mousePress(at, Qt::LeftButton, {}, middle);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return (minutes() - before + 60) % 60 >= 3; }, 5000));
+        QTest::mouseRelease(at, Qt::LeftButton, {}, middle);
+        const int let = minutes();
+        QTest::qWait(500);
+        EXPECT_EQ(minutes(), let);
+    });
+    play();
+}
+
+TEST_F(Shipped, AWaitLastsAsLongAsItSaysAndRunsTheTimersMeanwhile) {
+    then([&] {
+        int ticks = 0;
+        QTimer beside;
+        QObject::connect(&beside, &QTimer::timeout, [&] { ++ticks; });
+        beside.start(20);
+        QElapsedTimer clock;
+        clock.start();
+        stage().window.program.machine.loop.wait(300);
+        EXPECT_GE(clock.elapsed(), 299);
+        EXPECT_LT(clock.elapsed(), 5000);
+        EXPECT_GT(ticks, 2);
+    });
+    play();
+}
+
+TEST_F(Shipped, ThePointerIsBusyWhileTheProgramIs) {
+    then([&] {
+        auto& desktop = stage().window.desktop;
+        desktop.setPointer(true);
+        desktop.setPointer(true);
+        ASSERT_NE(QApplication::overrideCursor(), nullptr);
+        EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+        desktop.setPointer(false);
+        EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+    });
+    play();
+}
+
+TEST_F(Shipped, TheMinimiseKeyPutsTheWindowAway) {
+    then([&] { stage().click(main().min_button); });
+    then([&] {
+        EXPECT_TRUE(stage().desk().mainWindow().isMinimized());
+        stage().desk().mainWindow().showNormal();
+    });
+    play();
+}
+
+TEST_F(Shipped, TheHelpKeyOpensAPageThatIsThere) {
+    Opened opened;
+    then([&] { stage().click(main().FlatButton(2)); });
+    then([&] {
+        ASSERT_EQ(opened.urls.size(), 1);
+        const QString file = opened.urls[0].toLocalFile();
+        EXPECT_TRUE(file.endsWith(".htm")) << file.toStdString();
+        EXPECT_TRUE(QFile::exists(file)) << file.toStdString();
+    });
+    play();
+}
+
+TEST_F(Shipped, AWindowThatTheManagerMovesTakesItsFormAlong) {
+    then([&] {
+        auto& window = stage().desk().mainWindow();
+        QMoveEvent moved(QPoint(100, 60), window.pos());
+        window.move(100, 60);
+        QApplication::processEvents();
+        stage().desk().sync();
+        EXPECT_EQ(window.pos(), QPoint(static_cast<int>(main().left), static_cast<int>(main().top)));
+    });
+    play();
+}
+
+/// What the program plays, prints or writes goes into its own folder: the delivered one stays as it is.
+TEST_F(Shipped, TheDeliveredFolderIsNeverWritten) {
+    namespace fs = std::filesystem;
+    const auto look = [] {
+        std::map<fs::path, fs::file_time_type> files;
+        for (const auto& entry : fs::recursive_directory_iterator(GATEWISE_PROGRAM_DIR)) {
+            if (entry.is_regular_file()) files[entry.path()] = entry.last_write_time();
+        }
+        return files;
+    };
+    const auto before = look();
+    then([&] { stage().doubleClick(main().city_LABEL(3)); });
+    then([&] { stage().click(main().FlatButton(0)); });
+    then([&] { stage().click(main().sendlogButton); });
+    then([&] { stage().key(Qt::Key_Return); });
+    play();
+    EXPECT_EQ(look(), before);
+    EXPECT_TRUE(fs::exists(folder() / "Wavs" / "tmp.wav")) << "the welcome was not made at all";
+}
+
+/// After a thousand random moves, presses and keys there are as many timers and widgets as at the start.
+TEST_F(Shipped, NothingOutlivesItsCause) {
+    const auto living = [] {
+        std::map<std::string, int> count;
+        for (QWidget* top : QApplication::topLevelWidgets()) {
+            count["widgets"] += 1 + static_cast<int>(top->findChildren<QWidget*>().size());
+            count["timers"] += static_cast<int>(top->findChildren<QTimer*>().size());
+        }
+        return count;
+    };
+    const auto settle = [&] {
+        while (forms().front.front() != &main()) {
+            stage().key(Qt::Key_Escape);
+            QCoreApplication::processEvents();
+            if (forms().front.front() != &main() && forms().modalScreen() != nullptr) break;
+        }
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    };
+    std::mt19937 random(2002);
+    std::map<std::string, int> before;
+    int done = 0;
+    const auto act = [&] {
+        window::ScreenWindow* front = stage().desk().front();
+        if (front == nullptr) return;
+        QWindow* at = front->windowHandle();
+        const QPoint place(static_cast<int>(random() % static_cast<unsigned>(front->width())),
+                           static_cast<int>(random() % static_cast<unsigned>(front->height())));
+        // The strip at the top of the main window ends the program or puts it away.
+        if (front == &stage().desk().mainWindow() && (place.y() < 30 || place.x() < 155)) return;
+        switch (random() % 6) {
+        case 0:
+            QTest::mouseClick(at, Qt::RightButton, {}, place);
+            break;
+        case 1:
+        case 2:
+            QTest::mouseClick(at, Qt::LeftButton, {}, place);
+            break;
+        case 3:
+            stage().key(random() % 2 == 0 ? Qt::Key_Tab : Qt::Key_Down);
+            break;
+        case 4:
+            stage().window.desktop.notify("A line of news");
+            break;
+        default:
+            QTest::mouseMove(at, place);
+        }
+        ++done;
+    };
+    then([&] {
+        stage().click(main().main_LABEL);
+        settle();
+        before = living();
+    });
+    for (int i = 0; i < 200; ++i) {
+        then([&] {
+            for (int k = 0; k < 5; ++k) act();
+            if (forms().front.front() != &main()) stage().key(Qt::Key_Escape);
+        });
+    }
+    for (int i = 0; i < 5; ++i) {
+        then([&] {
+            if (forms().front.front() != &main()) stage().key(Qt::Key_Escape);
+        });
+    }
+    then([&] {
+        settle();
+        if (stage().desk().note() != "") {
+            QTest::mouseClick(stage().desk().front()->findChild<QLabel*>(), Qt::LeftButton);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+        const auto after = living();
+        EXPECT_EQ(after.at("timers"), before.at("timers"));
+        // The list of a combo box is made when it first opens and is kept.
+        EXPECT_LE(after.at("widgets"), before.at("widgets") + 40);
+        EXPECT_GT(done, 500);
+    });
+    play();
+}
+
+} // namespace gatewise::test
+
+#include "ShippedTest.moc"
