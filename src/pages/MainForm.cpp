@@ -52,15 +52,20 @@ void loadMainForm(Program& p) {
     f.timeCheck_Timer.enable(true);
 }
 
+/// The two dialogs that keep to the middle of the main screen.
+void followMain(Program& p) {
+    for (Screen* screen :
+         {static_cast<Screen*>(&p.forms.SettingsForm), static_cast<Screen*>(&p.forms.FlyForm)}) {
+        if (screen->visible) CenterOnMain(p, *screen);
+    }
+}
+
 void dragWindow(Program& p, const EventArgs& args) {
     auto& f = p.forms.MainForm;
     if (p.session.desk.DragActive == kFalse || !args.left) return;
     f.left += args.x - p.session.desk.DragX;
     f.top += args.y - p.session.desk.DragY;
-    for (Screen* screen :
-         {static_cast<Screen*>(&p.forms.SettingsForm), static_cast<Screen*>(&p.forms.FlyForm)}) {
-        if (screen->visible) CenterOnMain(p, *screen);
-    }
+    followMain(p);
 }
 
 void bindMoves(Program& p) {
@@ -88,6 +93,7 @@ void bindMoves(Program& p) {
         p.session.desk.DragY = args.y;
         p.session.desk.DragActive = kTrue;
     });
+    f.moved = [&p] { followMain(p); };
     f.BG.on(Event::Release, [&p] { p.session.desk.DragActive = kFalse; });
 }
 

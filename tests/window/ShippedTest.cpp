@@ -5,6 +5,7 @@
 #include <QElapsedTimer>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include <map>
 #include <random>
@@ -114,14 +115,19 @@ TEST_F(Shipped, TheHelpKeyOpensAPageThatIsThere) {
     play();
 }
 
-TEST_F(Shipped, AWindowThatTheManagerMovesTakesItsFormAlong) {
+/// The window manager moves the main window: its form goes along, and the dialogs that keep to its middle.
+TEST_F(Shipped, AWindowThatTheManagerMovesTakesItsFormAndItsDialogsAlong) {
+    then([&] { stage().click(main().FlatButton(1)); });
     then([&] {
         auto& window = stage().desk().mainWindow();
-        QMoveEvent moved(QPoint(100, 60), window.pos());
-        window.move(100, 60);
-        QApplication::processEvents();
-        stage().desk().sync();
-        EXPECT_EQ(window.pos(), QPoint(static_cast<int>(main().left), static_cast<int>(main().top)));
+        auto& dialog = stage().desk().window(forms().SettingsForm);
+        const QPoint between = dialog.pos() - window.pos();
+        const QPoint to = window.pos() + QPoint(-60, 45);
+        window.windowHandle()->setPosition(to);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(QPoint(static_cast<int>(main().left), static_cast<int>(main().top)), to);
+        EXPECT_EQ(dialog.pos() - to, between);
+        stage().key(Qt::Key_Escape);
     });
     play();
 }
