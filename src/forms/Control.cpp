@@ -162,8 +162,12 @@ SkinnedButton* skinnedButton(Control* control) {
 }
 
 Control* Screen::closingControl() const {
-    const auto at =
-        std::find_if(closedBy.begin(), closedBy.end(), [](const Control* c) { return c->usable(); });
+    const auto able = [](const Control* c) { return c != nullptr && c->usable(); };
+    if (closedBy.empty()) {
+        Control* close = find("closeButton");
+        return able(close) ? close : nullptr;
+    }
+    const auto at = std::find_if(closedBy.begin(), closedBy.end(), able);
     return at == closedBy.end() ? nullptr : *at;
 }
 

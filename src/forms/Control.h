@@ -359,7 +359,7 @@ struct Screen {
     bool modal = false;  // shown modally now
     bool loaded = false;
     std::vector<Control*> controls; // in the order of their declaration
-    std::vector<Control*> closedBy; // see closingControl
+    std::vector<Control*> closedBy; // see closingControl; empty: its closeButton
     bool heedsEscape = true;        // else only the window manager closes it
     std::function<void()> load;     // the first time that the screen is needed
     std::function<void()> activate; // each time that it is shown

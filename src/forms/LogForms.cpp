@@ -4,7 +4,6 @@ namespace gatewise::forms {
 
 LogEntry::LogEntry()
     : Screen("LogEntry", "Gatewise Terminal - Log Book Entry", 620, 440, "\\Images\\Dispatch_BG.bmp") {
-    closedBy = {&closeButton};
     notes.multiLine = true;
     notes.maxLength = 151; // a blank and the whole comment
 }

@@ -4,7 +4,6 @@ namespace gatewise::forms {
 
 ViewPlan::ViewPlan()
     : Screen("ViewPlan", "Gatewise Terminal - Flight Plan", 620, 440, "\\Images\\Dispatch_BG.bmp") {
-    closedBy = {&closeButton};
     PlanList.columns.push_back({"ID", 10.0 / 88.0});
     PlanList.columns.push_back({"Name", 34.0 / 88.0});
     PlanList.columns.push_back({"Route", 10.0 / 88.0});
@@ -18,13 +17,10 @@ ViewPlan::ViewPlan()
 }
 
 PlanCharts::PlanCharts()
-    : Screen("PlanCharts", "Gatewise Terminal - Profile and Map", 440, 400, "\\Images\\Select_BG.bmp") {
-    closedBy = {&closeButton};
-}
+    : Screen("PlanCharts", "Gatewise Terminal - Profile and Map", 440, 400, "\\Images\\Select_BG.bmp") {}
 
 FlyForm::FlyForm()
     : Screen("FlyForm", "Gatewise Terminal - Fly Options", 620, 440, "\\Images\\Dispatch_BG.bmp") {
-    closedBy = {&closeButton};
     PlanList.columns.push_back({"ID", 10.0 / 67.0});
     PlanList.columns.push_back({"Name", 34.0 / 67.0});
     PlanList.columns.push_back({"Route", 10.0 / 67.0});

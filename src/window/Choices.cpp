@@ -89,7 +89,7 @@ OptionView::OptionView(Actor& actor, Control* control, const ControlLayout& plac
 }
 
 std::span<const Event> OptionView::emits() const {
-    static constexpr Event kEvents[] = {Event::Click, Event::Focus};
+    static constexpr Event kEvents[] = {Event::Click, Event::Focus, Event::Change};
     return kEvents;
 }
 

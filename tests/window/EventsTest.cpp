@@ -47,14 +47,14 @@ TEST_F(Events, WhatAFormHandlesSomeViewBringsAbout) {
 }
 
 /// No event stands in a class's list that its control could never see there.
-TEST_F(Events, OnlyListsWithColumnsHaveHeadsAndOnlyTextsAndRangesChange) {
+TEST_F(Events, OnlyListsWithColumnsHaveHeadsAndOnlyWhatHasAValueChanges) {
     for (const Screen* screen : forms().all()) {
         for (const window::View* view : stage().desk().window(*screen).views()) {
             if (view->control == nullptr) continue;
             const Kind kind = view->control->kind;
             EXPECT_EQ(emits(*view, Event::Column), kind == Kind::ListView) << view->control->fullName();
             const bool changes = kind == Kind::TextBox || kind == Kind::Slider || kind == Kind::UpDown ||
-                                 kind == Kind::DriveList || kind == Kind::FolderList;
+                                 kind == Kind::DriveList || kind == Kind::FolderList || kind == Kind::Option;
             EXPECT_EQ(emits(*view, Event::Change), changes) << view->control->fullName();
             EXPECT_FALSE(emits(*view, Event::Tick)) << view->control->fullName();
         }
