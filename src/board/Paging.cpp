@@ -31,10 +31,10 @@ constexpr std::array<ColourRow, 6> kColours = {{{"ARRIVING", true, true, kRed, k
 /// " AA123" from " AA 0123": the code without its blanks against the number without its zeros. A text without
 /// a number has no such form.
 std::optional<std::string> flightLabel(std::string_view FlightText) {
-    int number = 0;
     const std::size_t digits = std::min(kNumberChars, FlightText.size());
-    if (!parseInteger(FlightText.substr(FlightText.size() - digits), number)) return std::nullopt;
-    return " " + std::string(trimmed(FlightText.substr(0, kCodeChars))) + std::to_string(number);
+    const auto number = parseInteger(FlightText.substr(FlightText.size() - digits));
+    if (!number) return std::nullopt;
+    return " " + std::string(trimmed(FlightText.substr(0, kCodeChars))) + std::to_string(*number);
 }
 
 void writeRow(BoardRowTexts& row, const BoardEntry& entry) {

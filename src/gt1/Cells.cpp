@@ -86,8 +86,7 @@ void CellReader::time(const char* name, std::int16_t& field) {
     const Cell cell = next(name);
     const bool digits = cell.utf8.size() == 4 && std::all_of(cell.utf8.begin(), cell.utf8.end(),
                                                              [](char c) { return c >= '0' && c <= '9'; });
-    int value = 0;
-    if (digits) parseInteger(cell.utf8, value);
+    const int value = digits ? parseInteger(cell.utf8).value_or(0) : 0;
     if (!digits || value / 100 > 23 || value % 100 > 59) {
         report_.error(cell.place, "a time of day as four digits HHMM", foundCell(cell.utf8));
         return;

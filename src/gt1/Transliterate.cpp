@@ -92,10 +92,8 @@ Converted converted(std::string_view utf8) {
             out.broken = true;
             return out;
         }
-        bool lossless = true;
-        const std::string text = textFromUtf8(utf8.substr(0, length), &lossless);
-        if (lossless) {
-            out.text += text;
+        if (const auto text = exactTextFromUtf8(utf8.substr(0, length))) {
+            out.text += *text;
         } else {
             out.text += latinFor(code);
             out.changed = true;

@@ -46,8 +46,8 @@ Waited ShelltoPF2K(Program& p) {
     auto& processes = p.machine.processes;
     const std::string folder = proFlightFolder(p.session.settings);
     p.forms.MainForm.enabled = false;
-    const int process = processes.start(folder + "\\PF2000.exe", "/gt", folder);
-    while (process >= 0 && !processes.ended(process)) {
+    const auto process = processes.start(folder + "\\PF2000.exe", "/gt", folder);
+    while (process && !processes.ended(*process)) {
         if (pause(p, kPollInterval) == Waited::Ended) break;
     }
     p.forms.MainForm.enabled = true;

@@ -18,8 +18,8 @@ void setButtonStates(forms::FlightForm& f, int state) {
 /// Position in DepartureFlights behind the selected row.
 std::optional<int> pickedPosition(const forms::FlightForm& f) {
     const auto* row = f.FlightList.selected();
-    const std::int32_t position = row != nullptr ? positionOfKey(row->key) : -1;
-    return position < 0 ? std::nullopt : std::optional<int>(position);
+    const auto position = row != nullptr ? positionOfKey(row->key) : std::nullopt;
+    return position && *position >= 0 ? position : std::nullopt;
 }
 
 void loadFlightForm(Program& p) {

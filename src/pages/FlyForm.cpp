@@ -108,7 +108,8 @@ void FSRunning(Program& p) {
     if (processes.simulatorRunning()) {
         processes.bringSimulatorToFront();
     } else {
-        processes.start("fs2002.exe", "", p.session.settings.FsPath);
+        (void)processes.start("fs2002.exe", "",
+                              p.session.settings.FsPath); // the machine says what is missing
     }
 }
 

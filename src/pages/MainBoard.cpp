@@ -130,8 +130,8 @@ void WriteHeader(Program& p) {
     BoardHeader header{.airport = p.session.schedule.tables.airport(board.BoardAirportIndex),
                        .FavoriteAirlineName = {},
                        .dayText = {}};
-    parseInteger(f.gt_hoursLABEL.text, header.hours);
-    parseInteger(f.gt_minutesLABEL.text, header.minutes);
+    header.hours = parseInteger(f.gt_hoursLABEL.text).value_or(0);
+    header.minutes = parseInteger(f.gt_minutesLABEL.text).value_or(0);
     header.seconds = p.machine.clock.now().second;
     header.FavoriteAirlineName = board.FavoriteAirlineName;
     header.arriving = board.BoardMode == "arriving";

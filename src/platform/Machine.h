@@ -89,9 +89,10 @@ public:
     [[nodiscard]] virtual bool simulatorRunning() = 0;
     virtual void bringSimulatorToFront() = 0;
     /// Starts a program in a folder. `file` is a path, or a name in that folder; the program gets `parameter`
-    /// as its only one, blanks and all, and none when it is empty. The result names the process for `ended`,
-    /// negative when the start failed.
-    virtual int start(const std::string& file, const std::string& parameter, const std::string& folder) = 0;
+    /// as its only one, blanks and all, and none when it is empty. The result names the process for `ended`;
+    /// nothing when the start failed.
+    virtual std::optional<int> start(const std::string& file, const std::string& parameter,
+                                     const std::string& folder) = 0;
     [[nodiscard]] virtual bool ended(int process) = 0;
 };
 

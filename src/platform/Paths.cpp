@@ -80,9 +80,7 @@ fs::path target(std::string_view path) {
 }
 
 std::string textOf(const fs::path& path) {
-    bool lossless = false;
-    std::string text = textFromUtf8(path.string(), &lossless);
-    return lossless ? text : path.string();
+    return exactTextFromUtf8(path.string()).value_or(path.string());
 }
 
 } // namespace gatewise::files

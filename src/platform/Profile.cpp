@@ -10,15 +10,9 @@ using profile::isSpace;
 using profile::KeyIndex;
 using profile::lineAt;
 using profile::stripped;
+using profile::valueOf;
 
 namespace {
-
-std::string_view valueOf(std::string_view line) {
-    const std::string_view text = stripped(body(line).substr(equalsSign(line) + 1));
-    const bool quoted =
-        text.size() >= 2 && (text.front() == '"' || text.front() == '\'') && text.back() == text.front();
-    return quoted ? text.substr(1, text.size() - 2) : text;
-}
 
 /// A line with another value. The blanks around the old value stay, but not next to blanks that the value
 /// brings itself: they would grow with every write.
@@ -47,16 +41,15 @@ Profile::Profile(std::string_view file) : Profile(Bytes(file.begin(), file.end()
 
 Profile::Profile(Bytes file) : coding_(codingOf(file)) {
     lines_ = unmarked(std::move(file), coding_);
-    std::string_view name;
     for (std::size_t at = 0, length = 0; at < lines_.size(); at += length) {
         const std::string_view line = lineAt(text(), at);
         length = line.size();
-        if (profile::sectionName(line, name)) headers_.push_back(static_cast<std::uint32_t>(at));
+        if (profile::sectionName(line)) headers_.push_back(static_cast<std::uint32_t>(at));
     }
 }
 
 std::string_view Profile::text() const {
-    return {reinterpret_cast<const char*>(lines_.data()), lines_.size()};
+    return asText(lines_);
 }
 
 /// The line that began at `at`, as it is now.
@@ -87,9 +80,9 @@ Profile::Section& Profile::section(std::string_view name) const {
     sections_.push_back(std::make_unique<Section>());
     Section& out = *sections_.back();
     out.name = name;
-    std::string_view found;
     for (const std::uint32_t header : headers_) {
-        if (!profile::sectionName(lineAt(text(), header), found) || !equalNoCase(found, name)) continue;
+        const auto found = profile::sectionName(lineAt(text(), header));
+        if (!found || !equalNoCase(*found, name)) continue;
         index(out, header);
         break;
     }
@@ -106,15 +99,14 @@ std::string* Profile::addedLine(Section& section, std::string_view key) {
     return nullptr;
 }
 
-bool Profile::find(std::string_view sectionName, std::string_view keyName, std::string& value) const {
+std::optional<std::string> Profile::find(std::string_view sectionName, std::string_view keyName) const {
     const std::string name = valueFor(stripped(sectionName), coding_);
     const std::string key = valueFor(stripped(keyName), coding_);
     Section& place = section(name);
     const std::size_t line = place.keys.find(text(), key);
     const std::string* added = line == KeyIndex::kNone ? addedLine(place, key) : nullptr;
-    if (line == KeyIndex::kNone && added == nullptr) return false;
-    value = valueFrom(valueOf(added != nullptr ? std::string_view(*added) : lineOf(line)), coding_);
-    return true;
+    if (line == KeyIndex::kNone && added == nullptr) return std::nullopt;
+    return valueFrom(valueOf(added != nullptr ? std::string_view(*added) : lineOf(line)), coding_);
 }
 
 void Profile::set(std::string_view sectionName, std::string_view keyName, std::string_view newValue) {

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -25,9 +26,9 @@ public:
     explicit Profile(Bytes file);
     explicit Profile(std::string_view file);
 
-    /// The raw value: blanks around it and one pair of surrounding quotes gone. False when the key is
+    /// The raw value: blanks around it and one pair of surrounding quotes gone. Nothing when the key is
     /// missing.
-    [[nodiscard]] bool find(std::string_view section, std::string_view key, std::string& value) const;
+    [[nodiscard]] std::optional<std::string> find(std::string_view section, std::string_view key) const;
 
     /// Replaces the value where the key stands, else adds the key at the end of its section, else the section
     /// at the end of the file. The value is written bare; a line end, a NUL or an end mark inside any of the

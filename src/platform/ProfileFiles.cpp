@@ -41,16 +41,14 @@ std::uint32_t digitsOf(std::string_view text) {
 } // namespace
 
 std::string textIn(const Profile& profile, std::string_view section, std::string_view key) {
-    std::string value;
-    if (!profile.find(section, key, value)) return {};
+    std::string value = profile.find(section, key).value_or("");
     value.resize(std::min(value.size(), kTextLimit));
     std::replace(value.begin(), value.end(), '\0', ' ');
     return std::string(trimmed(value));
 }
 
 int numberIn(const Profile& profile, std::string_view section, std::string_view key) {
-    std::string value;
-    if (!profile.find(section, key, value)) return 0;
+    const std::string value = profile.find(section, key).value_or("");
     std::string_view text = profile::stripped(value);
     const bool negative = !text.empty() && text.front() == '-';
     if (!text.empty() && (text.front() == '-' || text.front() == '+')) text.remove_prefix(1);

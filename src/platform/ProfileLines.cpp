@@ -27,12 +27,11 @@ std::string_view body(std::string_view line) {
     return end == std::string_view::npos ? std::string_view() : line.substr(0, end + 1);
 }
 
-bool sectionName(std::string_view line, std::string_view& name) {
+std::optional<std::string_view> sectionName(std::string_view line) {
     const std::string_view text = stripped(body(line));
-    if (text.empty() || text.front() != '[') return false;
+    if (text.empty() || text.front() != '[') return std::nullopt;
     const auto close = text.find(']');
-    name = stripped(text.substr(1, close == std::string_view::npos ? close : close - 1));
-    return true;
+    return stripped(text.substr(1, close == std::string_view::npos ? close : close - 1));
 }
 
 std::size_t equalsSign(std::string_view line) {
@@ -40,6 +39,13 @@ std::size_t equalsSign(std::string_view line) {
     const std::string_view inner = stripped(text);
     if (inner.empty() || inner.front() == ';') return std::string_view::npos;
     return text.find('=');
+}
+
+std::string_view valueOf(std::string_view line) {
+    const std::string_view text = stripped(body(line).substr(equalsSign(line) + 1));
+    const bool quoted =
+        text.size() >= 2 && (text.front() == '"' || text.front() == '\'') && text.back() == text.front();
+    return quoted ? text.substr(1, text.size() - 2) : text;
 }
 
 std::string_view lineAt(std::string_view content, std::size_t at) {

@@ -3,6 +3,7 @@
 #include "platform/Text.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -20,11 +21,14 @@ std::string_view stripped(std::string_view text);
 /// A line without its end and the end-of-text mark.
 std::string_view body(std::string_view line);
 
-/// Name of the section that a line opens; false for any other line.
-bool sectionName(std::string_view line, std::string_view& name);
+/// Name of the section that a line opens; nothing for any other line.
+std::optional<std::string_view> sectionName(std::string_view line);
 
 /// Position of "=" in a key line, npos for comments and everything else.
 std::size_t equalsSign(std::string_view line);
+
+/// Value of a key line: blanks around it and one pair of surrounding quotes gone.
+std::string_view valueOf(std::string_view line);
 
 /// The line at `at` with its end: CR LF, LF or CR.
 std::string_view lineAt(std::string_view content, std::size_t at);

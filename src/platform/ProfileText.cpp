@@ -96,9 +96,7 @@ std::string marked(std::string lines, ProfileCoding coding) {
 
 std::string valueFrom(std::string_view line, ProfileCoding coding) {
     if (coding == ProfileCoding::Page) return std::string(line);
-    bool lossless = false;
-    std::string text = textFromUtf8(line, &lossless);
-    return lossless ? text : std::string(line);
+    return exactTextFromUtf8(line).value_or(std::string(line));
 }
 
 std::string valueFor(std::string_view text, ProfileCoding coding) {

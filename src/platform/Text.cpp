@@ -22,14 +22,35 @@ unsigned codePoint(unsigned char byte) {
     return byte;
 }
 
-char byteOf(unsigned point, bool& found) {
-    found = true;
+std::optional<char> byteOf(unsigned point) {
     if (point < 0x80 || (point >= 0xA0 && point <= 0xFF)) return static_cast<char>(point);
     for (std::size_t i = 0; i < kHighControls.size(); ++i) {
         if (codePoint(static_cast<unsigned char>(0x80 + i)) == point) return static_cast<char>(0x80 + i);
     }
-    found = false;
-    return '?';
+    return std::nullopt;
+}
+
+struct PageText {
+    std::string text;
+    bool whole = true; // every character has its place on the page
+};
+
+PageText pageText(std::string_view utf8) {
+    PageText out;
+    out.text.reserve(utf8.size());
+    for (std::size_t at = 0; at < utf8.size();) {
+        char32_t point = 0;
+        std::size_t length = decodeUtf8(utf8, at, point);
+        if (length == 0) {
+            length = 1;
+            point = kReplacement;
+        }
+        const auto byte = byteOf(point);
+        out.text += byte.value_or('?');
+        out.whole = out.whole && byte.has_value();
+        at += length;
+    }
+    return out;
 }
 
 } // namespace
@@ -130,33 +151,24 @@ std::string utf8FromText(std::string_view text) {
     return out;
 }
 
-std::string textFromUtf8(std::string_view utf8, bool* lossless) {
-    std::string out;
-    out.reserve(utf8.size());
-    bool all = true;
-    for (std::size_t at = 0; at < utf8.size();) {
-        char32_t point = 0;
-        std::size_t length = decodeUtf8(utf8, at, point);
-        if (length == 0) {
-            length = 1;
-            point = kReplacement;
-        }
-        bool found = false;
-        out += byteOf(point, found);
-        all = all && found;
-        at += length;
-    }
-    if (lossless != nullptr) *lossless = all;
-    return out;
+std::string textFromUtf8(std::string_view utf8) {
+    return pageText(utf8).text;
 }
 
-bool parseInteger(std::string_view text, int& value) {
+std::optional<std::string> exactTextFromUtf8(std::string_view utf8) {
+    PageText out = pageText(utf8);
+    if (!out.whole) return std::nullopt;
+    return std::move(out.text);
+}
+
+std::optional<int> parseInteger(std::string_view text) {
     text = trimmed(text);
     if (text.size() > 1 && text.front() == '+' && text[1] != '-') text.remove_prefix(1);
-    if (text.empty()) return false;
+    int value = 0;
     const auto* last = text.data() + text.size();
     const auto [end, error] = std::from_chars(text.data(), last, value);
-    return error == std::errc() && end == last;
+    if (error != std::errc() || end != last) return std::nullopt;
+    return value;
 }
 
 double leadingNumber(std::string_view text) {

@@ -5,6 +5,7 @@
 #include <compare>
 #include <cstddef>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -40,13 +41,15 @@ std::string replaceAll(std::string_view text, std::string_view from, std::string
 /// number.
 std::string utf8FromText(std::string_view text);
 
-/// UTF-8 to Windows-1252. Characters outside the page become '?'; `lossless`, when given, tells whether any
-/// did. Malformed UTF-8 becomes '?' byte by byte.
-std::string textFromUtf8(std::string_view utf8, bool* lossless = nullptr);
+/// UTF-8 to Windows-1252. Characters outside the page become '?', malformed UTF-8 byte by byte.
+std::string textFromUtf8(std::string_view utf8);
 
-/// Whole text as a decimal number, blanks allowed around it, an optional sign; false when it is anything else
-/// or does not fit.
-bool parseInteger(std::string_view text, int& value);
+/// The same where nothing is lost; nothing for a text that the page cannot hold.
+std::optional<std::string> exactTextFromUtf8(std::string_view utf8);
+
+/// Whole text as a decimal number, blanks allowed around it, an optional sign; nothing when it is anything
+/// else or does not fit.
+std::optional<int> parseInteger(std::string_view text);
 
 /// The number that a text begins with, 0 when there is none: how a list's text counts as a number.
 double leadingNumber(std::string_view text);

@@ -21,10 +21,10 @@ std::optional<int> timeOfDay(int hhmm) {
 }
 
 std::optional<int> timeOfDay(std::string_view hours, std::string_view minutes) {
-    int hour = 0;
-    int minute = 0;
-    if (!parseInteger(hours, hour) || !parseInteger(minutes, minute)) return std::nullopt;
-    return minutesOf(hour, minute);
+    const auto hour = parseInteger(hours);
+    const auto minute = parseInteger(minutes);
+    if (!hour || !minute) return std::nullopt;
+    return minutesOf(*hour, *minute);
 }
 
 } // namespace gatewise

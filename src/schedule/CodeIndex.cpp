@@ -32,13 +32,15 @@ std::size_t CodeIndex::slotOf(std::uint32_t key) const {
 void CodeIndex::add(std::string_view code, bool lastCounts) {
     const std::uint32_t key = keyOf(code);
     Slot& slot = slots_[slotOf(key)];
-    if (slot.key == 0 || lastCounts) slot = {key, static_cast<std::int32_t>(rows_)};
+    if (slot.key == 0 || lastCounts) slot = {key, static_cast<std::uint32_t>(rows_)};
     ++rows_;
 }
 
-int CodeIndex::find(std::string_view code) const {
-    if (code.size() != kCodeWidth || slots_.empty()) return -1;
-    return slots_[slotOf(keyOf(code))].row;
+std::optional<std::size_t> CodeIndex::find(std::string_view code) const {
+    if (code.size() != kCodeWidth || slots_.empty()) return std::nullopt;
+    const Slot& slot = slots_[slotOf(keyOf(code))];
+    if (slot.key == 0) return std::nullopt;
+    return slot.row;
 }
 
 } // namespace gatewise

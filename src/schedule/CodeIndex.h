@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -19,8 +20,8 @@ public:
     void addFirstCounts(std::string_view code) { add(code, false); }
     void addLastCounts(std::string_view code) { add(code, true); }
 
-    /// Row of a code, -1 when there is none or the code has not three characters.
-    [[nodiscard]] int find(std::string_view code) const;
+    /// Row of a code; nothing when there is none or the code has not three characters.
+    [[nodiscard]] std::optional<std::size_t> find(std::string_view code) const;
 
     /// Rows entered. An index that covers fewer or more rows than its table was built for another one.
     [[nodiscard]] std::size_t rows() const { return rows_; }
@@ -28,7 +29,7 @@ public:
 private:
     struct Slot {
         std::uint32_t key = 0; // 0 is free; the codes are moved up by one
-        std::int32_t row = -1;
+        std::uint32_t row = 0;
     };
     void add(std::string_view code, bool lastCounts);
     [[nodiscard]] std::size_t slotOf(std::uint32_t key) const;

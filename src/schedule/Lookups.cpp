@@ -13,8 +13,8 @@ namespace {
 const AirportRecord* airportOf(const Tables& tables, std::string_view iata) {
     const auto& airports = tables.airports;
     if (tables.airportsByIata.rows() == airports.size()) {
-        const int row = tables.airportsByIata.find(iata);
-        return row < 0 ? nullptr : &airports[static_cast<std::size_t>(row)];
+        const auto row = tables.airportsByIata.find(iata);
+        return row ? &airports[*row] : nullptr;
     }
     const auto hit =
         std::find_if(airports.begin(), airports.end(), [&](const auto& a) { return a.Iata.view() == iata; });
@@ -26,8 +26,8 @@ const AirlineRecord* airlineOf(const Tables& tables, std::string_view code) {
     const std::string_view wanted = trimmed(code);
     if (wanted.size() > FixedText<3>::width) return nullptr;
     if (tables.airlinesByCode.rows() == airlines.size()) {
-        const int row = tables.airlinesByCode.find(FixedText<3>(wanted).view());
-        return row < 0 ? nullptr : &airlines[static_cast<std::size_t>(row)];
+        const auto row = tables.airlinesByCode.find(FixedText<3>(wanted).view());
+        return row ? &airlines[*row] : nullptr;
     }
     const auto hit = std::find_if(airlines.rbegin(), airlines.rend(),
                                   [&](const auto& a) { return a.Code.trimmed() == wanted; });
@@ -37,8 +37,8 @@ const AirlineRecord* airlineOf(const Tables& tables, std::string_view code) {
 const AircraftRecord* aircraftOf(const Tables& tables, std::string_view code) {
     const auto& aircraft = tables.aircraft;
     if (tables.aircraftByCode.rows() == aircraft.size()) {
-        const int row = tables.aircraftByCode.find(code);
-        return row < 0 ? nullptr : &aircraft[static_cast<std::size_t>(row)];
+        const auto row = tables.aircraftByCode.find(code);
+        return row ? &aircraft[*row] : nullptr;
     }
     const auto hit = std::find_if(aircraft.rbegin(), aircraft.rend(),
                                   [&](const auto& a) { return a.Code.view() == code; });

@@ -42,10 +42,9 @@ FlightLine flightLine(const Tables& tables, const std::vector<FlightRecord>& fli
     return line;
 }
 
-std::int32_t positionOfKey(std::string_view key) {
-    int position = -1;
-    if (!key.starts_with(kKeyStem) || !parseInteger(key.substr(kKeyStem.size()), position)) return -1;
-    return position;
+std::optional<std::int32_t> positionOfKey(std::string_view key) {
+    if (!key.starts_with(kKeyStem)) return std::nullopt;
+    return parseInteger(key.substr(kKeyStem.size()));
 }
 
 FlightInfoTexts flightInfoTexts(const Tables& tables, const FlightRecord& flight) {

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,8 +34,8 @@ struct FlightLine {
 
 FlightLine flightLine(const Tables& tables, const std::vector<FlightRecord>& flights, std::int32_t position);
 
-/// Position that a key names; -1 when it names none.
-std::int32_t positionOfKey(std::string_view key);
+/// Position that a key names; nothing when it names none.
+std::optional<std::int32_t> positionOfKey(std::string_view key);
 
 /// All that is known about one flight, as the details show it.
 struct FlightInfoTexts {

@@ -109,10 +109,4 @@ std::vector<PickItem> homeAirlineItems(const Tables& tables, std::string_view te
     return items;
 }
 
-int placeOf(const std::vector<PickItem>& items, std::string_view text) {
-    const auto hit = std::find_if(items.begin(), items.end(),
-                                  [&](const auto& item) { return item.text == trimmed(text); });
-    return hit == items.end() ? -1 : static_cast<int>(hit - items.begin());
-}
-
 } // namespace gatewise

@@ -42,9 +42,6 @@ std::vector<PickItem> boardAirlineItems(const Tables& tables, const std::vector<
 /// Mode "home_airline": all airlines whose name holds the text, all of them for an empty one.
 std::vector<PickItem> homeAirlineItems(const Tables& tables, std::string_view text);
 
-/// Place of the line that equals the trimmed text, -1 when there is none.
-int placeOf(const std::vector<PickItem>& items, std::string_view text);
-
 /// Puts lines into the order of the picker.
 void sortItems(std::vector<PickItem>& items);
 

@@ -1,6 +1,7 @@
 #include "simulator/AircraftScan.h"
 
 #include "platform/Files.h"
+#include "platform/ProfileLines.h"
 #include "platform/ProfileText.h"
 #include "platform/Text.h"
 
@@ -21,15 +22,8 @@ constexpr std::size_t kTextLimit = 254; // a buffer of 255 characters holds one 
 constexpr std::string_view kSection = "fltsim.";
 constexpr std::string_view kMissingTitle = "title";
 
-std::string_view stripped(std::string_view text) {
-    const auto from = text.find_first_not_of(" \t");
-    if (from == std::string_view::npos) return {};
-    return text.substr(from, text.find_last_not_of(" \t") - from + 1);
-}
-
-/// Number of the variation whose section a line opens, without regard to case and without leading zeros.
-std::optional<std::size_t> variationNumber(std::string_view line) {
-    const std::string_view name = stripped(line.substr(1, line.find(']') - 1));
+/// Number of the variation that a section names, without regard to case and without leading zeros.
+std::optional<std::size_t> variationNumber(std::string_view name) {
     if (name.size() <= kSection.size() || !equalNoCase(name.substr(0, kSection.size()), kSection)) return {};
     const std::string_view digits = name.substr(kSection.size());
     if (digits.size() > 1 && digits.front() == '0') return {};
@@ -37,20 +31,6 @@ std::optional<std::size_t> variationNumber(std::string_view line) {
     const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     if (error != std::errc() || end != digits.data() + digits.size() || number >= kVariations) return {};
     return number;
-}
-
-/// Cuts off what stands before the first `end`, which goes as well.
-std::string_view takeUpTo(char end, std::string_view& text) {
-    const auto at = text.find(end);
-    const std::string_view out = text.substr(0, at);
-    text.remove_prefix(at == std::string_view::npos ? text.size() : at + 1);
-    return out;
-}
-
-std::string_view unquoted(std::string_view text) {
-    const bool quoted =
-        text.size() >= 2 && (text.front() == '"' || text.front() == '\'') && text.back() == text.front();
-    return quoted ? text.substr(1, text.size() - 2) : text;
 }
 
 /// What one section says. The first line of a key counts.
@@ -63,21 +43,18 @@ struct Section {
 class SectionReader {
 public:
     void line(std::string_view text) {
-        text = stripped(text.substr(0, text.find_last_not_of('\x1A') + 1));
-        if (text.empty() || text.front() == ';') return;
-        if (text.front() == '[') {
-            open(text);
-        } else if (current_ != nullptr) {
+        if (const auto name = profile::sectionName(text))
+            open(*name);
+        else if (current_ != nullptr)
             key(text);
-        }
     }
 
     [[nodiscard]] const Section& section(std::size_t number) const { return sections_[number]; }
 
 private:
-    void open(std::string_view text) {
+    void open(std::string_view name) {
         current_ = nullptr;
-        const auto number = variationNumber(text);
+        const auto number = variationNumber(name);
         // The first section of a name counts, a second one is never reached.
         if (!number || sections_[*number].seen) return;
         current_ = &sections_[*number];
@@ -85,12 +62,12 @@ private:
     }
 
     void key(std::string_view text) {
-        const auto equals = text.find('=');
+        const auto equals = profile::equalsSign(text);
         if (equals == std::string_view::npos) return;
-        const std::string_view name = stripped(text.substr(0, equals));
+        const std::string_view name = profile::stripped(text.substr(0, equals));
         auto& value = equalNoCase(name, "title") ? current_->title : current_->sim;
         if (value || (&value == &current_->sim && !equalNoCase(name, "sim"))) return;
-        value = unquoted(stripped(text.substr(equals + 1)));
+        value = profile::valueOf(text);
     }
 
     std::array<Section, kVariations> sections_;
@@ -145,9 +122,10 @@ bool addFolder(std::vector<ScannedAircraft>& out, const fs::path& folder, const 
 
 std::vector<AircraftVariation> variationsIn(std::string_view lines, ProfileCoding coding) {
     SectionReader reader;
-    while (!lines.empty()) {
-        std::string_view line = takeUpTo('\n', lines);
-        while (!line.empty()) reader.line(takeUpTo('\r', line));
+    for (std::size_t at = 0; at < lines.size();) {
+        const std::string_view line = profile::lineAt(lines, at);
+        reader.line(line);
+        at += line.size();
     }
     std::vector<AircraftVariation> out;
     for (std::size_t j = 0; j < kVariations; ++j) {

@@ -24,8 +24,8 @@ int drawBelow(Random& random, int range) {
 }
 
 std::optional<int> rowTime(std::string_view timeText) {
-    int number = 0;
-    return parseInteger(timeText, number) ? timeOfDay(number) : std::nullopt;
+    const auto number = parseInteger(timeText);
+    return number ? timeOfDay(*number) : std::nullopt;
 }
 
 DueAnnouncement dueAt(const ScanBoard& board, const AnnouncementWindow& window, int row,

@@ -26,14 +26,13 @@ std::string keyRecording(const std::string& folder, std::string_view key) {
 
 std::optional<SpokenFlight> splitFlight(const std::string& flightKey) {
     if (flightKey.size() <= kAirlineWidth) return std::nullopt;
-    int number = 0;
-    if (!parseInteger(std::string_view(flightKey).substr(kAirlineWidth), number)) return std::nullopt;
+    const auto number = parseInteger(std::string_view(flightKey).substr(kAirlineWidth));
     using Limits = std::numeric_limits<std::int16_t>;
-    if (number < Limits::min() || number > Limits::max()) return std::nullopt;
-    const std::string text = formatInteger("0000", number);
-    int first = 0;
-    if (!parseInteger(text.substr(0, 2), first)) return std::nullopt;
-    return SpokenFlight{flightKey.substr(0, kAirlineWidth), std::to_string(first),
+    if (!number || *number < Limits::min() || *number > Limits::max()) return std::nullopt;
+    const std::string text = formatInteger("0000", *number);
+    const auto first = parseInteger(text.substr(0, 2));
+    if (!first) return std::nullopt;
+    return SpokenFlight{flightKey.substr(0, kAirlineWidth), std::to_string(*first),
                         text.substr(text.size() - 2)};
 }
 

@@ -42,7 +42,7 @@ void OpenAlDevice::catchUp() {
     const auto now = std::chrono::steady_clock::now();
     for (auto& [buffer, voice] : voices_) {
         attach(voice);
-        if (const auto frame = frameNow(voice, now); frame >= 0) startSources(voice, frame);
+        if (const auto frame = frameNow(voice, now)) startSources(voice, *frame);
     }
     keepAwake();
 }
@@ -152,7 +152,7 @@ void OpenAlDevice::setFrequency(SoundBuffer buffer, std::int32_t frequency) {
     const auto now = std::chrono::steady_clock::now();
     const auto frame = frameNow(*voice, now);
     if (!voice->settings.setFrequency(frequency)) return;
-    if (frame >= 0) voice->started = startOf(*voice, frame, now);
+    if (frame) voice->started = startOf(*voice, *frame, now);
     applySettings(*voice);
     keepAwake();
 }

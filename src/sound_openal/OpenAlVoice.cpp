@@ -139,13 +139,14 @@ VoiceClock::duration timeOf(const OpenAlVoice& voice, std::int64_t frames) {
 
 } // namespace
 
-std::int64_t frameNow(const OpenAlVoice& voice, VoiceClock::time_point now) {
-    if (!voice.playing) return -1;
+std::optional<std::int64_t> frameNow(const OpenAlVoice& voice, VoiceClock::time_point now) {
+    if (!voice.playing) return std::nullopt;
     const auto length = framesOf(voice);
     const double seconds = std::chrono::duration<double>(now - voice.started).count();
     const auto frame = static_cast<std::int64_t>(seconds * voice.settings.frequency);
     if (voice.loop) return frame % length;
-    return frame < length ? frame : -1;
+    if (frame >= length) return std::nullopt;
+    return frame;
 }
 
 VoiceClock::time_point startOf(const OpenAlVoice& voice, std::int64_t frame, VoiceClock::time_point now) {

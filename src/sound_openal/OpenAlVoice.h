@@ -9,6 +9,7 @@
 #include <chrono>
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 // A voice is one sound as it plays: two sources, one for each ear, each with a gain of its own. The position
 // of a source in space would let one side leak into the other; this way the far side is lowered exactly.
@@ -51,9 +52,9 @@ void applySettings(const OpenAlVoice& voice);
 void startSources(const OpenAlVoice& voice, std::int64_t frame);
 void stopSources(const OpenAlVoice& voice);
 
-/// The frame at which a voice that was started stands by the clock; negative when it has run out or is
+/// The frame at which a voice that was started stands by the clock; nothing when it has run out or is
 /// stopped.
-std::int64_t frameNow(const OpenAlVoice& voice, VoiceClock::time_point now);
+std::optional<std::int64_t> frameNow(const OpenAlVoice& voice, VoiceClock::time_point now);
 /// When a voice that stands at `frame` now would have been started at its present rate.
 VoiceClock::time_point startOf(const OpenAlVoice& voice, std::int64_t frame, VoiceClock::time_point now);
 /// When a voice runs out: the greatest time for a loop, the least for one that is stopped.

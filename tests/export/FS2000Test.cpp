@@ -21,8 +21,7 @@ public:
     explicit Written(const Plan& plan, bool HaveAlternate = false)
         : profile_(fs2000Plan(plan, {"Gatewise Flight 1 SEA to LAX", HaveAlternate}, {})) {}
     [[nodiscard]] std::string key(const char* name) const {
-        std::string value;
-        return profile_.find("flightplan", name, value) ? value : "(no such key)";
+        return profile_.find("flightplan", name).value_or("(no such key)");
     }
 
 private:

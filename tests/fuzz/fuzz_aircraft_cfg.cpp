@@ -15,10 +15,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const Profile profile(content);
     for (std::size_t j = 0; j <= variations.size() && j < 100; ++j) {
         const std::string section = "fltsim." + std::to_string(j);
-        std::string title = "title";
-        std::string sim = "sim";
-        (void)profile.find(section, "title", title);
-        (void)profile.find(section, "sim", sim);
+        std::string title = profile.find(section, "title").value_or("title");
+        std::string sim = profile.find(section, "sim").value_or("sim");
         title.resize(std::min<std::size_t>(title.size(), 254));
         sim.resize(std::min<std::size_t>(sim.size(), 254));
         const bool ends = title.empty() || title[0] == '\0' || lowerCase(title.substr(0, 5)) == "title";

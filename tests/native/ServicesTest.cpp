@@ -84,9 +84,10 @@ TEST_F(Services, AProgramStartsInItsFolderWithItsOneParameter) {
     fs::permissions(folder / "Helper", fs::perms::owner_all);
     fs::create_directories(folder / "work");
     const auto processes = systemProcesses({});
-    const int process = processes->start((folder / "helper").string(), "/gt now", (folder / "work").string());
-    ASSERT_GT(process, 0);
-    EXPECT_TRUE(soon([&] { return processes->ended(process); }));
+    const auto process =
+        processes->start((folder / "helper").string(), "/gt now", (folder / "work").string());
+    ASSERT_TRUE(process);
+    EXPECT_TRUE(soon([&] { return processes->ended(*process); }));
     EXPECT_EQ(read(folder / "work" / "where"), (folder / "work").string() + "\n1: /gt now\n");
 }
 
@@ -94,9 +95,9 @@ TEST_F(Services, AProgramWithoutAParameterGetsNone) {
     write(folder / "helper", "#!/bin/sh\necho $# > count.tmp\nmv count.tmp count\n");
     fs::permissions(folder / "helper", fs::perms::owner_all);
     const auto processes = systemProcesses({});
-    const int process = processes->start("helper", "", folder.string());
-    ASSERT_GT(process, 0);
-    EXPECT_TRUE(soon([&] { return processes->ended(process); }));
+    const auto process = processes->start("helper", "", folder.string());
+    ASSERT_TRUE(process);
+    EXPECT_TRUE(soon([&] { return processes->ended(*process); }));
     EXPECT_EQ(read(folder / "count"), "0\n");
 }
 
@@ -117,10 +118,10 @@ TEST_F(Services, WithoutWineThePilotHearsWhatIsMissing) {
     setenv("PATH", folder.c_str(), 1);
     std::vector<std::string> told;
     const auto processes = systemProcesses([&](const std::string& text) { told.push_back(text); });
-    EXPECT_LT(processes->start("fs2002.exe", "", folder.string()), 0);
+    EXPECT_FALSE(processes->start("fs2002.exe", "", folder.string()));
     ASSERT_EQ(told.size(), 1U);
     EXPECT_NE(told[0].find("Wine"), std::string::npos);
-    EXPECT_LT(processes->start("missing.exe", "", folder.string()), 0);
+    EXPECT_FALSE(processes->start("missing.exe", "", folder.string()));
     setenv("PATH", path.c_str(), 1);
 }
 
@@ -133,10 +134,10 @@ TEST_F(Services, WineGetsTheProgramAndThePrefixThatHoldsIt) {
     const std::string path = getenv("PATH");
     setenv("PATH", (folder / "bin").c_str(), 1);
     const auto processes = systemProcesses({});
-    const int process = processes->start("FS2002.exe", "", game.string());
+    const auto process = processes->start("FS2002.exe", "", game.string());
     setenv("PATH", path.c_str(), 1);
-    ASSERT_GT(process, 0);
-    EXPECT_TRUE(soon([&] { return processes->ended(process); }));
+    ASSERT_TRUE(process);
+    EXPECT_TRUE(soon([&] { return processes->ended(*process); }));
     EXPECT_EQ(read(game / "said"),
               (folder / "prefix").string() + "\n" + (game / "fs2002.exe").string() + "\n");
 }

@@ -151,18 +151,18 @@ TEST(CodeIndex, FindsWhatAScanFindsOnRandomTables) {
         }
         for (int i = 0; i < 50; ++i) {
             const auto wanted = code();
-            int firstRow = -1;
-            int lastRow = -1;
-            for (int row = 0; row < static_cast<int>(codes.size()); ++row) {
-                if (codes[static_cast<std::size_t>(row)] != wanted) continue;
-                if (firstRow < 0) firstRow = row;
+            std::optional<std::size_t> firstRow;
+            std::optional<std::size_t> lastRow;
+            for (std::size_t row = 0; row < codes.size(); ++row) {
+                if (codes[row] != wanted) continue;
+                if (!firstRow) firstRow = row;
                 lastRow = row;
             }
             ASSERT_EQ(first.find(wanted), firstRow);
             ASSERT_EQ(last.find(wanted), lastRow);
         }
     }
-    EXPECT_EQ(CodeIndex().find("ABC"), -1);
+    EXPECT_FALSE(CodeIndex().find("ABC"));
 }
 
 } // namespace

@@ -65,8 +65,8 @@ TEST(FlightLine, ShowsTheFlightAndKeepsItsPositionInTheKey) {
     EXPECT_EQ(line.departs, "0735");
     EXPECT_EQ(line.arrives, "0905");
     EXPECT_EQ(positionOfKey(line.key), 11);
-    EXPECT_EQ(positionOfKey(""), -1);
-    EXPECT_EQ(positionOfKey("Flightx"), -1);
+    EXPECT_FALSE(positionOfKey(""));
+    EXPECT_FALSE(positionOfKey("Flightx"));
     EXPECT_EQ(flightLine(tables, flights, 12).text, "");
 }
 

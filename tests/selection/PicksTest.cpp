@@ -109,12 +109,6 @@ TEST_F(Picks, HomeAirlinesAreFoundInTheirName) {
     EXPECT_TRUE(homeAirlineItems(tables, std::string(200, 'A')).empty());
 }
 
-TEST_F(Picks, TheFavouriteIsFoundTrimmedAndInItsCase) {
-    const auto items = homeAirlineItems(tables, "");
-    EXPECT_EQ(placeOf(items, " Beta Jet "), 1);
-    EXPECT_EQ(placeOf(items, "beta jet"), -1);
-}
-
 TEST_F(Picks, EqualTextsStayInTheOrderInWhichTheyWereAdded) {
     std::vector<PickItem> items = {{"b", 1}, {"A", 2}, {"B", 3}, {"a", 4}, {"_", 5}};
     sortItems(items);

@@ -128,9 +128,7 @@ TEST(AircraftVariations, AMissingSimReadsAsItsName) {
 std::vector<AircraftVariation> byProfileReads(std::string_view content) {
     const Profile profile(content);
     const auto read = [&](const std::string& section, const char* key, const char* missing) {
-        std::string value;
-        if (!profile.find(section, key, value)) value = missing;
-        return value.substr(0, 254);
+        return profile.find(section, key).value_or(missing).substr(0, 254);
     };
     std::vector<AircraftVariation> out;
     for (int j = 0; j < 100; ++j) {
@@ -140,6 +138,15 @@ std::vector<AircraftVariation> byProfileReads(std::string_view content) {
         out.push_back({title, read(section, "sim", "sim")});
     }
     return out;
+}
+
+TEST(AircraftVariations, AFileWithTheMarkOfAnEditorIsReadAsAProfileIs) {
+    const std::string plain = "[fltsim.0]\r\ntitle=\xC3\xA9t\xC3\xA9\r\nsim=b\r\n";
+    EXPECT_EQ(titlesOf("\xEF\xBB\xBF" + plain), Titles{"\xE9t\xE9"});
+    std::string wide = "\xFF\xFE";
+    for (const char c : std::string("[fltsim.0]\r\ntitle=Wide\r\n")) wide += std::string{c, '\0'};
+    EXPECT_EQ(titlesOf(wide), Titles{"Wide"});
+    EXPECT_EQ(byProfileReads(wide)[0].title, "Wide");
 }
 
 TEST(AircraftVariations, OnePassFindsWhatProfileReadsWouldFind) {

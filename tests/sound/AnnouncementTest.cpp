@@ -223,10 +223,10 @@ TEST(SpokenFlightText, SplitsIntoFirstAndLastDigits) {
         const char *flight, *airline, *first, *last;
     };
     const Case cases[] = {
-        {"DL 5", "DL ", "0", "05"},      {"DL 0005", "DL ", "0", "05"},   {"DL 1234", "DL ", "12", "34"},
-        {"DL 1005", "DL ", "10", "05"},  {"DL 1000", "DL ", "10", "00"},  {"DL 0", "DL ", "0", "00"},
-        {"B6X0734", "B6X", "7", "34"},   {"DL 12345", "DL ", "12", "45"}, {"DL   5", "DL ", "0", "05"},
-        {"DL 32767", "DL ", "32", "67"},
+        {"DL 5", "DL ", "0", "05"},      {"DL 0005", "DL ", "0", "05"},    {"DL 1234", "DL ", "12", "34"},
+        {"DL 1005", "DL ", "10", "05"},  {"DL 1000", "DL ", "10", "00"},   {"DL 0", "DL ", "0", "00"},
+        {"B6X0734", "B6X", "7", "34"},   {"DL 12345", "DL ", "12", "45"},  {"DL   5", "DL ", "0", "05"},
+        {"DL 32767", "DL ", "32", "67"}, {"DL -32768", "DL ", "-3", "68"},
     };
     for (const Case& c : cases) {
         const auto split = splitFlight(c.flight);
@@ -236,6 +236,7 @@ TEST(SpokenFlightText, SplitsIntoFirstAndLastDigits) {
         EXPECT_EQ(split->lastDigits, c.last) << c.flight;
     }
     EXPECT_FALSE(splitFlight("DL 32768"));
+    EXPECT_FALSE(splitFlight("DL -32769"));
 }
 
 } // namespace

@@ -70,11 +70,12 @@ public:
             spawn({tool.string(), "-x", "-a", std::string(kSimulatorProgram)}, {}, std::nullopt);
     }
 
-    int start(const std::string& file, const std::string& parameter, const std::string& folder) override {
+    std::optional<int> start(const std::string& file, const std::string& parameter,
+                             const std::string& folder) override {
         const bool whole = file.find_first_of("\\/") != std::string::npos;
         const fs::path program = files::resolve(whole || folder.empty() ? file : folder + "\\" + file);
         std::error_code error;
-        if (!fs::is_regular_file(program, error)) return -1;
+        if (!fs::is_regular_file(program, error)) return std::nullopt;
 
         std::vector<std::string> arguments;
         if (lowerCase(file).ends_with(".exe")) {
@@ -83,20 +84,18 @@ public:
                 if (notify_)
                     notify_("Wine is needed to start " + file +
                             " and is not installed; all files of the flight are in place.");
-                return -1;
+                return std::nullopt;
             }
             arguments.push_back(wine.string());
         }
         arguments.push_back(program.string());
         if (!parameter.empty()) arguments.push_back(parameter);
         const fs::path native = folder.empty() ? program.parent_path() : files::resolve(folder);
-        return spawn(std::move(arguments), native, prefixOf(program));
+        const int process = spawn(std::move(arguments), native, prefixOf(program));
+        return process >= 0 ? std::optional(process) : std::nullopt;
     }
 
-    [[nodiscard]] bool ended(int process) override {
-        if (process < 0) return true;
-        return waitpid(process, nullptr, WNOHANG) != 0;
-    }
+    [[nodiscard]] bool ended(int process) override { return waitpid(process, nullptr, WNOHANG) != 0; }
 
 private:
     Notify notify_;

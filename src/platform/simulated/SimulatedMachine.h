@@ -63,7 +63,8 @@ class SimulatedProcesses : public Processes {
 public:
     [[nodiscard]] bool simulatorRunning() override { return running; }
     void bringSimulatorToFront() override { launches.push_back({.foreground = true}); }
-    int start(const std::string& file, const std::string& parameters, const std::string& folder) override {
+    std::optional<int> start(const std::string& file, const std::string& parameters,
+                             const std::string& folder) override {
         launches.push_back({.file = file, .parameters = parameters, .folder = folder});
         return ++last_;
     }

@@ -103,7 +103,8 @@ public:
         if (HWND window = simulatorWindow()) SetForegroundWindow(window);
     }
 
-    int start(const std::string& file, const std::string& parameter, const std::string& folder) override {
+    std::optional<int> start(const std::string& file, const std::string& parameter,
+                             const std::string& folder) override {
         const std::string parameters = commandLineWord(parameter);
         SHELLEXECUTEINFOA info{};
         info.cbSize = sizeof info;
@@ -114,7 +115,7 @@ public:
         info.lpParameters = parameters.c_str();
         info.lpDirectory = folder.c_str();
         info.nShow = SW_SHOWNORMAL;
-        if (!ShellExecuteExA(&info)) return -1;
+        if (!ShellExecuteExA(&info)) return std::nullopt;
         const int name = ++last_;
         if (info.hProcess != nullptr) started_[name] = info.hProcess;
         return name;

@@ -87,13 +87,15 @@ class SlowProcesses : public Processes {
 public:
     bool simulatorRunning() override { return false; }
     void bringSimulatorToFront() override {}
-    int start(const std::string&, const std::string&, const std::string&) override { return process; }
+    std::optional<int> start(const std::string&, const std::string&, const std::string&) override {
+        return process;
+    }
     bool ended(int asked) override {
         EXPECT_EQ(asked, process);
         whileRunning();
         return --polls == 0;
     }
-    int process = 7;
+    std::optional<int> process = 7;
     int polls = 5;
     std::function<void()> whileRunning;
 };
@@ -126,7 +128,7 @@ TEST_F(ProFlightWait, TheMainScreenTakesNoInputUntilTheOtherProgramEnds) {
 
 TEST_F(ProFlightWait, AFailedStartIsNotReported) {
     fs.write("/PF2000/PF2000.cfg", "");
-    slow.process = -1;
+    slow.process.reset();
     send(other);
     EXPECT_EQ(slow.polls, 5);
     EXPECT_TRUE(messages.empty());
