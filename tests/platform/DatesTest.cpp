@@ -92,6 +92,25 @@ public:
     [[nodiscard]] std::string text(LocaleKey) const override { return "."; }
 };
 
+TEST(LongDate, EveryDayAndMonthHasItsName) {
+    const PlainLocale locale;
+    std::string days;
+    std::string months;
+    for (int day = 16; day <= 22; ++day) {
+        const std::string text = locale.longDate(date(2002, 6, day));
+        days += text.substr(0, text.find(',')) + " ";
+    }
+    for (int month = 1; month <= 12; ++month) {
+        const std::string text = locale.longDate(date(2002, month, 7));
+        const auto start = text.find(", ") + 2;
+        months += text.substr(start, text.find(' ', start) + 1 - start);
+    }
+    EXPECT_EQ(days, "Sunday Monday Tuesday Wednesday Thursday Friday Saturday ");
+    EXPECT_EQ(months,
+              "January February March April May June July August September October November December ");
+    EXPECT_EQ(locale.longDate(date(2002, 6, 19)), "Wednesday, June 19, 2002");
+}
+
 TEST(LocaleDates, AreWrittenLongAndShort) {
     EXPECT_EQ(PlainLocale().longDate(date(2002, 6, 15)), "Saturday, June 15, 2002");
     EXPECT_EQ(PlainLocale().shortDate(date(2002, 6, 15)), "6/15/2002");
