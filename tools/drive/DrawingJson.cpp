@@ -18,6 +18,32 @@ const char* nameOf(Tone tone) {
         return "top";
     case Tone::Step:
         return "step";
+    case Tone::Water:
+        return "water";
+    case Tone::Land:
+        return "land";
+    case Tone::Coast:
+        return "coast";
+    case Tone::Border:
+        return "border";
+    case Tone::Vor:
+        return "vor";
+    case Tone::Ndb:
+        return "ndb";
+    case Tone::Alternate:
+        return "alternate";
+    case Tone::Flight:
+        return "flight";
+    case Tone::Other:
+        return "other";
+    case Tone::Runway:
+        return "runway";
+    case Tone::Chosen:
+        return "chosen";
+    case Tone::Level:
+        return "level";
+    case Tone::Bar:
+        return "bar";
     }
     return "";
 }
@@ -36,6 +62,10 @@ void writeLine(JsonWriter& json, const DrawingLine& line) {
     json.beginArray();
     for (const DrawingPoint& point : line.points) writePoint(json, point);
     json.endArray();
+    if (line.width > 0) {
+        json.key("width");
+        json.number(line.width);
+    }
 }
 
 void writeMark(JsonWriter& json, const DrawingMark& mark) {

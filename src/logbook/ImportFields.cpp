@@ -1,0 +1,154 @@
+#include "logbook/ImportFields.h"
+
+#include "platform/Machine.h"
+#include "platform/Text.h"
+#include "platform/Utf8.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <vector>
+
+namespace gatewise {
+
+namespace {
+
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+/// The runs of digits in a text; a run too long for a number is -1.
+std::vector<int> numbersOf(std::string_view text) {
+    std::vector<int> out;
+    for (std::size_t at = 0; at < text.size();) {
+        if (!isDigit(text[at])) {
+            ++at;
+            continue;
+        }
+        std::size_t end = at;
+        while (end < text.size() && isDigit(text[end])) ++end;
+        int value = -1;
+        if (end - at <= 6) std::from_chars(text.data() + at, text.data() + end, value);
+        out.push_back(value);
+        at = end;
+    }
+    return out;
+}
+
+bool isUtf8(std::string_view bytes) {
+    char32_t point = 0;
+    for (std::size_t at = 0; at < bytes.size();) {
+        const std::size_t length = decodeUtf8(bytes, at, point);
+        if (length == 0) return false;
+        at += length;
+    }
+    return true;
+}
+
+std::string_view dateWord(std::string_view text) {
+    text = trimmed(text);
+    return text.substr(0, text.find_first_of(" T"));
+}
+
+/// Whether the text is made of digits and these signs alone.
+bool madeOf(std::string_view text, std::string_view signs) {
+    return !text.empty() && std::all_of(text.begin(), text.end(), [&](char c) {
+        return isDigit(c) || signs.find(c) != std::string_view::npos;
+    });
+}
+
+} // namespace
+
+std::string importedText(std::string_view bytes) {
+    if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
+    // What is no UTF-8 was written in single bytes.
+    return isUtf8(bytes) ? textFromUtf8(bytes) : std::string(bytes);
+}
+
+std::string headerName(std::string_view cell) {
+    std::string out;
+    for (const char c : lowerCase(cell)) {
+        if (isDigit(c) || (c >= 'a' && c <= 'z')) out += c;
+    }
+    return out;
+}
+
+std::optional<double> importedDate(std::string_view text, bool dayFirst) {
+    const std::string_view word = dateWord(text);
+    if (!madeOf(word, "-/.")) return std::nullopt;
+    const std::vector<int> n = numbersOf(word);
+    if (n.size() != 3) return std::nullopt;
+    DateTime day;
+    const bool pointed = word.find('.') != std::string_view::npos;
+    if (n[0] > 31)
+        day.year = n[0], day.month = n[1], day.day = n[2];
+    else if (dayFirst || pointed)
+        day.year = n[2], day.month = n[1], day.day = n[0];
+    else
+        day.year = n[2], day.month = n[0], day.day = n[1];
+    if (day.year >= 0 && day.year < 100) day.year += day.year < 70 ? 2000 : 1900;
+    if (day.year < 1900 || day.year > 9999 || day.month < 1 || day.month > 12 || day.day < 1 || day.day > 31)
+        return std::nullopt;
+    const auto serial = static_cast<double>(daySerial(day));
+    // The 31st of a short month is no day.
+    const auto back = calendarDay(serial);
+    if (!back || back->day != day.day || back->month != day.month) return std::nullopt;
+    return serial;
+}
+
+bool saysDayFirst(std::string_view text) {
+    const std::string_view word = dateWord(text);
+    if (!madeOf(word, "/")) return false;
+    const std::vector<int> n = numbersOf(word);
+    return n.size() == 3 && n[0] > 12 && n[0] <= 31;
+}
+
+int importedTime(std::string_view text) {
+    text = trimmed(text);
+    if (const auto blank = text.find_last_of(" T"); blank != std::string_view::npos)
+        text.remove_prefix(blank + 1);
+    if (!text.empty() && text.back() == 'Z') text.remove_suffix(1);
+    if (!madeOf(text, ":")) return -1;
+    const std::vector<int> n = numbersOf(text);
+    int hour = -1, minute = -1;
+    if (n.size() == 1 && text.size() >= 3 && text.size() <= 4) hour = n[0] / 100, minute = n[0] % 100;
+    if (n.size() == 2 || n.size() == 3) hour = n[0], minute = n[1];
+    return hour >= 0 && hour < 24 && minute >= 0 && minute < 60 ? hour * 100 + minute : -1;
+}
+
+double importedHours(std::string_view text) {
+    text = trimmed(text);
+    if (!madeOf(text, ":.,")) return 0;
+    double hours = 0;
+    if (text.find(':') != std::string_view::npos) {
+        const std::vector<int> n = numbersOf(text);
+        if (n.size() < 2 || n[0] < 0 || n[1] < 0) return 0;
+        hours = n[0] + n[1] / 60.0;
+    } else {
+        const std::string pointed = replaceAll(text, ",", ".");
+        if (std::from_chars(pointed.data(), pointed.data() + pointed.size(), hours).ec != std::errc())
+            return 0;
+    }
+    return std::isfinite(hours) ? std::clamp(hours, 0.0, 99.9) : 0;
+}
+
+std::int16_t flightNumber(std::string_view text) {
+    const std::vector<int> n = numbersOf(text);
+    return !n.empty() && n.back() >= 0 && n.back() <= 32767 ? static_cast<std::int16_t>(n.back())
+                                                            : std::int16_t{0};
+}
+
+std::pair<std::string, std::string> routeEnds(std::string_view text) {
+    constexpr std::string_view kSigns = " -,>/";
+    std::vector<std::string> words;
+    for (std::size_t at = text.find_first_not_of(kSigns); at != std::string_view::npos;
+         at = text.find_first_not_of(kSigns, at)) {
+        const std::size_t end = std::min(text.find_first_of(kSigns, at), text.size());
+        words.emplace_back(text.substr(at, end - at));
+        at = end;
+    }
+    if (words.size() < 2) return {};
+    return {words.front(), words.back()};
+}
+
+} // namespace gatewise

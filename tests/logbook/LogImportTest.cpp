@@ -1,0 +1,150 @@
+#include "logbook/LogImport.h"
+#include "logbook/ImportFields.h"
+#include "logbook/LogListing.h"
+#include "logbook/SeparatedText.h"
+#include "platform/Machine.h"
+
+#include <gtest/gtest.h>
+
+namespace gatewise {
+namespace {
+
+LogRecord flight() {
+    LogRecord e;
+    e.date = static_cast<double>(daySerial({2002, 6, 15, 0, 0, 0}));
+    e.departureIcao = "KATL", e.arrivalIcao = "KORD";
+    e.departureName = "Hartsfield, Intl", e.arrivalName = "O'Hare";
+    e.aircraft = "Boeing 737", e.airline = "Sample Air";
+    e.flightNumber = 12;
+    e.scheduledDeparture = 735, e.scheduledArrival = 905;
+    e.actualDeparture = 740, e.actualArrival = 910;
+    e.dayHours = 1.5F, e.nightHours = 0.5F, e.instrumentHours = 0.3F;
+    e.comments = "He said \"fine\"";
+    return e;
+}
+
+TEST(LogImport, OurOwnExportComesBackAsItWas) {
+    const LogImport log = importLog(logCsv({flight()}), {});
+    ASSERT_EQ(log.entries.size(), 1U);
+    Bytes a, b;
+    appendRecord(a, flight());
+    appendRecord(b, log.entries[0]);
+    EXPECT_EQ(a, b);
+}
+
+TEST(LogImport, WhatTheLogBookHasIsNotTakenAgain) {
+    const LogImport log = importLog(logCsv({flight(), flight()}), {});
+    EXPECT_EQ(log.entries.size(), 1U);
+    EXPECT_EQ(log.duplicates, 1);
+    EXPECT_EQ(importLog(logCsv({flight()}), {flight()}).duplicates, 1);
+    LogRecord later = flight();
+    later.actualDeparture = 1200;
+    EXPECT_EQ(importLog(logCsv({later}), {flight()}).entries.size(), 1U);
+}
+
+struct Foreign {
+    const char* name;
+    const char* text;
+};
+
+/// The same flight as other log books write it.
+constexpr Foreign kForeign[] = {
+    {"openPilotLog",
+     "Date,Departure Place,Departure Time,Arrival Place,Arrival Time,Aircraft Type,Total Time,Night,IFR,"
+     "Remarks\n2002-06-15,KATL,07:40,KORD,09:10,Boeing 737,2:00,0:30,0:18,ok\n"},
+    {"MyFlightbook",
+     "Date,Model,Route,Block Out,Block In,Total Flight Time,Night,IMC,Simulated Instrument,Comments\n"
+     "2002-06-15,Boeing 737,KATL DCT KORD,2002-06-15 07:40Z,2002-06-15 09:10Z,2.0,0.5,0.2,0.1,ok\n"},
+    {"ForeFlight",
+     "ForeFlight Logbook Import\n\nAircraft Table\nAircraftID,TypeCode\nN1,B737\n\nFlights Table\n"
+     "Date,AircraftID,From,To,Route,TimeOut,TimeIn,TotalTime,Night,ActualInstrument,PilotComments\n"
+     "2002-06-15,Boeing 737,KATL,KORD,,0740,0910,2.0,0.5,0.3,ok\n"},
+    {"LogTen",
+     "flight_flightDate\tflight_from\tflight_to\tflight_actualDepartureTime\tflight_actualArrivalTime\t"
+     "flight_totalTime\tflight_night\tflight_actualInstrument\taircraft_aircraftType\tflight_remarks\n"
+     "2002-06-15\tKATL\tKORD\t2002-06-15 07:40\t2002-06-15 09:10\t2:00\t0:30\t0:18\tBoeing 737\tok\n"},
+    {"semicolons", "Date;From;To;TimeOut;TimeIn;Total;Night;IMC;Model;Remarks\n"
+                   "15.06.2002;KATL;KORD;7:40;9:10;2,0;0,5;0,3;Boeing 737;ok\n"},
+};
+
+TEST(LogImport, OtherLogBooksAreKnownByTheirHeaders) {
+    for (const auto& [name, text] : kForeign) {
+        const LogImport log = importLog(text, {});
+        ASSERT_EQ(log.entries.size(), 1U) << name;
+        const LogRecord& e = log.entries[0];
+        EXPECT_EQ(e.date, flight().date) << name;
+        EXPECT_EQ(e.departureIcao.view(), "KATL") << name;
+        EXPECT_EQ(e.arrivalIcao.view(), "KORD") << name;
+        EXPECT_EQ(e.actualDeparture, 740) << name;
+        EXPECT_EQ(e.actualArrival, 910) << name;
+        EXPECT_EQ(e.scheduledArrival, 910) << name;
+        EXPECT_NEAR(e.dayHours, 1.5, 1e-6) << name;
+        EXPECT_NEAR(e.nightHours, 0.5, 1e-6) << name;
+        EXPECT_NEAR(e.instrumentHours, 0.3, 1e-6) << name;
+        EXPECT_EQ(e.aircraft.trimmed(), "Boeing 737") << name;
+        EXPECT_EQ(e.comments.trimmed(), "ok") << name;
+    }
+}
+
+TEST(LogImport, ATableOfSomethingElseIsNotKnown) {
+    EXPECT_FALSE(importLog("a,b\n1,2\n", {}).known);
+    EXPECT_FALSE(importLog("", {}).known);
+}
+
+TEST(LogImport, RowsThatCannotBeReadAreCounted) {
+    const LogImport log =
+        importLog("date,from,to\n2002-02-30,A,B\n2002-06-15,,KORD\n2002-06-15,KATL,KORD\nrest\n", {});
+    EXPECT_EQ(log.rows, 4);
+    EXPECT_EQ(log.unread, 3);
+    EXPECT_EQ(log.entries.size(), 1U);
+}
+
+TEST(LogImport, AFullLogBookTakesNothingMore) {
+    const std::vector<LogRecord> full(kLogEntries);
+    const LogImport log = importLog("date,from,to\n2002-06-15,KATL,KORD\n", full);
+    EXPECT_TRUE(log.full);
+    EXPECT_TRUE(log.entries.empty());
+}
+
+TEST(LogImport, SlashesAreReadAsTheWholeFileHasThem) {
+    const auto first = [](const char* text) { return importLog(text, {}).entries.at(0).date; };
+    EXPECT_EQ(first("date,from,to\n06/07/2002,A,B\n"), static_cast<double>(daySerial({2002, 6, 7, 0, 0, 0})));
+    EXPECT_EQ(first("date,from,to\n06/07/2002,A,B\n15/07/2002,A,B\n"),
+              static_cast<double>(daySerial({2002, 7, 6, 0, 0, 0})));
+}
+
+TEST(LogImport, BothEncodingsAreRead) {
+    const auto remark = [](const char* text) { return importLog(text, {}).entries.at(0).comments.str(); };
+    EXPECT_EQ(remark("date,from,to,remarks\n2002-06-15,A,B,Z\xC3\xBCrich\n").substr(0, 6), "Z\xFCrich");
+    EXPECT_EQ(remark("date,from,to,remarks\n2002-06-15,A,B,Z\xFCrich\n").substr(0, 6), "Z\xFCrich");
+}
+
+TEST(ImportFields, TimesAndHours) {
+    EXPECT_EQ(importedTime("7:35"), 735);
+    EXPECT_EQ(importedTime("07:35:59"), 735);
+    EXPECT_EQ(importedTime("0735"), 735);
+    EXPECT_EQ(importedTime("24:00"), -1);
+    EXPECT_EQ(importedTime("7"), -1);
+    EXPECT_EQ(importedTime(""), -1);
+    EXPECT_NEAR(importedHours("1:30"), 1.5, 1e-9);
+    EXPECT_NEAR(importedHours("1,5"), 1.5, 1e-9);
+    EXPECT_EQ(importedHours("-1"), 0);
+    EXPECT_EQ(importedHours("1e99"), 0);
+    EXPECT_EQ(importedHours("5000"), 99.9);
+    EXPECT_EQ(flightNumber("SA 123"), 123);
+    EXPECT_EQ(flightNumber("99999999999"), 0);
+    EXPECT_EQ(routeEnds("KATL-KORD").second, "KORD");
+    EXPECT_EQ(routeEnds("KATL").first, "");
+}
+
+TEST(SeparatedText, QuotesLineEndsAndEmptyCells) {
+    const auto rows = separatedRows("a,\"b,\"\"c\"\"\nd\",\r\n\r\n,x", ',');
+    ASSERT_EQ(rows.size(), 2U);
+    EXPECT_EQ(rows[0], (std::vector<std::string>{"a", "b,\"c\"\nd", ""}));
+    EXPECT_EQ(rows[1], (std::vector<std::string>{"", "x"}));
+    EXPECT_EQ(separatedRows("a,", ',')[0].size(), 2U);
+    EXPECT_EQ(separatedRows("\"a", ',')[0][0], "a");
+}
+
+} // namespace
+} // namespace gatewise
