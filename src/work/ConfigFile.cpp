@@ -111,7 +111,7 @@ std::string written(const Settings& settings, const ConfigKey& key) {
     }
 }
 
-std::string orElse(std::string text, const std::string& fallback) {
+std::string orElse(const std::string& text, const std::string& fallback) {
     return text.empty() ? fallback : text;
 }
 
