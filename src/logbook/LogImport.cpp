@@ -20,15 +20,16 @@ using Columns = std::array<int, kFields>; // -1: the table has none
 using Rows = std::vector<std::vector<std::string>>;
 
 Columns columnsOf(const std::vector<std::string>& header) {
+    // Each cell's name is made once: in a table without a header every row is looked at.
+    std::vector<std::string> names;
+    for (const std::string& cell : header) names.push_back(headerName(cell));
     Columns columns;
     columns.fill(-1);
     for (const auto& row : kHeaders) {
         int& column = columns[row.field];
         if (column >= 0) continue;
-        const auto found = std::find_if(header.begin(), header.end(), [&](const std::string& cell) {
-            return headerName(cell) == row.name;
-        });
-        if (found != header.end()) column = static_cast<int>(found - header.begin());
+        const auto found = std::find(names.begin(), names.end(), row.name);
+        if (found != names.end()) column = static_cast<int>(found - names.begin());
     }
     return columns;
 }
