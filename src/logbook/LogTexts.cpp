@@ -7,7 +7,7 @@ namespace gatewise {
 namespace {
 
 constexpr float kMostHours = 99.9F;
-constexpr int kDay = 2400; // HHMM
+constexpr int kWholeDay = 2400; // HHMM
 
 struct Sums {
     double instrument = 0;
@@ -81,19 +81,19 @@ std::int16_t stepTime(std::int16_t hhmm, std::string_view type) {
     int time = hhmm;
     if (type == "timeHr_up") {
         time += 100;
-        if (time >= kDay) time -= kDay;
+        if (time >= kWholeDay) time -= kWholeDay;
     } else if (type == "timeHr_dn") {
         time -= 100;
-        if (time < 0) time += kDay;
+        if (time < 0) time += kWholeDay;
     } else if (type == "timeMin_up") {
         time += 1;
         if (lastTwo(time) >= 60) time += 40;
-        if (time >= kDay) time -= kDay;
+        if (time >= kWholeDay) time -= kWholeDay;
     } else if (type == "timeMin_dn") {
         time -= 1;
-        if (time < 0) time += kDay;
+        if (time < 0) time += kWholeDay;
         if (lastTwo(time) > 59) time -= 40;
-        if (time < 0) time += kDay;
+        if (time < 0) time += kWholeDay;
     }
     return static_cast<std::int16_t>(time);
 }

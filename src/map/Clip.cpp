@@ -12,10 +12,6 @@ constexpr double kPi = std::numbers::pi;
 constexpr double kRimStep = 0.2; // radians of azimuth between points on the disc's edge
 constexpr int kHalvings = 24;    // of an edge, to find where it meets the disc's edge
 
-Vector wide(const ShortVector& v) {
-    return {static_cast<double>(v[0]), static_cast<double>(v[1]), static_cast<double>(v[2])};
-}
-
 /// Times that a closed path goes around the middle, counterclockwise.
 int timesAround(const Path& path) {
     int times = 0;

@@ -14,6 +14,11 @@ namespace gatewise::map {
 
 using ShortVector = std::array<float, 3>; // a vector of length 1 in single precision: a metre on the ground
 
+/// The same direction in double precision.
+inline Vector wide(const ShortVector& v) {
+    return {static_cast<double>(v[0]), static_cast<double>(v[1]), static_cast<double>(v[2])};
+}
+
 /// A ring, whose last point is joined to its first, or a line.
 struct Outline {
     /// Some points in a row, from `first` on, and the edge that leads to the next: what lies within `cap`.

@@ -11,10 +11,6 @@ namespace {
 
 constexpr std::size_t kPiece = 48; // points
 
-Vector wide(const ShortVector& v) {
-    return {static_cast<double>(v[0]), static_cast<double>(v[1]), static_cast<double>(v[2])};
-}
-
 /// Square of the distance of points from the chord between a and b, which for short arcs is that from the
 /// great circle.
 class FromChord {

@@ -17,17 +17,17 @@ using forms::ExportForm;
 
 constexpr std::int64_t kPollInterval = 100; // milliseconds
 
-constexpr SettingBox<ExportForm> kBoxes[] = {
+constexpr SettingBox<ExportForm> kFmcBoxes[] = {
     {&ExportForm::kf747CHECK, &Settings::Fmc747},
     {&ExportForm::aetiCHECK, &Settings::PF2Kfmc},
     {&ExportForm::abCHECK, &Settings::CPfmc},
 };
 
 Check& boxOf(ExportForm& f, const FmcProduct& product) {
-    for (const auto& row : kBoxes) {
+    for (const auto& row : kFmcBoxes) {
         if (row.held == product.wanted) return f.*row.box;
     }
-    return f.*kBoxes[0].box;
+    return f.*kFmcBoxes[0].box;
 }
 
 void activateExportForm(Program& p) {
@@ -64,7 +64,7 @@ Waited exportToFmc(Program& p) {
 
 void showFmcBoxes(Program& p) {
     const Settings settings = p.session.settings;
-    showBoxes<ExportForm>(p.forms.ExportForm, settings, kBoxes);
+    showBoxes<ExportForm>(p.forms.ExportForm, settings, kFmcBoxes);
 }
 
 Waited SendToProFlight(Program& p) {
@@ -85,7 +85,7 @@ void bindExportForm(Program& p) {
     auto& hub = p.forms.ExportForm;
     hub.load = [&p] { placeScreen(p, p.forms.ExportForm); };
     hub.activate = [&p] { activateExportForm(p); };
-    tieBoxes<ExportForm>(hub, p.session.settings, kBoxes);
+    tieBoxes<ExportForm>(hub, p.session.settings, kFmcBoxes);
     hub.BG.on(Event::Move, [&p] {
         restorePictures(p.forms.ExportForm);
         RefreshExportButtons(p, "");

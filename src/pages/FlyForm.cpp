@@ -16,7 +16,7 @@ namespace {
 
 using forms::FlyForm;
 
-constexpr SettingBox<FlyForm> kBoxes[] = {{&FlyForm::flydefaultCHECK, &Settings::SetDefault}};
+constexpr SettingBox<FlyForm> kFlyBoxes[] = {{&FlyForm::flydefaultCHECK, &Settings::SetDefault}};
 
 /// Fills the list of aircraft. Only at load: aircraft that are installed meanwhile count from the next start.
 void fillAircraft(Program& p) {
@@ -80,7 +80,7 @@ void bindChoices(Program& p) {
     f.PlanList.on(Event::Click, [&simulator, &f] {
         if (f.PlanList.enabled) simulator.SelectedPoint = static_cast<std::int16_t>(f.PlanList.picked);
     });
-    tieBoxes<FlyForm>(f, p.session.settings, kBoxes);
+    tieBoxes<FlyForm>(f, p.session.settings, kFlyBoxes);
 }
 
 } // namespace
@@ -114,7 +114,7 @@ void FSRunning(Program& p) {
 }
 
 void showFlyBox(Program& p) {
-    showBoxes<FlyForm>(p.forms.FlyForm, p.session.settings, kBoxes);
+    showBoxes<FlyForm>(p.forms.FlyForm, p.session.settings, kFlyBoxes);
 }
 
 void bindFlyForm(Program& p) {

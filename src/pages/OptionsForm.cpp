@@ -13,7 +13,7 @@ namespace {
 
 using forms::OptionsForm;
 
-constexpr SettingBox<OptionsForm> kBoxes[] = {
+constexpr SettingBox<OptionsForm> kOptionBoxes[] = {
     {&OptionsForm::d1_CHECK, &Settings::Dept1}, {&OptionsForm::d2_CHECK, &Settings::Dept2},
     {&OptionsForm::d3_CHECK, &Settings::Dept3}, {&OptionsForm::a1_CHECK, &Settings::Arr1},
     {&OptionsForm::a2_CHECK, &Settings::Arr2},  {&OptionsForm::a3_CHECK, &Settings::Arr3},
@@ -53,7 +53,7 @@ void chooseSort(Program& p, BoardSort sort) {
 void showOptions(Program& p) {
     const Settings settings = p.session.settings; // the controls store back while they are filled
     chooseSort(p, settings.sort);
-    showBoxes<OptionsForm>(p.forms.OptionsForm, settings, kBoxes);
+    showBoxes<OptionsForm>(p.forms.OptionsForm, settings, kOptionBoxes);
 }
 
 void bindOptionsForm(Program& p) {
@@ -67,7 +67,7 @@ void bindOptionsForm(Program& p) {
         CenterOnMain(p, p.forms.OptionsForm);
         showVolume(p);
     };
-    tieBoxes<OptionsForm>(f, settings, kBoxes);
+    tieBoxes<OptionsForm>(f, settings, kOptionBoxes);
     for (const auto& row : kSorts) {
         Option& option = f.*row.option;
         option.on(Event::Click, [&settings, sort = row.sort] { settings.sort = sort; });

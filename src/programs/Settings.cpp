@@ -33,7 +33,7 @@ Choices choicesIn(const Profile& profile, const UserFolders& folders) {
     Choices choices;
     for (const Format& format : formats()) {
         Choice choice{ticked(profile, format.key), {}};
-        (void)profile.find(kSection, folderKey(format), choice.folder);
+        choice.folder = profile.find(kSection, folderKey(format)).value_or(std::string());
         if (choice.folder.empty()) choice.folder = proposedFolder(format, folders);
         choices.lines.push_back(choice);
     }
