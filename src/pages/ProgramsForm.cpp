@@ -59,8 +59,6 @@ void loadProgramsForm(Program& p) {
     auto& f = p.forms.ProgramsForm;
     placeScreen(p, f);
     restorePictures(f);
-    for (int i = 0; i < forms::kProgramLines; ++i)
-        f.programCHECK(i).text = programs::formats()[static_cast<std::size_t>(i)].name;
 }
 
 void activateProgramsForm(Program& p) {
@@ -111,6 +109,8 @@ void exportOnDispatch(Program& p) {
 
 void bindProgramsForm(Program& p) {
     auto& f = p.forms.ProgramsForm;
+    for (int i = 0; i < forms::kProgramLines; ++i)
+        f.programCHECK(i).text = programs::formats()[static_cast<std::size_t>(i)].name;
     f.load = [&p] { loadProgramsForm(p); };
     f.activate = [&p] { activateProgramsForm(p); };
     f.BG.on(Event::Move, [&f] { restorePictures(f); });
