@@ -125,16 +125,15 @@ TEST_F(StartUp, ADataSetIsPickedByItsExactName) {
     }
 }
 
-TEST_F(StartUp, ASetWithoutItsAirlinesKeepsStanding) {
+TEST_F(StartUp, ASetWithoutItsAirlinesChangesNothingAndSaysSo) {
     schedule.write(folder, "/Data/Summer");
     std::filesystem::remove(folder.path("/Data/Summer/airline.gt1"));
     std::filesystem::remove(folder.path("/Data/Summer/routes.gt1"));
     begin();
     user::choose(main.routeCombo, 1);
-    EXPECT_EQ(p.session.settings.DataSetPath, "\\Data\\Summer");
-    EXPECT_EQ(t.shown, std::vector<std::string>{"MsgForm"});
-    user::choose(main.routeCombo, 0);
     EXPECT_EQ(p.session.settings.DataSetPath, "\\Data");
+    EXPECT_EQ(main.routeCombo.text(), "All Real World Airline Schedules");
+    EXPECT_EQ(t.shown, std::vector<std::string>{"MsgForm"});
 }
 
 TEST_F(StartUp, ShutdownClosesTheSoundThenWritesTheSettingsThenTheScreens) {

@@ -1,5 +1,6 @@
 #include "window/StageTest.h"
 
+#include "input/Bind.h"
 #include "window/LabelText.h"
 #include "window/PaintedViews.h"
 #include "window/QtText.h"
@@ -91,7 +92,9 @@ TEST_F(Screens, EveryViewLiesInsideItsParent) {
 }
 
 TEST_F(Screens, EveryControlHasANameForScreenReaders) {
+    bindScreens(stage().window.program); // some controls get their words from what the program knows
     for (const Screen* screen : forms().all()) {
+        stage().desk().window(*screen).sync();
         for (View* view : stage().desk().window(*screen).views()) {
             if (view->control == nullptr || !needsName(*view->control)) continue;
             QAccessibleInterface* access = QAccessible::queryAccessibleInterface(view->widget());
