@@ -8,7 +8,7 @@ namespace gatewise {
 std::vector<Screen*> Forms::all() {
     return {&MainForm,     &SelectForm,  &FlightForm, &InfoForm,   &MsgForm,       &WaitForm,     &SplashForm,
             &SettingsForm, &OptionsForm, &DirForm,    &ExportForm, &DirExportForm, &ProgramsForm, &ViewPlan,
-            &PlanCharts,   &FlyForm,     &LogEntry,   &ClockForm,  &MsgBox};
+            &PlanCharts,   &FlyForm,     &LogEntry,   &ClockForm,  &ImportForm,    &MsgBox};
 }
 
 Screen* Forms::find(std::string_view name) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/ExportForms.h"
+#include "forms/ImportForms.h"
 #include "forms/LogForms.h"
 #include "forms/MainForm.h"
 #include "forms/NoticeForms.h"
@@ -31,6 +32,7 @@ struct Forms {
     forms::FlyForm FlyForm;
     forms::LogEntry LogEntry;
     forms::ClockForm ClockForm;
+    forms::ImportForm ImportForm;
     forms::MsgBox MsgBox;
 
     /// All screens in the order above.

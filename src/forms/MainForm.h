@@ -41,6 +41,7 @@ struct MainForm : Screen {
                                                       {"exit", "exit_reg", 1}});
     Label Label4{*this, "Label4", "Select Schedule Set"};
     Combo routeCombo{*this, "routeCombo"};
+    PushButton importButton{*this, "importButton", "Import..."};
     Label Label3{*this, "Label3", "Select Travel Day of the Week"};
     Combo dayCombo{*this, "dayCombo"};
     Label Label1{*this, "Label1", "Departure Airport"};

@@ -222,6 +222,7 @@ void build(RawTables& raw, const gt1::World& given, const ImportOptions& options
     keepUsed(airports, used, findings);
     if (airports.all.empty())
         out.faults.emplace_back("no airports: the sources have no table of airports with both codes");
+    if (job.cancelled()) return;
     job.step("Navigation");
     const Network network = makeNetwork(raw, findings, job);
     job.step("Routes");
@@ -232,6 +233,7 @@ void build(RawTables& raw, const gt1::World& given, const ImportOptions& options
     job.step("Tables");
     SharedTables shared(given);
     growShared(shared, network, flights, types);
+    if (job.cancelled()) return;
     airportTables(airports, out.tables);
     const auto airlines = makeAirlines(raw, codes, findings);
     out.tables.push_back(table<gt1::AirlineRow>(airlines));

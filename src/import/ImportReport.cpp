@@ -11,12 +11,6 @@ namespace gatewise::importer {
 
 namespace {
 
-std::string dayText(int serial) {
-    const DateTime date = fromDaySerial(serial);
-    const auto two = [](int value) { return (value < 10 ? "0" : "") + std::to_string(value); };
-    return std::to_string(date.year) + "-" + two(date.month) + "-" + two(date.day);
-}
-
 std::string count(std::size_t number, std::string_view what) {
     return "  " + std::to_string(number) + " " + std::string(what) + "\n";
 }
@@ -62,6 +56,12 @@ std::string found(const Findings& findings) {
 }
 
 } // namespace
+
+std::string dayText(int serial) {
+    const DateTime date = fromDaySerial(serial);
+    const auto two = [](int value) { return (value < 10 ? "0" : "") + std::to_string(value); };
+    return std::to_string(date.year) + "-" + two(date.month) + "-" + two(date.day);
+}
 
 std::string describe(const SourceInfo& info) {
     std::string out(nameOf(info.kind));

@@ -141,7 +141,7 @@ gt1::World sharedOf(const fs::path& programFolder, Report& report) {
                : gt1::unpackWorld(files::resolve(files::textOf(programFolder) + "\\Data"), report);
 }
 
-bool install(const Imported& imported, const fs::path& programFolder, Report& report) {
+bool install(const Imported& imported, const fs::path& programFolder, Report& report, const Job& job) {
     const std::string name = textFromUtf8(imported.name);
     if (!isSetName(name)) {
         report.error({"the name of the set", 0, 0, ""}, "a name that a folder can have",
@@ -152,12 +152,13 @@ bool install(const Imported& imported, const fs::path& programFolder, Report& re
     FreshPlace fresh(programFolder, name, report);
     gt1::writeTables(imported.tables, fresh.tables(), report);
     gt1::writeTables(imported.shared, fresh.tables() / "shared", report);
-    if (report.failed()) return false;
+    if (report.failed() || job.cancelled()) return false;
+    job.step("Compiling");
     gt1::compileFolder(fresh.tables(), fresh.set(), fresh.tables() / "shared", report);
     writeFile(fresh.set() / "SOURCES.txt", viewOf(imported.sources), report);
     const auto grown = grownFiles(imported.world, data, report);
     for (const gt1::PackedFile& file : grown) writeFile(fresh.root() / file.name, file.bytes, report);
-    if (report.failed()) return false;
+    if (report.failed() || job.cancelled()) return false;
     putInShared(grown, fresh.root(), data, report);
     return !report.failed() && fresh.putIn();
 }

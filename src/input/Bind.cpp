@@ -9,6 +9,7 @@
 #include "pages/ExportForm.h"
 #include "pages/FlightForm.h"
 #include "pages/FlyForm.h"
+#include "pages/ImportForm.h"
 #include "pages/InfoForm.h"
 #include "pages/LogEntry.h"
 #include "pages/MainClocks.h"
@@ -33,7 +34,8 @@ void bindScreens(Program& p) {
                        bindBoardTimers,    bindBoardRows,     bindMainLog,  bindSelectForm, bindFlightForm,
                        bindInfoForm,       bindMsgForm,       bindMsgBox,   bindWaitForm,   bindSettingsForm,
                        bindOptionsForm,    bindDirForm,       bindViewPlan, bindPlanCharts, bindExportForm,
-                       bindProgramsForm,   bindDirExportForm, bindFlyForm,  bindLogEntry,   bindClockForm}) {
+                       bindProgramsForm,   bindDirExportForm, bindFlyForm,  bindLogEntry,   bindClockForm,
+                       bindImportForm}) {
         bind(p);
     }
 }

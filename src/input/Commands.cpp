@@ -5,6 +5,7 @@
 #include "pages/DirExportForm.h"
 #include "pages/DirForm.h"
 #include "pages/ExportForm.h"
+#include "pages/ImportForm.h"
 #include "pages/FlightForm.h"
 #include "pages/FlyForm.h"
 #include "pages/MainBoard.h"
@@ -92,6 +93,7 @@ constexpr Command kFormButton[] = {
     {"close_opt", hide<&Forms::OptionsForm>},
     {"close_charts", hide<&Forms::PlanCharts>},
     {"close_programs", run<closePrograms>},
+    {"close_import", run<closeImport>},
     {"charts", run<showCharts>},
     {"log_csv", run<exportLogBook>},
     {"log_print", run<printLogPage>},

@@ -122,6 +122,9 @@ public:
     virtual void runModal(std::string_view screen, const std::function<bool()>& done) = 0;
     /// Runs events and timers for so many milliseconds, in the middle of work.
     virtual void wait(std::int64_t milliseconds) = 0;
+    /// Does long work that touches nothing of the program's own, and returns when it is done. A window lets
+    /// events and timers run meanwhile; here it is done on the spot.
+    virtual void work(const std::function<void()>& job) { job(); }
 };
 
 /// The output of sound; see sound/Device.h.

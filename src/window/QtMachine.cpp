@@ -11,6 +11,8 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QUrl>
+#include <atomic>
+#include <thread>
 
 namespace gatewise::window {
 
@@ -82,6 +84,19 @@ void QtLoop::runModal(std::string_view, const std::function<bool()>& done) {
 void QtLoop::wait(std::int64_t milliseconds) {
     if (desk_ != nullptr) desk_->sync();
     time_.pass(milliseconds);
+}
+
+void QtLoop::work(const std::function<void()>& job) {
+    if (desk_ != nullptr) desk_->sync();
+    std::atomic<bool> done{false};
+    std::thread worker([&] {
+        job();
+        done = true;
+        QCoreApplication::postEvent(qApp, new QEvent(QEvent::User)); // ends the wait below
+    });
+    while (!done) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    worker.join();
+    if (desk_ != nullptr) desk_->sync();
 }
 
 QtTimers::QtTimers(TimeSource& time) : time_(time) {

@@ -42,6 +42,7 @@ public:
     void attach(Desk* desk) { desk_ = desk; }
     void runModal(std::string_view screen, const std::function<bool()>& done) override;
     void wait(std::int64_t milliseconds) override;
+    void work(const std::function<void()>& job) override;
 
 private:
     TimeSource& time_;

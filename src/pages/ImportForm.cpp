@@ -1,0 +1,160 @@
+#include "pages/ImportForm.h"
+
+#include "import/Import.h"
+#include "import/ImportReport.h"
+#include "import/Install.h"
+#include "import/Kinds.h"
+#include "import/Timetable.h"
+#include "pages/ImportJob.h"
+#include "pages/MainData.h"
+#include "pages/Pictures.h"
+#include "pages/Placement.h"
+#include "platform/Files.h"
+#include "unpack/OpenSources.h"
+#include "work/DataSets.h"
+
+namespace gatewise {
+
+namespace {
+
+using importer::SourceInfo;
+
+/// What stands behind the screen.
+struct ImportDesk {
+    std::vector<importer::Source> sources;
+    std::string proposed; // name of the set; a pilot's own stays
+    ImportJob job;
+};
+
+void showProgress(forms::ImportForm& f, const ImportJob& job) {
+    f.progress_LABEL.text = textFromUtf8(job.words());
+}
+
+/// Runs a job while the window stays alive; the screen offers to stop it and nothing else meanwhile.
+Waited runJob(Program& p, ImportDesk& desk, const std::function<void()>& work) {
+    auto& f = p.forms.ImportForm;
+    desk.job.begin();
+    f.startButton.enabled = f.addButton.enabled = false;
+    f.cancelButton.enabled = true;
+    f.progressTimer.enable(true);
+    p.machine.loop.work(work);
+    f.progressTimer.enable(false);
+    f.cancelButton.enabled = false;
+    f.addButton.enabled = true;
+    f.startButton.enabled = !desk.sources.empty();
+    f.progress_LABEL.text = desk.job.cancelled() ? "Cancelled" : "";
+    return waited(p);
+}
+
+ListView::Row rowOf(const SourceInfo& info) {
+    const bool flown = info.firstDay > 0;
+    const std::string from = flown ? importer::dayText(info.firstDay) : info.cycle;
+    const std::string kind = info.fault.empty() ? std::string(importer::nameOf(info.kind)) : info.fault;
+    return {"",
+            {textFromUtf8(kind), textFromUtf8(info.file), info.rows > 0 ? std::to_string(info.rows) : "",
+             from, flown ? importer::dayText(info.lastDay) : ""}};
+}
+
+Waited addSource(Program& p, ImportDesk& desk) {
+    auto& f = p.forms.ImportForm;
+    const std::string path(trimmed(f.sourceTEXT.text));
+    if (path.empty() || !f.addButton.enabled) return waited(p);
+    std::vector<std::string> faults;
+    std::vector<importer::Source> sources = desk.sources;
+    importer::RawTables raw;
+    const Waited answer = runJob(p, desk, [&] {
+        for (auto& source : unpack::openSources(files::resolve(path), faults))
+            sources.push_back(std::move(source));
+        importer::Findings findings;
+        std::vector<std::string> told; // the list shows them at their files
+        raw = importer::readSources(sources, true, findings, told, desk.job);
+    });
+    if (answer == Waited::Ended || desk.job.cancelled()) return answer;
+    if (!faults.empty()) f.progress_LABEL.text = textFromUtf8(faults.front());
+    desk.sources = std::move(sources);
+    f.sourceList.rows.clear();
+    for (const SourceInfo& info : raw.files) f.sourceList.rows.push_back(rowOf(info));
+    f.startButton.enabled = !desk.sources.empty();
+    if (trimmed(f.nameTEXT.text).empty() && !desk.sources.empty())
+        f.nameTEXT.text = importer::defaultName(raw);
+    return answer;
+}
+
+/// Offers the new set beside the others and turns to it.
+void chooseSet(Program& p, const std::string& name) {
+    Session& s = p.session;
+    auto& combo = p.forms.MainForm.routeCombo;
+    const auto started = s.desk.StartupDone;
+    s.desk.StartupDone = kFalse; // filling the list is no choice of the pilot's
+    DiscoverDataSets(p);
+    s.desk.StartupDone = started;
+    const int place = combo.find(name);
+    if (place < 0) return;
+    // A set that was made anew under its old name is read anew.
+    if (dataSetPath(s.AppDir, name) == s.settings.DataSetPath) s.settings.DataSetPath.clear();
+    combo.select(place);
+}
+
+Waited startImport(Program& p, ImportDesk& desk) {
+    auto& f = p.forms.ImportForm;
+    if (!f.startButton.enabled || desk.sources.empty()) return waited(p);
+    importer::ImportOptions options;
+    options.name = utf8FromText(trimmed(f.nameTEXT.text));
+    options.skipUnknown = true; // the list has shown them
+    const auto folder = files::resolve(p.session.AppDir);
+    importer::Imported made;
+    gt1::Report report;
+    bool put = false;
+    f.reportTEXT.text.clear();
+    const Waited answer = runJob(p, desk, [&] {
+        const gt1::World shared = importer::sharedOf(folder, report);
+        if (report.failed()) return;
+        made = importer::makeImport(desk.sources, shared, options, desk.job);
+        if (made.faults.empty() && !desk.job.cancelled())
+            put = importer::install(made, folder, report, desk.job);
+    });
+    if (answer == Waited::Ended) return answer;
+    std::string text = made.report;
+    for (const std::string& error : report.errors()) text = "error: " + error + "\n" + text;
+    f.reportTEXT.text = textFromUtf8(text);
+    if (!desk.job.cancelled()) f.progress_LABEL.text = put ? "Done" : "Nothing was written";
+    if (put) chooseSet(p, textFromUtf8(made.name));
+    return waited(p);
+}
+
+} // namespace
+
+Waited showImport(Program& p) {
+    return showModal(p, p.forms.ImportForm);
+}
+
+void closeImport(Program& p) {
+    auto& f = p.forms.ImportForm;
+    if (f.cancelButton.enabled)
+        f.cancelButton.fire(Event::Click);
+    else
+        hideScreen(p, f);
+}
+
+void bindImportForm(Program& p) {
+    auto& f = p.forms.ImportForm;
+    const auto desk = std::make_shared<ImportDesk>();
+    f.startButton.enabled = false;
+    f.load = [&p] { placeScreen(p, p.forms.ImportForm); };
+    f.activate = [&p] {
+        CenterOnMain(p, p.forms.ImportForm);
+        restorePictures(p.forms.ImportForm);
+    };
+    f.BG.on(Event::Move, [&f] { restorePictures(f); });
+    f.addButton.on(Event::Click, [&p, desk] { return addSource(p, *desk); });
+    f.sourceTEXT.on(Event::Enter, [&p, desk] { return addSource(p, *desk); });
+    f.startButton.on(Event::Click, [&p, desk] { return startImport(p, *desk); });
+    f.cancelButton.on(Event::Click, [desk] { desk->job.cancel(); });
+    f.progressTimer.on(Event::Tick, [&p, desk] {
+        if (p.ending) desk->job.cancel();
+        showProgress(p.forms.ImportForm, desk->job);
+    });
+    p.forms.MainForm.importButton.on(Event::Click, [&p] { return showImport(p); });
+}
+
+} // namespace gatewise
