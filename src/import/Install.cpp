@@ -38,10 +38,11 @@ class FreshPlace {
 public:
     FreshPlace(const fs::path& programFolder, const std::string& name, Report& report)
         : report_(report), root_(programFolder / "import.part"), old_(root_ / "old"),
-          target_(files::resolve(files::textOf(programFolder) + "\\Data\\" + name)) {
+          target_(files::target(files::textOf(programFolder) + "\\Data\\" + name)) {
         clearUp();
         std::error_code error;
         fs::create_directories(set(), error);
+        if (!error) fs::create_directories(target_.parent_path(), error); // a user's first set of their own
         if (error) tell(report_, root_, "a folder that can be made", error.message());
     }
     ~FreshPlace() {
@@ -148,7 +149,7 @@ bool install(const Imported& imported, const fs::path& programFolder, Report& re
                      gt1::inQuotes(imported.name));
         return false;
     }
-    const fs::path data = files::resolve(files::textOf(programFolder) + "\\Data");
+    const fs::path data = files::target(files::textOf(programFolder) + "\\Data");
     FreshPlace fresh(programFolder, name, report);
     gt1::writeTables(imported.tables, fresh.tables(), report);
     gt1::writeTables(imported.shared, fresh.tables() / "shared", report);

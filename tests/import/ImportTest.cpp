@@ -1,6 +1,7 @@
 #include "import/Import.h"
 #include "import/Install.h"
 #include "import/Texts.h"
+#include "platform/Delivered.h"
 #include "platform/Files.h"
 #include "support/TempFolder.h"
 #include "unpack/OpenSources.h"
@@ -118,6 +119,22 @@ TEST(Import, TheSameAgainAddsNothing) {
     EXPECT_EQ(again.counts.grown, (std::vector<std::size_t>{0, 0, 0, 0, 0}));
     EXPECT_EQ(put(folder, again), std::vector<std::string>{});
     EXPECT_EQ(folder.files(), before);
+}
+
+TEST(Import, BesideADeliveredFolderTheUsersOwnTakesTheSet) {
+    const Folder delivered;
+    const auto before = delivered.files();
+    const test::TempFolder folder;
+    const fs::path own = folder.native();
+    files::setDelivered(files::textOf(own), delivered.path());
+    gt1::Report report;
+    const Imported made = makeImport(allSources(), sharedOf(own, report), {}, Job());
+    EXPECT_TRUE(install(made, own, report));
+    files::setDelivered("", {});
+    EXPECT_EQ(report.errors(), std::vector<std::string>{});
+    EXPECT_TRUE(fs::exists(own / "Data/June 2008/index.gt1"));
+    EXPECT_TRUE(fs::exists(own / "Data/VOR.gt1")) << "a shared table that has grown";
+    EXPECT_EQ(delivered.files(), before);
 }
 
 TEST(Import, SharedTablesGrowAtTheirEnd) {

@@ -1,5 +1,6 @@
 #include "Import.h"
 
+#include "import/Import.h"
 #include "import/Install.h"
 #include "platform/Files.h"
 #include "unpack/OpenSources.h"
