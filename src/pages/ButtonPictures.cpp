@@ -28,6 +28,7 @@ constexpr FormRow kFormRows[] = {
     {"close_opt", "close", kUsualRepeat},
     {"close_charts", "close", kUsualRepeat},
     {"close_programs", "close", kUsualRepeat},
+    {"close_import", "close", kUsualRepeat},
     {"charts", "charts", kUsualRepeat},
     {"log_csv", "csv", kUsualRepeat},
     {"log_print", "paper", kUsualRepeat},

@@ -57,8 +57,10 @@ ListView::Row rowOf(const SourceInfo& info) {
 
 Waited addSource(Program& p, ImportDesk& desk) {
     auto& f = p.forms.ImportForm;
-    const std::string path(trimmed(f.sourceTEXT.text));
-    if (path.empty() || !f.addButton.enabled) return waited(p);
+    if (!f.addButton.enabled) return waited(p);
+    std::string path(trimmed(f.sourceTEXT.text));
+    if (path.empty()) path = p.machine.desktop.askFolder("Folder with downloaded tables").value_or("");
+    if (path.empty()) return waited(p);
     std::vector<std::string> faults;
     std::vector<importer::Source> sources = desk.sources;
     importer::RawTables raw;
@@ -91,8 +93,10 @@ void chooseSet(Program& p, const std::string& name) {
     const int place = combo.find(name);
     if (place < 0) return;
     // A set that was made anew under its old name is read anew.
-    if (dataSetPath(s.AppDir, name) == s.settings.DataSetPath) s.settings.DataSetPath.clear();
+    const std::string before = s.settings.DataSetPath;
+    if (dataSetPath(s.AppDir, name) == before) s.settings.DataSetPath.clear();
     combo.select(place);
+    if (s.settings.DataSetPath.empty()) s.settings.DataSetPath = before;
 }
 
 Waited startImport(Program& p, ImportDesk& desk) {
@@ -114,8 +118,8 @@ Waited startImport(Program& p, ImportDesk& desk) {
             put = importer::install(made, folder, report, desk.job);
     });
     if (answer == Waited::Ended) return answer;
-    std::string text = made.report;
-    for (const std::string& error : report.errors()) text = "error: " + error + "\n" + text;
+    std::string text = report.failed() ? "" : made.report; // what was made came to nothing
+    for (const std::string& error : report.errors()) text += "error: " + error + "\n";
     f.reportTEXT.text = textFromUtf8(text);
     if (!desk.job.cancelled()) f.progress_LABEL.text = put ? "Done" : "Nothing was written";
     if (put) chooseSet(p, textFromUtf8(made.name));
@@ -140,6 +144,8 @@ void bindImportForm(Program& p) {
     auto& f = p.forms.ImportForm;
     const auto desk = std::make_shared<ImportDesk>();
     f.startButton.enabled = false;
+    for (int i = 0; i < static_cast<int>(f.sourceList.columns.size()); ++i) f.sourceList.resetColumn(i);
+    f.sourceList.on(Event::Column, [&f](const EventArgs& args) { f.sourceList.resetColumn(args.value); });
     f.load = [&p] { placeScreen(p, p.forms.ImportForm); };
     f.activate = [&p] {
         CenterOnMain(p, p.forms.ImportForm);

@@ -67,6 +67,12 @@ public:
     /// Asks where a file is to be written, with a title and a first proposal (a path); nothing when the
     /// person gives up.
     virtual std::optional<std::string> askSavePath(const std::string& title, const std::string& proposal) = 0;
+    /// Asks for a folder to read from, with a title; nothing when the person gives up, or nobody can be
+    /// asked.
+    virtual std::optional<std::string> askFolder(const std::string& title) {
+        (void)title;
+        return std::nullopt;
+    }
     /// Tells the person at the desk something that the system's own screens have no words for (where a
     /// printout lies, what is missing to start the simulator). Does not wait.
     virtual void notify(const std::string& text) = 0;

@@ -12,6 +12,7 @@
 #include <QFileDialog>
 #include <QUrl>
 #include <atomic>
+#include <exception>
 #include <thread>
 
 namespace gatewise::window {
@@ -42,6 +43,11 @@ void QtDesktop::setPointer(bool busy) {
 std::optional<std::string> QtDesktop::askSavePath(const std::string& title, const std::string& proposal) {
     const QString name =
         QFileDialog::getSaveFileName(QApplication::activeWindow(), toQt(title), nativePath(proposal));
+    return name.isEmpty() ? std::nullopt : std::optional(pathText(name));
+}
+
+std::optional<std::string> QtDesktop::askFolder(const std::string& title) {
+    const QString name = QFileDialog::getExistingDirectory(QApplication::activeWindow(), toQt(title));
     return name.isEmpty() ? std::nullopt : std::optional(pathText(name));
 }
 
@@ -89,14 +95,20 @@ void QtLoop::wait(std::int64_t milliseconds) {
 void QtLoop::work(const std::function<void()>& job) {
     if (desk_ != nullptr) desk_->sync();
     std::atomic<bool> done{false};
+    std::exception_ptr failure;
     std::thread worker([&] {
-        job();
+        try {
+            job();
+        } catch (...) {
+            failure = std::current_exception();
+        } // goes on where the work was asked for
         done = true;
         QCoreApplication::postEvent(qApp, new QEvent(QEvent::User)); // ends the wait below
     });
     while (!done) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     worker.join();
     if (desk_ != nullptr) desk_->sync();
+    if (failure) std::rethrow_exception(failure);
 }
 
 QtTimers::QtTimers(TimeSource& time) : time_(time) {

@@ -27,6 +27,7 @@ public:
     void minimise() override;
     void showHelp(const std::string& page) override;
     std::optional<std::string> askSavePath(const std::string& title, const std::string& proposal) override;
+    std::optional<std::string> askFolder(const std::string& title) override;
     void notify(const std::string& text) override;
     void copy(const std::string& text) override;
 

@@ -2,9 +2,12 @@
 
 #include "input/UserEvents.h"
 #include "pages/Screens.h"
+#include "platform/Paths.h"
 #include "window/QtText.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 
 namespace gatewise::tour {
 
@@ -12,6 +15,25 @@ namespace {
 
 /// Pictures that are taken for fine screens too.
 constexpr const char* kFine[] = {"board", "pass", "settings", "plan", "log"};
+
+/// A few downloaded tables as an import takes them; returns their folder.
+std::string writeTables(const std::string& appDir) {
+    const std::string folder = appDir + "/Downloads";
+    const auto write = [&](const char* name, const std::string& text) {
+        std::filesystem::create_directories(files::target(folder));
+        std::ofstream(files::target(folder + "/" + name)) << text;
+    };
+    write("airports.dat",
+          "1,\"Quill International "
+          "Airport\",\"Quill\",\"Freedonia\",\"QLL\",\"KQLL\",40.0,-100.0,1000,-6,\"A\","
+          "\"America/Chicago\",\"airport\",\"made\"\n"
+          "2,\"Orrery Field\",\"Orrery\",\"Freedonia\",\"ORY\",\"KORY\",41.5,-92.5,800,-6,\"A\","
+          "\"America/Chicago\",\"airport\",\"made\"\n");
+    write("airlines.dat", "10,\"Orrery Air\",\\N,\"X0\",\"ORR\",\"ORRERY\",\"Freedonia\",\"Y\"\n");
+    write("flights.csv", "origin,departure,destination,arrival,airline,number,days\n"
+                         "QLL,0700,ORY,0830,X0,77,12345\nORY,0915,QLL,1045,X0,78,12345\n");
+    return folder;
+}
 
 } // namespace
 
@@ -28,6 +50,7 @@ void Tour::play() {
     exports();
     logBook();
     settings();
+    imports();
     notices();
     stage_.play();
 }
@@ -182,6 +205,21 @@ void Tour::settings() {
     visit(
         "folder", f_.DirForm, [] {}, [this] { close(); });
     then([this] { close(); });
+}
+
+void Tour::imports() {
+    const std::string tables = writeTables(stage_.window.program.session.AppDir);
+    then([this] { stage_.click(f_.MainForm.main_LABEL); });
+    then([this] { stage_.click(f_.MainForm.importButton); });
+    then([this, tables] {
+        stage_.click(f_.ImportForm.sourceTEXT);
+        stage_.type(window::toQt(tables));
+        stage_.key(Qt::Key_Return);
+    });
+    then([this] { stage_.click(f_.ImportForm.startButton); });
+    then([this] { stage_.key(Qt::Key_Return); });
+    visit(
+        "import", f_.ImportForm, [] {}, [this] { close(); });
 }
 
 /// Screens that are only up for a moment of work, or that nothing on this road brings up.

@@ -26,6 +26,7 @@ private:
     void exports();
     void logBook();
     void settings();
+    void imports();
     void notices();
 
     /// A step that leads to a screen, then its picture, then the way back.
