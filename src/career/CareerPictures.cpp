@@ -87,7 +87,7 @@ std::vector<CareerRow> careerRows(const Career& career, const NumberLocale& numb
 
 std::string careerText(const std::vector<CareerRow>& rows) {
     std::string out;
-    for (const auto& [name, value] : rows) out += name + "\t" + value + "\r\n";
+    for (const auto& [name, value] : rows) out.append(name).append("\t").append(value).append("\r\n");
     return out;
 }
 

@@ -92,6 +92,7 @@ std::vector<AirlineRecord> makeAirlines(const RawTables& raw, const std::set<std
                                         Findings& findings) {
     const AirlineFinder finder(raw);
     std::vector<AirlineRecord> out;
+    out.reserve(codes.size());
     for (const std::string& code : codes) out.push_back(finder.record(code, findings));
     return out;
 }

@@ -83,6 +83,7 @@ std::vector<bool> longCarriers(const OnTimeData& data) {
         last = std::max(last, row.day);
     }
     std::vector<bool> out;
+    out.reserve(span.size());
     for (const auto& [first, last] : span) out.push_back(last - first + 1 > twoWeeks);
     return out;
 }

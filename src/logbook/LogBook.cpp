@@ -88,7 +88,7 @@ std::error_code LogStore::load(std::string_view path, long long today, std::vect
     std::vector<LogRecord> found = readLogBook(path, &doubt_);
     if (doubt_) return doubt_;
     entries = std::move(found);
-    remember(static_cast<long long>(entries.size() * kRecord));
+    remember(static_cast<long long>(entries.size()) * static_cast<long long>(kRecord));
     takeKept(path, today, entries);
     return {};
 }

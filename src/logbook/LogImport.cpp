@@ -22,6 +22,7 @@ using Rows = std::vector<std::vector<std::string>>;
 Columns columnsOf(const std::vector<std::string>& header) {
     // Each cell's name is made once: in a table without a header every row is looked at.
     std::vector<std::string> names;
+    names.reserve(header.size());
     for (const std::string& cell : header) names.push_back(headerName(cell));
     Columns columns;
     columns.fill(-1);

@@ -41,7 +41,9 @@ template<class Visit> void Labels::cells(const Box& box, Visit visit) const {
     };
     for (int y = cell(box.top, rows_); y <= cell(box.top + box.height, rows_); ++y) {
         for (int x = cell(box.left, columns_); x <= cell(box.left + box.width, columns_); ++x) {
-            if (!visit(static_cast<std::size_t>(y * columns_ + x))) return;
+            if (!visit(static_cast<std::size_t>(y) * static_cast<std::size_t>(columns_) +
+                       static_cast<std::size_t>(x)))
+                return;
         }
     }
 }

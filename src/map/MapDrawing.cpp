@@ -87,6 +87,7 @@ public:
     void places(const std::vector<MapPlace>& places, int chosen) {
         for (const auto& place : places) mark(place, chosen);
         std::vector<const MapPlace*> order;
+        order.reserve(places.size());
         for (const auto& place : places) order.push_back(&place);
         std::stable_partition(order.begin(), order.end(),
                               [&](const MapPlace* p) { return p->id >= 0 && p->id == chosen; });

@@ -104,7 +104,7 @@ void dropNew(const fs::path& folder, const std::vector<NamedBytes>& set) {
 } // namespace
 
 SetFailure replaceSet(const fs::path& folder, const std::vector<NamedBytes>& set) {
-    if (const SetFailure left = finishSet(folder); left.error) return left;
+    if (SetFailure left = finishSet(folder); left.error) return left;
     std::vector<std::string> names;
     std::string journal;
     for (const NamedBytes& file : set) {

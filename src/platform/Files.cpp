@@ -65,8 +65,7 @@ std::error_code rewrite(std::string_view path, const Change& change) {
         Stamp stamp;
         auto old = readAll(path, &error, &stamp);
         if (!old && error != std::errc::no_such_file_or_directory) return error;
-        const auto bytes = change(std::move(old).value_or(Bytes()));
-        old.reset();
+        const auto bytes = change(old ? std::move(*old) : Bytes());
         if (!bytes) return {};
         error = replace(path, *bytes, &stamp);
         if (error != std::errc::interrupted) return error;
