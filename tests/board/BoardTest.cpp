@@ -219,6 +219,7 @@ TEST_F(Board, EveryBuildStartsFromBlankLists) {
         EXPECT_EQ(lists.BoardRows[i].FlightText, "");
         EXPECT_EQ(lists.BoardRows[i].CityText, "");
         EXPECT_EQ(lists.BoardRows[i].Minutes, 0);
+        EXPECT_EQ(lists.BoardRows[i].FlightIndex, 0);
         EXPECT_EQ(lists.BoardList[i].FlightText, "");
     }
 }

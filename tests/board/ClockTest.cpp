@@ -29,6 +29,13 @@ TEST_F(Clock, WithBiasSixtyAtTwentyThreeLondonShowsMidnight) {
     EXPECT_EQ(ZoneHours[10], 23);
 }
 
+TEST_F(Clock, MidnightIsHourZeroAndTheHourBeforeIsTwentyThree) {
+    EXPECT_EQ(UpdateClockHours(clock(0), 0), 0);
+    EXPECT_EQ(ClockHours, 0);
+    EXPECT_EQ(UpdateClockHours(clock(-60), 0), 0);
+    EXPECT_EQ(ClockHours, 23);
+}
+
 TEST_F(Clock, AnHourOffsetOfMinusThirtyAtFourGivesTwentyTwo) {
     HourOffset = -30;
     EXPECT_EQ(UpdateClockHours(clock(0), 4), 22);

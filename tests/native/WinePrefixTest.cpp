@@ -83,6 +83,9 @@ TEST_F(Prefixes, NativePathsIgnoreCaseAndFollowDrives) {
     EXPECT_EQ(nativePath(prefix, "C:\\games\\fs2002\\"), prefix / "drive_c" / "Games" / "FS2002");
     EXPECT_EQ(nativePath(prefix, "D:\\fs"), prefix / "dosdevices" / "d:" / "FS");
     EXPECT_EQ(nativePath(prefix, "E:\\fs"), std::nullopt);
+    fs::create_directory_symlink(home / "disk", prefix / "dosdevices" / "z:");
+    EXPECT_EQ(nativePath(prefix, "Z:\\fs"), prefix / "dosdevices" / "z:" / "FS");
+    EXPECT_EQ(nativePath(prefix, "[:\\fs"), std::nullopt);
     EXPECT_EQ(nativePath(prefix, "\\\\server\\share"), std::nullopt);
     EXPECT_EQ(nativePath(prefix, ""), std::nullopt);
 }

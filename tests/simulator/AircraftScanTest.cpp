@@ -68,6 +68,18 @@ TEST(AircraftVariations, ATitleThatBeginsWithTitleEndsItsFolder) {
     EXPECT_EQ(titlesOf("[fltsim.0]\ntitle=Titl\n"), (Titles{"Titl"}));
 }
 
+/// In whatever order the folders come, one without a panel stands before one with a panel.
+TEST(FilesSearchFolder, AFolderWithoutAPanelEndsNothing) {
+    TempFolder folder;
+    for (int i = 0; i < 8; ++i) {
+        const std::string number = std::to_string(i);
+        install(folder, "A" + number, "[fltsim.0]\ntitle=Plane " + number + "\n");
+        install(folder, "B" + number, "[fltsim.0]\ntitle=None\n");
+        std::filesystem::remove(folder / ("Aircraft/B" + number + "/panel"));
+    }
+    EXPECT_EQ(offered(folder).size(), 8U);
+}
+
 /// Whoever opened the pipe would wait for its end; after a while it comes.
 TEST(FilesSearchFolder, APipeNamedAsTheConfigurationIsNotOpened) {
     TempFolder folder;

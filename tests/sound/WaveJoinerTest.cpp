@@ -85,6 +85,12 @@ TEST_F(Joiner, MissingFolderFailsWithoutMakingIt) {
     EXPECT_FALSE(folder.has("none"));
 }
 
+TEST_F(Joiner, ARecordingOfAHeaderAloneFailsByItself) {
+    folder.write("a.wav", Bytes(44, 0));
+    EXPECT_FALSE(join({"a.wav"}));
+    EXPECT_FALSE(folder.has("out.wav"));
+}
+
 TEST_F(Joiner, FolderInPlaceOfARecordingFails) {
     std::filesystem::create_directory(folder / "a.wav");
     EXPECT_FALSE(join({"a.wav"}));
