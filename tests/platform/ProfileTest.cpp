@@ -2,8 +2,8 @@
 
 #include "support/TempFolder.h"
 
-#include <chrono>
 #include <csignal>
+#include <ctime>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -235,29 +235,30 @@ TEST(ProfileCodings, Utf16IsReadAndKept) {
         EXPECT_EQ(written(file, "main", "Index", "13"), utf16("[Main]\r\nIndex=13\r\n", big));
         EXPECT_EQ(written(file, "main", "Last", "Z\xFC"), utf16("[Main]\r\nIndex=12\r\nLast=Z\xFC\r\n", big));
     }
-    const std::string pair("\xFF\xFE[\0A\0]\0\n\0x\0=\0\x3D\xD8\x00\xDE\n\0", 22);
+    using namespace std::string_literals;
+    const std::string pair = "\xFF\xFE[\0A\0]\0\n\0x\0=\0\x3D\xD8\x00\xDE\n\0"s;
     EXPECT_EQ(read(pair, "A", "x"), "\xF0\x9F\x98\x80");
     EXPECT_EQ(Profile(pair).content(), pair);
     EXPECT_EQ(read("\xFF\xFE[", "A", "x"), "");
 }
 
-TEST(ProfileSize, FiftyMegabytesAreReadAndWrittenWithinASecond) {
+TEST(ProfileSize, FiftyMegabytesAreReadAndWrittenInOnePass) {
     std::string content = "[Main]\r\nIndex=12\r\n";
     for (int i = 0; content.size() < 50'000'000; ++i)
         content += "Key number " + std::to_string(i) + " of many=its value\r\n";
     content += "[Other]\r\nLast=1\r\n";
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock(); // of this process: what else the machine does is not its time
     Profile profile(content);
     for (int i = 0; i < 200; ++i) profile.set("Main", "WpInfo" + std::to_string(i), "0, 0, 0");
     EXPECT_EQ(numberIn(profile, "Main", "Index"), 12);
     EXPECT_EQ(numberIn(profile, "Other", "Last"), 1);
     profile.set("main", "key number 5 OF many", "changed");
     const std::string out = profile.content();
-    const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
+    const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
     EXPECT_GT(out.size(), content.size());
     // The work of one pass; a pass for each key took a quarter of a minute.
-    EXPECT_LT(seconds.count(), 5.0);
-    RecordProperty("seconds", std::to_string(seconds.count()));
+    EXPECT_LT(seconds, 5.0);
+    RecordProperty("seconds", std::to_string(seconds));
 }
 
 TEST(WriteValue, AFileThatCannotBeReadIsNotWrittenOver) {

@@ -1,0 +1,2 @@
+add_executable(bench_programs programs.cpp)
+target_link_libraries(bench_programs PRIVATE gatewise_warnings gatewise_programs benchmark::benchmark_main)
