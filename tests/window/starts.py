@@ -33,9 +33,14 @@ class Place:
         shutil.copy2(program, self.program)
         shared = folder / 'share' / 'gatewise'
         shared.mkdir(parents=True)
-        for part in ('Fonts', 'Images', 'Wavs', 'Data', 'help', 'GT.cfg'):
+        for part in ('Wavs', 'Data', 'help', 'GT.cfg'):
             if (delivered / part).exists():
                 (shared / part).symlink_to(delivered / part)
+        for part in ('Fonts', 'Images'):
+            (shared / part).mkdir()
+            for file in (delivered / part).iterdir():
+                (shared / part / file.name).symlink_to(file)
+        self.shared = shared
         self.user = folder / 'user' / 'Gatewise Terminal'
         self.environment = dict(os.environ, QT_QPA_PLATFORM='offscreen', ALSOFT_DRIVERS='null',
                                 XDG_DATA_HOME=str(folder / 'user'), HOME=str(folder))
@@ -54,9 +59,13 @@ def main():
     before = sorted((path, path.stat().st_mtime) for path in delivered.rglob('*'))
     with tempfile.TemporaryDirectory() as name:
         place = Place(pathlib.Path(name), program, delivered)
-        for pipe in ('Images/icon_16.png', 'Fonts/pipe.ttf', 'GT.cfg'):
-            (place.user / pipe).parent.mkdir(parents=True, exist_ok=True)
-            os.mkfifo(place.user / pipe)
+        picture = sorted(place.shared.glob('Images/Dispatch_BG*'))[0]
+        font = sorted(place.shared.glob('Fonts/*.ttf'))[0]
+        for file in (picture, font):
+            file.unlink()
+        place.user.mkdir(parents=True)
+        for pipe in (picture, font, place.user / 'GT.cfg', place.shared / 'Fonts' / 'pipe.ttf'):
+            os.mkfifo(pipe)
         first = place.start()
         wait_for('the first start', lambda: place.owner() == first.pid)
         second = place.start()
