@@ -19,17 +19,16 @@ namespace gatewise {
 struct AnnouncementWindow {
     std::int16_t timer; // 1 to 3, the play timer
     bool departing;     // board: departures or arrivals
-    const char* option; // check box of OptionsForm
     std::int16_t kind;  // 1 to 6
-    int from, to;
+    int from, to;       // minutes
 };
 inline constexpr std::array<AnnouncementWindow, 6> kAnnouncementWindows = {{
-    {1, true, "d1_CHECK", 1, 15, 19},  // Now Boarding
-    {2, true, "d2_CHECK", 2, 5, 10},   // Final Call
-    {3, true, "d3_CHECK", 3, 0, 3},    // Departing
-    {1, false, "a2_CHECK", 4, 3, 8},   // Now Arriving
-    {3, false, "a1_CHECK", 5, 11, 15}, // Landing Soon
-    {2, false, "a3_CHECK", 6, 0, 2},   // Gate Attendant
+    {1, true, 1, 15, 19},  // Now Boarding
+    {2, true, 2, 5, 10},   // Final Call
+    {3, true, 3, 0, 3},    // Departing
+    {1, false, 4, 3, 8},   // Now Arriving
+    {3, false, 5, 11, 15}, // Landing Soon
+    {2, false, 6, 0, 2},   // Gate Attendant
 }};
 
 /// The row of the table for a play timer, 1 to 3.
