@@ -21,8 +21,14 @@ std::string besides(std::string_view path, std::string_view name) {
 // A backup bears noon of the day before whose first change it was made, so that a later run knows it too.
 constexpr long long kSerialOf1970 = 25569;
 
+// A file's time is counted in nanoseconds and ends a good two centuries around 2174. Outside of these days a
+// backup keeps its own time and is made again by the next run.
+constexpr long long kFirstMark = 2;      // 1 January 1900
+constexpr long long kLastMark = 180'000; // 26 October 2392
+
 void markDay(std::string_view backup, long long day) {
     using namespace std::chrono;
+    if (day < kFirstMark || day > kLastMark) return;
     const sys_time<seconds> noon = sys_days(days(day - kSerialOf1970)) + hours(12);
     std::error_code ignored;
     std::filesystem::last_write_time(files::target(backup), file_clock::from_sys(noon), ignored);
@@ -34,7 +40,8 @@ long long markedDay(std::string_view backup) {
     std::error_code error;
     const auto time = std::filesystem::last_write_time(files::target(backup), error);
     if (error) return 0;
-    return floor<days>(file_clock::to_sys(time)).time_since_epoch().count() + kSerialOf1970;
+    const auto counted = file_clock::to_sys(floor<seconds>(time)); // in seconds: any time of a file fits
+    return floor<days>(counted).time_since_epoch().count() + kSerialOf1970;
 }
 
 Bytes bytesOf(const std::vector<LogRecord>& entries) {

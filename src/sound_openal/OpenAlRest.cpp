@@ -73,7 +73,10 @@ void OpenAlRest::run() {
     std::unique_lock lock(mutex_);
     while (!over_) {
         const Time wanted = end_;
-        if (resting_ || wanted == kNever) {
+        if (resting_) {
+            // Not for a new end: a sound may have come and gone again before this thread gets its turn.
+            changed_.wait(lock, [&] { return over_ || !resting_; });
+        } else if (wanted == kNever) {
             changed_.wait(lock, [&] { return over_ || end_ != wanted; });
         } else if (!changed_.wait_until(lock, wanted + kTail, [&] { return over_ || end_ != wanted; })) {
             deviceFunction<void(ALCdevice*)>(device_, "alcDevicePauseSOFT")(device_);

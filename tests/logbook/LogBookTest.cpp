@@ -3,6 +3,7 @@
 #include "platform/Files.h"
 #include "support/TempFolder.h"
 
+#include <chrono>
 #include <gtest/gtest.h>
 
 namespace gatewise {
@@ -185,6 +186,22 @@ TEST_F(LogBook, AnAdditionOfAnotherProgramIsNotWrittenOver) {
     ASSERT_FALSE(files::replace(path(), bytesOf({entry(1), entry(7)})));
     EXPECT_FALSE(store.add(path(), entry(2), kToday, {entry(1)}));
     EXPECT_EQ(read(path()), bytesOf({entry(1), entry(7), entry(2)}));
+}
+
+TEST_F(LogBook, ADayThatNoFilesTimeReachesIsNoFault) {
+    EXPECT_FALSE(store.add(path(), entry(1), kToday, {}));
+    for (const long long day : {-793'652LL, 0LL, 179'999LL, 2'958'465LL, 99'999'999LL}) {
+        EXPECT_FALSE(store.add(path(), entry(2), day, {})) << day;
+        EXPECT_TRUE(files::fileExists(backup())) << day;
+    }
+    // A backup that another program dated far ahead.
+    using namespace std::chrono;
+    std::filesystem::last_write_time(backup(),
+                                     file_clock::from_sys(sys_time<seconds>(seconds(13'000'000'000))));
+    LogStore later;
+    std::vector<LogRecord> entries;
+    EXPECT_FALSE(later.load(path(), kToday, entries));
+    EXPECT_FALSE(later.add(path(), entry(3), kToday, entries));
 }
 
 class LogInDoubt : public LogBook {

@@ -101,6 +101,16 @@ TEST_F(Resting, ReleasingTheLastSoundLetsItRest) {
     EXPECT_TRUE(rests());
 }
 
+TEST_F(Resting, ASoundThatComesAndGoesAtOnceLeavesItResting) {
+    ASSERT_TRUE(rests());
+    for (int i = 0; i < 50; ++i) {
+        const SoundBuffer buffer = device_.load(silentWave(folder_, 100));
+        device_.play(buffer, true);
+        device_.release(buffer);
+        ASSERT_TRUE(rests()) << i;
+    }
+}
+
 TEST_F(Resting, ClosingWhileItRestsEndsCleanly) {
     ASSERT_TRUE(rests());
     device_.close();

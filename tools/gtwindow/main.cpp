@@ -48,7 +48,9 @@ int main(int count, char** arguments) {
     }
     std::ios::sync_with_stdio(false);
     auto scratch = std::make_unique<QTemporaryDir>(); // the process ends without unwinding
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) useWideDesk(scratch->path().toStdString());
+    // Who names the platform alone gets its wide desk too: its own is smaller than two windows.
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (platform.isEmpty() || platform == "offscreen") useWideDesk(scratch->path().toStdString());
     printMessage = qInstallMessageHandler(quietHandler);
     QApplication application(count, arguments);
     scratch.reset();
