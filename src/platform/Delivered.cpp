@@ -1,5 +1,6 @@
 #include "platform/Delivered.h"
 
+#include "platform/NativePath.h"
 #include "platform/Paths.h"
 #include "platform/Text.h"
 
@@ -38,8 +39,7 @@ std::string_view tailOf(std::string_view path) {
 }
 
 bool present(const fs::path& path) {
-    std::error_code error;
-    return fs::exists(path, error);
+    return kindOf(path) != Kind::None;
 }
 
 bool isResource(std::string_view tail) {
@@ -81,8 +81,7 @@ fs::path deliveredFolderOf(std::string_view path) {
     const std::string_view tail = tailOf(path);
     if (tail.empty()) return {};
     const fs::path theirs = target(places().delivered + std::string(tail));
-    std::error_code error;
-    return fs::is_directory(theirs, error) ? theirs : fs::path();
+    return kindOf(theirs) == Kind::Folder ? theirs : fs::path();
 }
 
 } // namespace gatewise::files

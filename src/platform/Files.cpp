@@ -1,5 +1,6 @@
 #include "platform/Files.h"
 #include "platform/Delivered.h"
+#include "platform/NativePath.h"
 #include "platform/Text.h"
 
 #include <algorithm>
@@ -10,13 +11,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::vector<Entry> entriesOf(const fs::path& folder) {
+std::vector<Entry> namedEntries(const fs::path& folder) {
     std::vector<Entry> out;
-    std::error_code error;
-    for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
-        std::error_code ignored;
-        out.push_back({textOf(it->path().filename()), it->is_directory(ignored)});
-    }
+    for (const FolderEntry& entry : entriesOf(folder)) out.push_back({textOf(entry.name), entry.folder});
     return out;
 }
 
@@ -30,19 +27,16 @@ fs::path resolve(std::string_view path) {
 }
 
 bool fileExists(std::string_view path) {
-    std::error_code error;
-    return fs::is_regular_file(resolve(path), error);
+    return kindOf(resolve(path)) == Kind::File;
 }
 
 bool folderExists(std::string_view path) {
-    std::error_code error;
-    return fs::is_directory(resolve(path), error);
+    return kindOf(resolve(path)) == Kind::Folder;
 }
 
 std::string foundName(std::string_view path) {
     const fs::path native = resolve(path);
-    std::error_code error;
-    return fs::is_regular_file(native, error) ? textOf(native.filename()) : std::string();
+    return kindOf(native) == Kind::File ? textOf(native.filename()) : std::string();
 }
 
 std::optional<Bytes> readAll(std::string_view path, std::error_code* error, Stamp* stamp) {
@@ -74,17 +68,15 @@ std::error_code rewrite(std::string_view path, const Change& change) {
 }
 
 std::error_code remove(std::string_view path) {
-    std::error_code error;
-    fs::remove(target(path), error);
-    return error;
+    return removeFile(target(path));
 }
 
 std::vector<Entry> list(std::string_view path) {
-    std::vector<Entry> out = entriesOf(target(path));
+    std::vector<Entry> out = namedEntries(target(path));
     const fs::path delivered = deliveredFolderOf(path);
     if (delivered.empty()) return out;
     const std::size_t own = out.size();
-    for (Entry& entry : entriesOf(delivered)) {
+    for (Entry& entry : namedEntries(delivered)) {
         const auto same = [&](const Entry& other) { return equalNoCase(other.name, entry.name); };
         if (std::none_of(out.begin(), out.begin() + static_cast<std::ptrdiff_t>(own), same))
             out.push_back(std::move(entry));

@@ -1,7 +1,11 @@
 #include "platform/Paths.h"
 
+#include "platform/NativePath.h"
 #include "platform/Text.h"
 #include "platform/Utf8.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace gatewise::files {
 
@@ -27,8 +31,12 @@ std::string nativeName(std::string_view component) {
 }
 
 bool isThere(const fs::path& path) {
-    std::error_code error;
+#ifdef _WIN32
+    return kindOf(path) != Kind::None;
+#else
+    std::error_code error; // a link counts that leads nowhere
     return fs::symlink_status(path, error).type() != fs::file_type::not_found;
+#endif
 }
 
 /// Whether `folder` has an entry of these very bytes, which need be no UTF-8 where names are bytes.
@@ -44,24 +52,47 @@ bool hasRaw([[maybe_unused]] const fs::path& folder, [[maybe_unused]] std::strin
 /// is none.
 fs::path child(const fs::path& folder, std::string_view component) {
     const std::string name = nativeName(component);
-    fs::path exact = folder / name;
+    fs::path exact = folder / pathOfUtf8(name);
     if (isThere(exact)) return exact;
     if (name != component && hasRaw(folder, component)) return folder / component;
-    const std::string wanted = textOf(fs::path(name));
-    std::error_code error;
-    for (fs::directory_iterator it(folder, error), end; !error && it != end; it.increment(error)) {
-        if (equalNoCase(textOf(it->path().filename()), wanted)) return it->path();
+    const std::string wanted = textOf(pathOfUtf8(name));
+    for (const FolderEntry& entry : entriesOf(folder)) {
+        if (equalNoCase(textOf(entry.name), wanted)) return folder / entry.name;
     }
     return exact;
+}
+
+bool isSlash(char c) {
+    return c == '/' || c == '\\';
+}
+
+/// What a path that begins with a slash begins with: on systems that have such, the name of a computer behind
+/// two of them. `at` moves behind it.
+fs::path rootOf(std::string_view path, [[maybe_unused]] std::size_t& at) {
+#ifdef _WIN32
+    if (path.size() > 2 && isSlash(path[1]) && !isSlash(path[2])) {
+        at = std::min(path.find_first_of("/\\", 2), path.size());
+        return pathOfUtf8("//" + nativeName(path.substr(2, at - 2)) + "/");
+    }
+#endif
+    return !path.empty() && isSlash(path[0]) ? fs::path("/") : fs::path();
+}
+
+/// Without what `reachable` put before it.
+std::string withoutReach(std::string utf8) {
+#ifdef _WIN32
+    if (utf8.starts_with("\\\\?\\UNC\\")) return utf8.erase(2, 6);
+    if (utf8.starts_with("\\\\?\\")) return utf8.erase(0, 4);
+#endif
+    return utf8;
 }
 
 } // namespace
 
 fs::path target(std::string_view path) {
     if (path.find('\0') != std::string_view::npos) return {};
-    fs::path out;
     std::size_t at = 0;
-    if (!path.empty() && (path[0] == '/' || path[0] == '\\')) out = "/";
+    fs::path out = rootOf(path, at);
     while (at <= path.size()) {
         auto end = path.find_first_of("/\\", at);
         if (end == std::string_view::npos) end = path.size();
@@ -76,11 +107,12 @@ fs::path target(std::string_view path) {
             out = child(out.empty() ? fs::path(".") : out, component);
         }
     }
-    return out;
+    return reachable(std::move(out));
 }
 
 std::string textOf(const fs::path& path) {
-    return exactTextFromUtf8(path.string()).value_or(path.string());
+    const std::string utf8 = withoutReach(utf8Of(path));
+    return exactTextFromUtf8(utf8).value_or(utf8);
 }
 
 } // namespace gatewise::files

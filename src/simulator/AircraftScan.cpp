@@ -1,6 +1,7 @@
 #include "simulator/AircraftScan.h"
 
 #include "platform/Files.h"
+#include "platform/NativePath.h"
 #include "platform/ProfileLines.h"
 #include "platform/ProfileText.h"
 #include "platform/Text.h"
@@ -98,8 +99,7 @@ std::optional<std::string_view> readConfig(const fs::path& folder, Bytes& buffer
 }
 
 bool hasPanel(const fs::path& folder) {
-    std::error_code error;
-    return fs::is_directory(folder / "panel", error) ||
+    return files::kindOf(folder / "panel") == files::Kind::Folder ||
            files::folderExists(files::textOf(folder) + "\\panel");
 }
 
@@ -153,14 +153,12 @@ std::vector<ScannedAircraft> FilesSearch(std::string_view path) {
     std::vector<ScannedAircraft> out;
     Bytes buffer; // of all folders
     std::size_t folders = 0;
-    std::error_code error;
     // The root is looked up once and its folders go by their native paths: each step of a path costs.
-    for (fs::directory_iterator it(files::resolve(root), error), end; !error && it != end;
-         it.increment(error)) {
-        std::error_code ignored;
-        if (!it->is_directory(ignored)) continue;
+    const fs::path native = files::resolve(root);
+    for (const auto& entry : files::entriesOf(native)) {
+        if (!entry.folder) continue;
         if (++folders > kAircraftLimit) break;
-        if (!addFolder(out, it->path(), root + files::textOf(it->path().filename()), buffer)) break;
+        if (!addFolder(out, native / entry.name, root + files::textOf(entry.name), buffer)) break;
     }
     return out;
 }

@@ -1,9 +1,13 @@
+#include "platform/Text.h"
 #include "scripts/Record.h"
 #include "scripts/Transcript.h"
+#include "scripts/Wine.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iostream>
+#include <set>
 #include <sstream>
 #include <stdexcept>
 
@@ -11,7 +15,8 @@
 //
 // Plays a transcript against the driver on a fresh copy of the program folder and tells where the answers
 // differ. With --print in front the answers that came are printed as a transcript instead; with --record they
-// are written into the transcript, and what changes there is printed.
+// are written into the transcript, and what changes there is printed. With --wine the driver is one for
+// Windows (see Wine.h); --keep leaves the files that the program wrote where they are.
 
 namespace gatewise::scripts {
 
@@ -35,17 +40,18 @@ struct Played {
     std::vector<std::vector<std::string>> answers;
 };
 
-Played play(const fs::path& driver, const fs::path& folder, const fs::path& scratch,
+/// `driver` and `folder` as they stand in the command.
+Played play(const std::string& driver, const std::string& folder, const fs::path& scratch,
             const Transcript& transcript) {
     {
         std::ofstream commands(scratch / "commands");
         for (const Step& step : transcript.steps) commands << step.command << '\n';
     }
-    const std::string line = quoted(driver) + " " + quoted(folder) + " < " + quoted(scratch / "commands") +
-                             " > " + quoted(scratch / "answers");
+    const std::string line =
+        driver + " " + folder + " < " + quoted(scratch / "commands") + " > " + quoted(scratch / "answers");
     Played played;
     played.status = std::system(line.c_str());
-    played.answers = splitAnswers(contentOf(scratch / "answers"));
+    played.answers = splitAnswers(replaceAll(contentOf(scratch / "answers"), "\r\n", "\n"));
     return played;
 }
 
@@ -54,21 +60,20 @@ void show(const char* title, const std::vector<std::string>& lines) {
     for (const std::string& line : lines) std::cout << "    " << line << '\n';
 }
 
-bool sameAnswer(const std::vector<std::string>& expected, const std::vector<std::string>& came) {
-    if (expected.size() != came.size()) return false;
-    for (std::size_t i = 0; i < expected.size(); ++i) {
-        if (!matches(expected[i], came[i])) return false;
-    }
-    return true;
+using SameLine = bool (*)(const std::string& expected, const std::string& line);
+
+bool sameAnswer(const std::vector<std::string>& expected, const std::vector<std::string>& came,
+                SameLine same) {
+    return std::equal(expected.begin(), expected.end(), came.begin(), came.end(), same);
 }
 
 /// Number of commands with another answer than expected.
-int compare(const fs::path& file, const Transcript& transcript, const Played& played) {
+int compare(const fs::path& file, const Transcript& transcript, const Played& played, SameLine same) {
     int wrong = 0;
     for (std::size_t i = 0; i < transcript.steps.size(); ++i) {
         const Step& step = transcript.steps[i];
         const auto came = i < played.answers.size() ? played.answers[i] : std::vector<std::string>{};
-        if (sameAnswer(step.answer, came)) continue;
+        if (sameAnswer(step.answer, came, same)) continue;
         ++wrong;
         std::cout << file.string() << ":" << step.line << ": > " << step.command << '\n';
         show("  expected", step.answer);
@@ -94,9 +99,9 @@ void print(const Transcript& transcript, const Played& played) {
 }
 
 int run(std::vector<std::string> arguments) {
-    std::string mode;
-    if (!arguments.empty() && arguments.front().starts_with("--")) {
-        mode = arguments.front();
+    std::set<std::string> modes;
+    while (!arguments.empty() && arguments.front().starts_with("--")) {
+        modes.insert(arguments.front());
         arguments.erase(arguments.begin());
     }
     if (arguments.size() != 4)
@@ -108,22 +113,26 @@ int run(std::vector<std::string> arguments) {
     fs::create_directories(scratch);
     fs::copy(arguments[1], folder, fs::copy_options::recursive);
 
-    const Transcript transcript = readTranscript(file, folder.string());
+    const bool wine = modes.contains("--wine");
+    const std::string appDir = wine ? wine::folderThere(folder) : folder.string();
+    const Transcript transcript = readTranscript(file, appDir);
     if (transcript.steps.empty()) throw std::runtime_error(file.string() + " holds no command");
     for (const Setting& setting : transcript.settings) applySetting(setting, folder);
-    const Played played = play(fs::absolute(arguments[0]), folder, scratch, transcript);
-    if (mode == "--print") {
+    const std::string driver = quoted(fs::absolute(arguments[0]));
+    const Played played =
+        play(wine ? "wine " + driver : driver, quoted(fs::path(appDir)), scratch, transcript);
+    if (modes.contains("--print")) {
         print(transcript, played);
         return EXIT_SUCCESS;
     }
-    if (mode == "--record") {
+    if (modes.contains("--record")) {
         std::cout << record(file, folder.string(), played.answers) << " answers changed in " << file.string()
                   << '\n';
         return EXIT_SUCCESS;
     }
-    if (compare(file, transcript, played) > 0) return EXIT_FAILURE;
+    if (compare(file, transcript, played, wine ? wine::sameLine : matches) > 0) return EXIT_FAILURE;
     std::cout << transcript.steps.size() << " commands answered as expected\n";
-    fs::remove_all(scratch);
+    if (!modes.contains("--keep")) fs::remove_all(scratch);
     return EXIT_SUCCESS;
 }
 

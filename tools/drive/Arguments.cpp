@@ -2,6 +2,7 @@
 
 #include "drive/Json.h"
 #include "platform/Files.h"
+#include "platform/NativePath.h"
 
 namespace gatewise::drive {
 
@@ -36,7 +37,7 @@ std::optional<std::string> pathArgument(std::string_view rest) {
 }
 
 std::string pathText(std::string_view utf8) {
-    return files::textOf(std::filesystem::path(std::u8string(utf8.begin(), utf8.end())));
+    return files::textOf(files::pathOfUtf8(utf8));
 }
 
 std::optional<std::string> takeArgument(std::string_view& rest) {

@@ -2,6 +2,7 @@
 #include "drive/Session.h"
 
 #include "platform/Files.h"
+#include "platform/NativePath.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -14,10 +15,11 @@ int main(int count, char** arguments) {
         return EXIT_FAILURE;
     }
     std::error_code error;
-    fs::path folder = fs::absolute(arguments[1], error).lexically_normal();
+    const std::string named = gatewise::files::commandLine(count, arguments).at(0);
+    fs::path folder = fs::absolute(gatewise::files::pathOfUtf8(named), error).lexically_normal();
     if (!folder.has_filename()) folder = folder.parent_path();
-    if (!fs::is_directory(folder, error)) {
-        std::cerr << "gtdrive: no folder " << arguments[1] << '\n';
+    if (gatewise::files::kindOf(folder) != gatewise::files::Kind::Folder) {
+        std::cerr << "gtdrive: no folder " << named << '\n';
         return EXIT_FAILURE;
     }
     std::ios::sync_with_stdio(false);

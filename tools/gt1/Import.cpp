@@ -3,6 +3,7 @@
 #include "import/Import.h"
 #include "import/Install.h"
 #include "platform/Files.h"
+#include "platform/NativePath.h"
 #include "unpack/OpenSources.h"
 
 #include <atomic>
@@ -51,17 +52,17 @@ std::optional<Arguments> understood(const std::vector<std::string>& words) {
         else if (word == "--skip-unknown")
             out.options.skipUnknown = true;
         else if (word == "--into" && more)
-            out.into = words[++i];
+            out.into = files::pathOfUtf8(words[++i]);
         else if (word == "--name" && more)
             out.options.name = words[++i];
         else if (word == "--tables" && more)
-            out.tables = words[++i];
+            out.tables = files::pathOfUtf8(words[++i]);
         else if (word == "--report" && more)
-            out.report = words[++i];
+            out.report = files::pathOfUtf8(words[++i]);
         else if (word.starts_with("--"))
             return std::nullopt;
         else
-            out.sources.emplace_back(word);
+            out.sources.push_back(files::pathOfUtf8(word));
     }
     if (out.sources.empty() || !out.into) return std::nullopt;
     return out;

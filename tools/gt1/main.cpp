@@ -1,5 +1,6 @@
 #include "Import.h"
 #include "gt1/Commands.h"
+#include "platform/NativePath.h"
 
 #include <cstdio>
 #include <optional>
@@ -9,6 +10,7 @@
 namespace {
 
 using namespace gatewise::gt1;
+using gatewise::files::pathOfUtf8;
 
 constexpr const char* usage =
     "gt1 compile SOURCE_FOLDER TARGET_FOLDER [--world FOLDER]\n"
@@ -33,7 +35,7 @@ int finish(const Report& report) {
 
 int compile(const std::vector<std::string>& folders, const std::optional<std::filesystem::path>& world) {
     Report report;
-    const std::string made = compileFolder(folders[0], folders[1], world, report);
+    const std::string made = compileFolder(pathOfUtf8(folders[0]), pathOfUtf8(folders[1]), world, report);
     const int code = finish(report);
     if (code == 0) std::printf("%s: %s\n", folders[1].c_str(), made.c_str());
     return code;
@@ -41,9 +43,9 @@ int compile(const std::vector<std::string>& folders, const std::optional<std::fi
 
 int dump(const std::vector<std::string>& folders, const std::optional<std::filesystem::path>& world) {
     Report report;
-    const auto tables = dumpFolder(folders[0], world, report);
+    const auto tables = dumpFolder(pathOfUtf8(folders[0]), world, report);
     if (!report.failed() && folders.size() == 2) {
-        writeTables(tables, folders[1], report);
+        writeTables(tables, pathOfUtf8(folders[1]), report);
     } else if (!report.failed()) {
         for (const auto& table : tables) std::printf("== %s\n%s", table.file.c_str(), table.text.c_str());
     }
@@ -53,7 +55,7 @@ int dump(const std::vector<std::string>& folders, const std::optional<std::files
 } // namespace
 
 int main(int count, char** arguments) {
-    const std::vector<std::string> all(arguments + 1, arguments + count);
+    const std::vector<std::string> all = gatewise::files::commandLine(count, arguments);
     if (!all.empty() && all[0] == "import") {
         const int code = importCommand({all.begin() + 1, all.end()});
         if (code == 2) std::fputs(usage, stderr);
@@ -66,7 +68,7 @@ int main(int count, char** arguments) {
         if (all[i] != "--world") {
             words.push_back(all[i]);
         } else if (++i < all.size()) {
-            world = all[i];
+            world = pathOfUtf8(all[i]);
         } else {
             understood = false;
         }

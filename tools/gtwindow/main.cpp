@@ -1,6 +1,7 @@
 #include "drive/Session.h"
 #include "gtwindow/WindowBackend.h"
 #include "platform/Files.h"
+#include "platform/NativePath.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -40,10 +41,11 @@ int main(int count, char** arguments) {
         return EXIT_FAILURE;
     }
     std::error_code error;
-    fs::path folder = fs::absolute(arguments[1], error).lexically_normal();
+    const std::string named = files::commandLine(count, arguments).at(0);
+    fs::path folder = fs::absolute(files::pathOfUtf8(named), error).lexically_normal();
     if (!folder.has_filename()) folder = folder.parent_path();
-    if (!fs::is_directory(folder, error)) {
-        std::cerr << "gtwindow: no folder " << arguments[1] << '\n';
+    if (files::kindOf(folder) != files::Kind::Folder) {
+        std::cerr << "gtwindow: no folder " << named << '\n';
         return EXIT_FAILURE;
     }
     std::ios::sync_with_stdio(false);

@@ -1,5 +1,7 @@
 #include "platform/InFile.h"
 
+#include "platform/NativePath.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
@@ -35,9 +37,9 @@ Stamp stampOf(const std::filesystem::path& native) {
     return InFile(native).stamp();
 }
 
-InFile::InFile(const std::filesystem::path& native) {
-    std::error_code none;
-    if (std::filesystem::is_directory(native, none)) {
+InFile::InFile(const std::filesystem::path& path) {
+    const auto native = reachable(path);
+    if (kindOf(native) == Kind::Folder) {
         error_ = std::make_error_code(std::errc::is_a_directory);
         return;
     }

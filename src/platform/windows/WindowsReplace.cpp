@@ -1,4 +1,5 @@
 #include "platform/Files.h"
+#include "platform/NativePath.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -36,8 +37,7 @@ std::error_code replace(std::string_view path, ByteView bytes, const Stamp* old)
     if (!error && old != nullptr && stampOf(target) != *old)
         error = std::make_error_code(std::errc::interrupted);
     if (!error) fs::rename(beside, target, error);
-    std::error_code ignored;
-    if (error) fs::remove(beside, ignored);
+    if (error) (void)removeFile(beside); // the first reason is the one to tell
     return error;
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/Files.h"
 #include "platform/Native.h"
+#include "platform/NativePath.h"
 #include "platform/Text.h"
 
 #include <array>
@@ -14,11 +15,26 @@
 
 #include <shellapi.h>
 
-// Texts go to the ANSI calls as they are: the program's texts are those of the ANSI code page.
+// Texts go through the wide calls: the program's page is Western whatever page the system is set to.
 
 namespace gatewise::native {
 
 namespace {
+
+/// What the page does not have becomes what looks most like it.
+std::string textOfWide(const wchar_t* wide) {
+    constexpr UINT kPage = 1252;
+    const int size = WideCharToMultiByte(kPage, 0, wide, -1, nullptr, 0, nullptr, nullptr);
+    if (size <= 1) return {};
+    std::string text(static_cast<std::size_t>(size), '\0');
+    WideCharToMultiByte(kPage, 0, wide, -1, text.data(), size, nullptr, nullptr);
+    text.pop_back();
+    return text;
+}
+
+std::wstring wideOf(const std::string& text) {
+    return files::pathOfUtf8(utf8FromText(text)).native();
+}
 
 class WindowsClock : public Clock {
 public:
@@ -45,10 +61,10 @@ public:
         constexpr std::array<LCTYPE, 6> kTypes = {LOCALE_SMONDECIMALSEP, LOCALE_SMONTHOUSANDSEP,
                                                   LOCALE_SDECIMAL,       LOCALE_STHOUSAND,
                                                   LOCALE_STIME,          LOCALE_SLIST};
-        std::array<char, 255> buffer{};
-        const int length = GetLocaleInfoA(GetUserDefaultLCID(), kTypes[static_cast<std::size_t>(key)],
-                                          buffer.data(), static_cast<int>(buffer.size()));
-        return length > 0 ? std::string(buffer.data(), static_cast<std::size_t>(length - 1)) : std::string();
+        std::array<wchar_t, 255> buffer{};
+        GetLocaleInfoW(GetUserDefaultLCID(), kTypes[static_cast<std::size_t>(key)], buffer.data(),
+                       static_cast<int>(buffer.size()));
+        return textOfWide(buffer.data());
     }
 
     [[nodiscard]] std::string longDate(const DateTime& moment) const override {
@@ -66,10 +82,10 @@ private:
         day.wYear = static_cast<WORD>(moment.year);
         day.wMonth = static_cast<WORD>(moment.month);
         day.wDay = static_cast<WORD>(moment.day);
-        std::array<char, 255> buffer{};
-        const int length = GetDateFormatA(GetUserDefaultLCID(), form, &day, nullptr, buffer.data(),
-                                          static_cast<int>(buffer.size()));
-        return length > 0 ? std::string(buffer.data()) : std::string();
+        std::array<wchar_t, 255> buffer{};
+        GetDateFormatW(GetUserDefaultLCID(), form, &day, nullptr, buffer.data(),
+                       static_cast<int>(buffer.size()));
+        return textOfWide(buffer.data());
     }
 };
 
@@ -77,17 +93,17 @@ class WindowsRegistry : public Registry {
 public:
     [[nodiscard]] std::optional<std::string> simulatorFolder() const override {
         HKEY key = nullptr;
-        if (RegOpenKeyExA(HKEY_LOCAL_MACHINE, "SOFTWARE\\Microsoft\\Microsoft Games\\Flight Simulator\\8.0",
+        if (RegOpenKeyExW(HKEY_LOCAL_MACHINE, L"SOFTWARE\\Microsoft\\Microsoft Games\\Flight Simulator\\8.0",
                           0, KEY_QUERY_VALUE | KEY_WOW64_32KEY, &key) != ERROR_SUCCESS) {
             return std::nullopt;
         }
-        std::array<char, 1024> buffer{};
-        DWORD size = static_cast<DWORD>(buffer.size() - 1);
-        const LSTATUS status = RegQueryValueExA(key, "EXE Path", nullptr, nullptr,
+        std::array<wchar_t, 1024> buffer{};
+        DWORD size = static_cast<DWORD>((buffer.size() - 1) * sizeof(wchar_t)); // a last NUL stays ours
+        const LSTATUS status = RegQueryValueExW(key, L"EXE Path", nullptr, nullptr,
                                                 reinterpret_cast<BYTE*>(buffer.data()), &size);
         RegCloseKey(key);
         if (status != ERROR_SUCCESS) return std::nullopt;
-        return std::string(buffer.data());
+        return files::textOf(std::filesystem::path(buffer.data()));
     }
 };
 
@@ -105,17 +121,19 @@ public:
 
     std::optional<int> start(const std::string& file, const std::string& parameter,
                              const std::string& folder) override {
-        const std::string parameters = commandLineWord(parameter);
-        SHELLEXECUTEINFOA info{};
+        const std::wstring parameters = wideOf(commandLineWord(parameter));
+        const std::wstring place = folder.empty() ? std::wstring() : folderOf(folder);
+        const std::wstring program = programOf(file, folder);
+        SHELLEXECUTEINFOW info{};
         info.cbSize = sizeof info;
         info.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI;
         info.hwnd = GetDesktopWindow();
-        info.lpVerb = "open";
-        info.lpFile = file.c_str();
+        info.lpVerb = L"open";
+        info.lpFile = program.c_str();
         info.lpParameters = parameters.c_str();
-        info.lpDirectory = folder.c_str();
+        info.lpDirectory = place.c_str();
         info.nShow = SW_SHOWNORMAL;
-        if (!ShellExecuteExA(&info)) return std::nullopt;
+        if (!ShellExecuteExW(&info)) return std::nullopt;
         const int name = ++last_;
         if (info.hProcess != nullptr) started_[name] = info.hProcess;
         return name;
@@ -132,6 +150,17 @@ public:
     }
 
 private:
+    static std::wstring folderOf(const std::string& folder) {
+        return files::resolve(folder).make_preferred().native();
+    }
+
+    /// A bare name is that of a program in the folder, or else one that the system knows.
+    static std::wstring programOf(const std::string& file, const std::string& folder) {
+        if (file.find_first_of("\\/:") != std::string::npos) return folderOf(file);
+        const auto there = files::resolve(folder + "\\" + file).make_preferred();
+        return files::kindOf(there) == files::Kind::File ? there.native() : wideOf(file);
+    }
+
     static HWND simulatorWindow() { return FindWindowA("FS98MAIN", nullptr); }
 
     std::map<int, HANDLE> started_;
