@@ -161,6 +161,26 @@ SkinnedButton* skinnedButton(Control* control) {
     }
 }
 
+Drawing Chart::whole() const {
+    Drawing out = drawing;
+    out.lines.insert(out.lines.end(), further.lines.begin(), further.lines.end());
+    out.texts.insert(out.texts.end(), further.texts.begin(), further.texts.end());
+    out.marks.insert(out.marks.end(), further.marks.begin(), further.marks.end());
+    for (DrawingMark& mark : out.marks) {
+        if (mark.id >= 0 && mark.id == chosen) mark.tone = Tone::Chosen;
+    }
+    return out;
+}
+
+bool Chart::holds(int id) const {
+    const auto meant = [id](const auto& one) { return one.id == id; };
+    const auto among = [&](const Drawing& d) {
+        return std::any_of(d.marks.begin(), d.marks.end(), meant) ||
+               std::any_of(d.lines.begin(), d.lines.end(), meant);
+    };
+    return id >= 0 && (among(drawing) || among(further));
+}
+
 Control* Screen::closingControl() const {
     const auto able = [](const Control* c) { return c != nullptr && c->usable(); };
     if (closedBy.empty()) {

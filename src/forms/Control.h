@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Drawing.h"
+#include "platform/MapScene.h"
 
 #include <array>
 #include <cstdint>
@@ -65,11 +66,13 @@ enum class Event {
     Space,
     Change, // text typed, slider or arrows moved, folder changed
     Column, // head of a list view clicked
+    Pick,   // a mark or route of a chart clicked
+    Hover,  // the mouse rests on another one, or on none any more
     Tick    // a timer
 };
 
 struct EventArgs {
-    int value = 0;     // column of Event::Column
+    int value = 0;     // column of Event::Column, id of Event::Pick and Event::Hover (-1: none)
     int x = 0, y = 0;  // mouse position of Press, Release, Move, in pixels of the screen's ground
     bool left = false; // left button held during Move
 };
@@ -276,6 +279,20 @@ struct Picture : Control {
 struct Chart : Control {
     Chart(Screen& screen, std::string name) : Control(screen, std::move(name), Kind::Chart) {}
     Drawing drawing;
+    Drawing further; // stands upon the drawing: what is told besides, and the marks that can be picked
+    int chosen = -1; // id of the mark or route that stands out
+
+    /// The drawing with `further` upon it, what is chosen standing out.
+    [[nodiscard]] Drawing whole() const;
+    /// Whether a click can pick it.
+    [[nodiscard]] bool holds(int id) const;
+};
+
+/// A map that a person moves and zooms: its scene. `further`, or the drawing where there was none before, is
+/// the whole scene as it fits a sheet of usual size, without the land.
+struct MapChart : Chart {
+    using Chart::Chart;
+    MapScene scene;
 };
 
 /// Slider and up-down arrows.

@@ -6,9 +6,10 @@
 namespace gatewise {
 
 std::vector<Screen*> Forms::all() {
-    return {&MainForm,     &SelectForm,  &FlightForm, &InfoForm,   &MsgForm,       &WaitForm,     &SplashForm,
-            &SettingsForm, &OptionsForm, &DirForm,    &ExportForm, &DirExportForm, &ProgramsForm, &ViewPlan,
-            &PlanCharts,   &FlyForm,     &LogEntry,   &ClockForm,  &ImportForm,    &MsgBox};
+    return {&MainForm,     &SelectForm,   &FlightForm,  &InfoForm, &MsgForm,    &WaitForm,
+            &SplashForm,   &SettingsForm, &OptionsForm, &DirForm,  &ExportForm, &DirExportForm,
+            &ProgramsForm, &ViewPlan,     &PlanCharts,  &FlyForm,  &LogEntry,   &ClockForm,
+            &ImportForm,   &RoutesForm,   &CareerForm,  &MsgBox};
 }
 
 Screen* Forms::find(std::string_view name) {

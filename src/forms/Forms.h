@@ -33,6 +33,8 @@ struct Forms {
     forms::LogEntry LogEntry;
     forms::ClockForm ClockForm;
     forms::ImportForm ImportForm;
+    forms::RoutesForm RoutesForm;
+    forms::CareerForm CareerForm;
     forms::MsgBox MsgBox;
 
     /// All screens in the order above.

@@ -44,6 +44,32 @@ struct LogEntry : Screen {
     SkinnedButton close1Button{*this, "close1Button", Kind::switchButton, "close_log", "bclose_regular"};
 };
 
+/// What the pilot has flown: sums, bars, the map of all routes, and other log books taken over.
+struct CareerForm : Screen {
+    CareerForm();
+    Container BG{*this, "BG"};
+    Label Label1{*this, "Label1", "Career"};
+    SkinnedButton copyButton{*this, "copyButton", Kind::FormButton, "career_copy", "csv_regular"};
+    SkinnedButton printButton{*this, "printButton", Kind::FormButton, "career_print", "paper_regular"};
+    SkinnedButton closeButton{*this, "closeButton", Kind::FormButton, "close_career", "close_regular"};
+    Label yearCaption{*this, "yearCaption", "Year"};
+    Combo yearCOMBO{*this, "yearCOMBO"};
+    Label aircraftCaption{*this, "aircraftCaption", "Aircraft"};
+    Combo aircraftCOMBO{*this, "aircraftCOMBO"};
+    Label airlineCaption{*this, "airlineCaption", "Airline"};
+    Combo airlineCOMBO{*this, "airlineCOMBO"};
+    ListView totals{*this, "totals", 208};
+    MapChart map{*this, "map"};
+    Chart bars{*this, "bars"};
+    Label hover_LABEL{*this, "hover_LABEL"};
+    Label sourceCaption{*this, "sourceCaption", "Log book of another program (its file)"};
+    TextBox sourceTEXT{*this, "sourceTEXT"};
+    PushButton importButton{*this, "importButton", "Look at it"};
+    PushButton takeButton{*this, "takeButton", "Take over"};
+    PushButton undoButton{*this, "undoButton", "Undo"};
+    Label preview_LABEL{*this, "preview_LABEL"};
+};
+
 struct ClockForm : Screen {
     ClockForm();
     Container BG{*this, "BG"};

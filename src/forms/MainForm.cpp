@@ -29,6 +29,8 @@ MainForm::MainForm() : Screen("MainForm", "Gatewise Terminal", 800, 600, "\\Imag
         "Enter a name, iata code, or icao code to use to search for the departure airport";
     enterButton.toolTip = "Press to search for the departure airport using the criteria in the input block";
     logcsvButton.toolTip = "Export the Log Book as CSV";
+    routesButton.toolTip = boardroutesButton.toolTip = "Map of all destinations";
+    careerButton.toolTip = "Hours, miles, routes and airports of the whole Log Book";
     logprintButton.toolTip = "Print this page of the Log Book";
     fltnum_LABEL(20).text = " FLIGHT";
     city_LABEL(20).text = " DEPARTING TO";

@@ -53,6 +53,7 @@ struct MainForm : Screen {
     Label arr_LABEL{*this, "arr_LABEL"};
     Label Label30{*this, "Label30", "Search For..."};
     TextBox arrSearch{*this, "arrSearch"};
+    SkinnedButton routesButton{*this, "routesButton", Kind::FormButton, "routes", "map_regular"};
     SkinnedButton arrivalButton{*this, "arrivalButton", Kind::switchButton, "arr", "arr_disabled", 0};
     Label Label13{*this, "Label13", "Alternate Airport (Optional)"};
     Label alt_LABEL{*this, "alt_LABEL"};
@@ -141,6 +142,8 @@ struct MainForm : Screen {
                                                      {"next", "next_regular", 1}});
     SkinnedButton logcsvButton{*this, "logcsvButton", Kind::FormButton, "log_csv", "csv_regular"};
     SkinnedButton logprintButton{*this, "logprintButton", Kind::FormButton, "log_print", "paper_regular"};
+    SkinnedButton careerButton{*this, "careerButton", Kind::FormButton, "career", "career_regular"};
+    SkinnedButton boardroutesButton{*this, "boardroutesButton", Kind::FormButton, "routes", "map_regular"};
     Timer GTclock_Timer{*this, "GTclock_Timer", 500};
     Timer timeCheck_Timer{*this, "timeCheck_Timer", 5000};
     Timer update_TIMER{*this, "update_TIMER", 60000};

@@ -18,4 +18,12 @@ FlightForm::FlightForm()
 InfoForm::InfoForm()
     : Screen("InfoForm", "Gatewise Terminal - Flight Information", 440, 340, "\\Images\\Info_BG.bmp") {}
 
+RoutesForm::RoutesForm()
+    : Screen("RoutesForm", "Gatewise Terminal - Routes", 620, 440, "\\Images\\Dispatch_BG.bmp") {
+    routesList.columns.push_back({"Destination", 0.46});
+    routesList.columns.push_back({"Miles", 0.18});
+    routesList.columns.push_back({"Flights", 0.18});
+    routesList.columns.push_back({"Next", 0.18});
+}
+
 } // namespace gatewise::forms

@@ -71,4 +71,15 @@ struct InfoForm : Screen {
     SkinnedButton closeButton{*this, "closeButton", Kind::switchButton, "close", "bclose_regular"};
 };
 
+/// All destinations of the departure airport on a map, and as a list.
+struct RoutesForm : Screen {
+    RoutesForm();
+    Container BG{*this, "BG"};
+    Label Label1{*this, "Label1", "Routes"};
+    SkinnedButton closeButton{*this, "closeButton", Kind::FormButton, "close_routes", "close_regular"};
+    MapChart map{*this, "map"};
+    Label hover_LABEL{*this, "hover_LABEL"};
+    ListView routesList{*this, "routesList", 588};
+};
+
 } // namespace gatewise::forms

@@ -28,7 +28,7 @@ struct PlanCharts : Screen {
     Label Label1{*this, "Label1", "Profile and Map"};
     SkinnedButton closeButton{*this, "closeButton", Kind::FormButton, "close_charts", "close_regular"};
     Chart profileChart{*this, "profileChart"};
-    Chart mapChart{*this, "mapChart"};
+    MapChart mapChart{*this, "mapChart"};
 };
 
 struct FlyForm : Screen {

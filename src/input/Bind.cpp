@@ -3,6 +3,7 @@
 #include "input/SkinnedButtons.h"
 #include "pages/BoardRows.h"
 #include "pages/BoardTimers.h"
+#include "pages/CareerForm.h"
 #include "pages/ClockForm.h"
 #include "pages/DirExportForm.h"
 #include "pages/DirForm.h"
@@ -22,6 +23,7 @@
 #include "pages/OptionsForm.h"
 #include "pages/PlanCharts.h"
 #include "pages/ProgramsForm.h"
+#include "pages/RoutesForm.h"
 #include "pages/SelectForm.h"
 #include "pages/SettingsForm.h"
 #include "pages/ViewPlan.h"
@@ -30,12 +32,12 @@
 namespace gatewise {
 
 void bindScreens(Program& p) {
-    for (auto* bind : {bindSkinnedButtons, bindMainForm,      bindMainTabs, bindMainData,   bindMainClocks,
-                       bindBoardTimers,    bindBoardRows,     bindMainLog,  bindSelectForm, bindFlightForm,
-                       bindInfoForm,       bindMsgForm,       bindMsgBox,   bindWaitForm,   bindSettingsForm,
-                       bindOptionsForm,    bindDirForm,       bindViewPlan, bindPlanCharts, bindExportForm,
-                       bindProgramsForm,   bindDirExportForm, bindFlyForm,  bindLogEntry,   bindClockForm,
-                       bindImportForm}) {
+    for (auto* bind : {bindSkinnedButtons, bindMainForm,      bindMainTabs,  bindMainData,   bindMainClocks,
+                       bindBoardTimers,    bindBoardRows,     bindMainLog,   bindSelectForm, bindFlightForm,
+                       bindInfoForm,       bindMsgForm,       bindMsgBox,    bindWaitForm,   bindSettingsForm,
+                       bindOptionsForm,    bindDirForm,       bindViewPlan,  bindPlanCharts, bindExportForm,
+                       bindProgramsForm,   bindDirExportForm, bindFlyForm,   bindLogEntry,   bindClockForm,
+                       bindImportForm,     bindRoutesForm,    bindCareerForm}) {
         bind(p);
     }
 }

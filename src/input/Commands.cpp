@@ -1,6 +1,7 @@
 #include "input/Commands.h"
 
 #include "input/Shutdown.h"
+#include "pages/CareerForm.h"
 #include "pages/ClockForm.h"
 #include "pages/DirExportForm.h"
 #include "pages/DirForm.h"
@@ -14,6 +15,7 @@
 #include "pages/OptionsForm.h"
 #include "pages/PlanCharts.h"
 #include "pages/ProgramsForm.h"
+#include "pages/RoutesForm.h"
 #include "pages/SaveSettings.h"
 #include "pages/SelectForm.h"
 #include "pages/ViewPlan.h"
@@ -94,7 +96,13 @@ constexpr Command kFormButton[] = {
     {"close_charts", hide<&Forms::PlanCharts>},
     {"close_programs", run<closePrograms>},
     {"close_import", run<closeImport>},
+    {"close_routes", hide<&Forms::RoutesForm>},
+    {"close_career", hide<&Forms::CareerForm>},
     {"charts", run<showCharts>},
+    {"routes", run<showRoutes>},
+    {"career", run<showCareer>},
+    {"career_copy", run<copyCareer>},
+    {"career_print", run<printCareer>},
     {"log_csv", run<exportLogBook>},
     {"log_print", run<printLogPage>},
     {"min", run<minimise>},

@@ -126,6 +126,16 @@ void widen(ListView& list, int column, int width) {
     if (list.enabled && column >= 0 && at < list.columns.size()) list.columns[at].width = std::max(width, 0);
 }
 
+bool pickOf(Chart& chart, int id) {
+    if (!chart.enabled || !chart.holds(id)) return false;
+    chart.fire(Event::Pick, {id, 0, 0, false});
+    return true;
+}
+
+void pointAt(Chart& chart, int id) {
+    if (chart.enabled) chart.fire(Event::Hover, {id, 0, 0, false});
+}
+
 void path(PathList& list, std::string path) {
     if (!list.enabled) return;
     list.path = std::move(path);

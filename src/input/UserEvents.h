@@ -30,6 +30,10 @@ void slide(RangeControl& control, int value);
 void column(ListView& list, int column);
 /// Drags the edge of a column's head to `width` pixels.
 void widen(ListView& list, int column, int width);
+/// A mark or route of a chart is picked by its id; false when nothing there has it.
+bool pickOf(Chart& chart, int id);
+/// The pointer stands on it, or with -1 on none.
+void pointAt(Chart& chart, int id);
 /// Moves a drive or folder list.
 void path(PathList& list, std::string path);
 

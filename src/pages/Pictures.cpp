@@ -67,6 +67,7 @@ void RefreshLogButtons(Program& p, std::string_view t) {
     refreshTopButtons(f);
     f.logcsvButton.picture = "csv_regular";
     f.logprintButton.picture = "paper_regular";
+    f.careerButton.picture = "career_regular";
     for (const auto& b : f.logButton) b->picture = byState(*b, b->button_type, t);
 }
 

@@ -1,5 +1,7 @@
 #include "pages/PlanCharts.h"
 
+#include "map/PlanMap.h"
+#include "pages/Maps.h"
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
 #include "pages/Screens.h"
@@ -8,11 +10,23 @@
 namespace gatewise {
 
 void drawCharts(Program& p) {
-    p.forms.PlanCharts.profileChart.drawing = profileDrawing(p.session.plan.plan);
-    p.forms.PlanCharts.mapChart.drawing = mapDrawing(p.session.plan.plan);
+    auto& f = p.forms.PlanCharts;
+    const Plan& plan = p.session.plan.plan;
+    f.profileChart.drawing = profileDrawing(plan);
+    f.profileChart.further = profileNotes(plan);
+    f.mapChart.drawing = mapDrawing(plan);
+    f.mapChart.scene = map::planScene(plan, f.mapChart.scene.land);
+    f.mapChart.further = wholeScene(f.mapChart);
+    markPoint(p);
+}
+
+void markPoint(Program& p) {
+    auto& f = p.forms.PlanCharts;
+    f.profileChart.chosen = f.mapChart.chosen = p.forms.ViewPlan.PlanList.picked;
 }
 
 void showCharts(Program& p) {
+    p.forms.PlanCharts.mapChart.scene.land = shownLand(p);
     drawCharts(p);
     showScreen(p, p.forms.PlanCharts);
 }
@@ -25,6 +39,12 @@ void bindPlanCharts(Program& p) {
         p.forms.PlanCharts.left = p.forms.ViewPlan.left + p.forms.ViewPlan.width;
         p.forms.PlanCharts.top = p.forms.ViewPlan.top;
     };
+    // A point picks its row of the list, and a row marks its point on both pictures.
+    for (Chart* chart : {static_cast<Chart*>(&charts.profileChart), static_cast<Chart*>(&charts.mapChart)})
+        chart->on(Event::Pick, [&p](const EventArgs& args) {
+            p.forms.ViewPlan.PlanList.select(args.value);
+            markPoint(p);
+        });
     charts.BG.on(Event::Move, [&charts] { restorePictures(charts); });
 }
 

@@ -7,6 +7,9 @@ namespace gatewise {
 /// The two drawings anew from the plan.
 void drawCharts(Program& p);
 
+/// The row picked in the plan's list stands out on both.
+void markPoint(Program& p);
+
 /// Profile and map beside the plan's list.
 void showCharts(Program& p);
 

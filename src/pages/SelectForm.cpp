@@ -12,6 +12,7 @@
 #include "selection/Nearest.h"
 #include "work/Departures.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace gatewise {
@@ -218,6 +219,18 @@ Waited acceptPick(Program& p) {
     const Waited answer = mode->accept(p);
     p.machine.desktop.setPointer(false);
     return answer;
+}
+
+Waited pickArrival(Program& p, int airport) {
+    auto& list = p.forms.SelectForm.List1;
+    loadScreen(p.forms.SelectForm);
+    p.session.dispatch.SelectMode = "arrival";
+    p.forms.MainForm.arrSearch.text.clear();
+    if (fillDestinations(p) == Waited::Ended) return Waited::Ended;
+    const auto at = std::find(list.itemData.begin(), list.itemData.end(), airport);
+    if (at == list.itemData.end()) return waited(p);
+    list.select(static_cast<int>(at - list.itemData.begin()));
+    return acceptPick(p);
 }
 
 void bindSelectForm(Program& p) {

@@ -13,6 +13,9 @@ Waited searchHome(Program& p);
 /// The picker in one of its modes, modal.
 Waited pick(Program& p, const char* mode);
 
+/// The picker's way for a destination that was picked elsewhere: an index of the airport table.
+Waited pickArrival(Program& p, int airport);
+
 /// The picker's answer: its button or a double click in its list.
 Waited acceptPick(Program& p);
 

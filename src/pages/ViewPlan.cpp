@@ -100,6 +100,7 @@ void bindViewPlan(Program& p) {
     f.activate = [&p] { CenterOnMain(p, p.forms.ViewPlan); };
     f.AltUpDown.on(Event::Change, [&f] { showAltitude(f, f.AltUpDown.value); });
     f.PlanList.on(Event::Column, [&f](const EventArgs& args) { f.PlanList.resetColumn(args.value); });
+    f.PlanList.on(Event::Click, [&p] { markPoint(p); });
     const auto rest = [&f] { restorePictures(f); };
     f.PlanList.on(Event::Move, rest);
     f.BG.on(Event::Move, rest);

@@ -85,17 +85,33 @@ std::string summaryOf(const Plan& plan) {
 
 } // namespace
 
+namespace {
+
+/// The sheet of a profile: its length in miles and the feet at its upper edge.
+struct ProfileSheet {
+    explicit ProfileSheet(const Plan& plan) : length(static_cast<double>(plan.totalDistance)) {
+        for (int i = 0; i <= plan.planLast; ++i) highest = std::max(highest, altitudeAt(plan, i));
+        highest *= 1.1;
+    }
+    [[nodiscard]] DrawingPoint operator()(double miles, double feet) const {
+        return {kLeft + (kRight - kLeft) * std::clamp(miles / length, 0.0, 1.0),
+                kBottom - (kBottom - kTop) * std::clamp(feet / highest, -0.05, 1.0)};
+    }
+    [[nodiscard]] DrawingPoint operator()(const Plan& plan, int i) const {
+        return (*this)(static_cast<double>(plan.at(i).pointTotalDistance), altitudeAt(plan, i));
+    }
+    double length;
+    double highest = 10000;
+};
+
+} // namespace
+
 Drawing profileDrawing(const Plan& plan) {
     Drawing out;
     if (!drawable(plan)) return out;
-    const double length = static_cast<double>(plan.totalDistance);
-    double highest = 10000;
-    for (int i = 0; i <= plan.planLast; ++i) highest = std::max(highest, altitudeAt(plan, i));
-    highest *= 1.1;
-    const auto place = [&](double miles, double feet) {
-        return DrawingPoint{kLeft + (kRight - kLeft) * std::clamp(miles / length, 0.0, 1.0),
-                            kBottom - (kBottom - kTop) * std::clamp(feet / highest, -0.05, 1.0)};
-    };
+    const ProfileSheet place(plan);
+    const double length = place.length;
+    const double highest = place.highest;
     const double feetStep = std::max(roundStep(highest, 5), 1000.0);
     for (double feet = 0; feet <= highest; feet += feetStep) {
         out.lines.push_back({{place(0, feet), place(length, feet)}, Tone::Grid});
@@ -107,13 +123,87 @@ Drawing profileDrawing(const Plan& plan) {
     }
     DrawingLine profile{{}, Tone::Route};
     for (int i = 0; i <= plan.planLast; ++i) {
-        profile.points.push_back(
-            place(static_cast<double>(plan.at(i).pointTotalDistance), altitudeAt(plan, i)));
+        profile.points.push_back(place(plan, i));
     }
     const auto points = profile.points;
     out.lines.push_back(std::move(profile));
     addMarks(out, plan, [&](int i) { return points[static_cast<std::size_t>(i)]; });
     out.summary = "Vertical profile, " + summaryOf(plan);
+    return out;
+}
+
+namespace {
+
+constexpr int kTimeSteps[] = {5, 10, 15, 30, 60, 120, 180}; // minutes
+constexpr int kMostTimes = 8;
+constexpr int kLongest = 48 * 60;     // minutes of a flight, beyond which no time stands there
+constexpr double kLongLevel = 0.12;   // share of the way that a level with a word of its own lasts
+constexpr double kTimesAt = kTop / 2; // height of the times on the sheet
+
+std::string timeText(int minutes) {
+    return std::to_string(minutes / 60) + ":" + formatInteger("00", minutes % 60);
+}
+
+/// "BDR, 17000 ft, 0:13"
+std::string wordsOf(const PlanPoint& point) {
+    return std::string(point.pointName.trimmed()) + ", " + std::to_string(point.pointAltitude) + " ft, " +
+           timeText(std::max<int>(point.pointMinutes, 0));
+}
+
+/// The way flown after so many minutes, between the points that have a time.
+double milesAt(const Plan& plan, int minutes) {
+    for (int i = 1; i <= plan.planLast; ++i) {
+        const PlanPoint& from = plan.at(i - 1);
+        const PlanPoint& to = plan.at(i);
+        if (to.pointMinutes < minutes || to.pointMinutes <= from.pointMinutes) continue;
+        const double share = static_cast<double>(minutes - from.pointMinutes) /
+                             static_cast<double>(to.pointMinutes - from.pointMinutes);
+        return static_cast<double>(from.pointTotalDistance) +
+               std::clamp(share, 0.0, 1.0) *
+                   static_cast<double>(to.pointTotalDistance - from.pointTotalDistance);
+    }
+    return static_cast<double>(plan.totalDistance);
+}
+
+/// Hours and minutes along the upper edge.
+void addTimes(Drawing& out, const Plan& plan, const ProfileSheet& place) {
+    const int last = plan.at(plan.planLast).pointMinutes;
+    if (last < 1 || last > kLongest) return;
+    const int* step = std::find_if(std::begin(kTimeSteps), std::end(kTimeSteps) - 1,
+                                   [&](int s) { return last / s <= kMostTimes; });
+    for (int minutes = *step; minutes <= last; minutes += *step) {
+        const double x = place(milesAt(plan, minutes), 0).x;
+        out.lines.push_back({{{x, kTop}, {x, kTop + 0.02}}, Tone::Level});
+        out.texts.push_back({{x, kTimesAt}, timeText(minutes), false, Tone::Level});
+    }
+}
+
+/// The level that is held between two points, once for each.
+void addLevels(Drawing& out, const Plan& plan, const ProfileSheet& place) {
+    int said = -1;
+    for (int i = 2; i < plan.planLast; ++i) {
+        const PlanPoint& from = plan.at(i - 1);
+        const PlanPoint& to = plan.at(i);
+        const double length = static_cast<double>(to.pointTotalDistance - from.pointTotalDistance);
+        if (from.pointAltitude != to.pointAltitude || to.pointAltitude == said) continue;
+        if (!(length > kLongLevel * place.length)) continue;
+        said = to.pointAltitude;
+        const DrawingPoint at = place(static_cast<double>(from.pointTotalDistance) + length / 2, said);
+        out.texts.push_back(
+            {{at.x, at.y + 0.07}, "FL" + formatInteger("000", said / 100), false, Tone::Level});
+    }
+}
+
+} // namespace
+
+Drawing profileNotes(const Plan& plan) {
+    Drawing out;
+    if (!drawable(plan)) return out;
+    const ProfileSheet place(plan);
+    addLevels(out, plan, place);
+    addTimes(out, plan, place);
+    for (int i = 0; i <= plan.planLast; ++i)
+        out.marks.push_back({place(plan, i), toneOf(plan, i), "", i, wordsOf(plan.at(i))});
     return out;
 }
 

@@ -11,6 +11,10 @@ namespace gatewise {
 /// length.
 Drawing profileDrawing(const Plan& plan);
 
+/// What stands upon the profile besides: the levels that are held, the time above, every point as a mark with
+/// its index as id and its name, altitude and time as words. Empty where the profile is.
+Drawing profileNotes(const Plan& plan);
+
 /// The route on a map around its middle, distances from there true in every direction, north up: legs as
 /// great circles, fixes, tops and steps over a grid of degrees. Empty for a plan without length.
 Drawing mapDrawing(const Plan& plan);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "board/Clock.h"
+#include "session/CareerDesk.h"
 #include "session/Desk.h"
 #include "session/Dispatch.h"
 #include "session/Hall.h"
@@ -29,6 +30,7 @@ struct Session {
     PlanDesk plan;
     SimulatorHandOff simulator;
     LogDesk log;
+    CareerDesk career;
     Hall hall;
     LocaleSigns locale;
     Desk desk;

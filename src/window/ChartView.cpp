@@ -9,6 +9,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <optional>
 #include <vector>
@@ -32,6 +33,19 @@ const ToneLook& look(Tone tone) {
         {Tone::Fix, QColor(0xA6, 0xB6, 0xC4), QColor(0x50, 0x50, 0x50), 1, 2.5},
         {Tone::Top, QColor(0x00, 0xFF, 0xFF), QColor(0, 0, 0), 1, 4},
         {Tone::Step, QColor(0x00, 0xFF, 0x00), QColor(0x20, 0x20, 0x20), 1, 3},
+        {Tone::Water, QColor(0x0A, 0x0D, 0x10), QColor(0xFF, 0xFF, 0xFF), 0, 0},
+        {Tone::Land, QColor(0x1B, 0x21, 0x27), QColor(0xEE, 0xEE, 0xEE), 0, 0},
+        {Tone::Coast, QColor(0x4A, 0x57, 0x63), QColor(0x99, 0x99, 0x99), 1, 0},
+        {Tone::Border, QColor(0x33, 0x3D, 0x46), QColor(0xBB, 0xBB, 0xBB), 1, 0},
+        {Tone::Vor, QColor(0xA6, 0xB6, 0xC4), QColor(0x40, 0x40, 0x40), 1, 4},
+        {Tone::Ndb, QColor(0xA6, 0xB6, 0xC4), QColor(0x40, 0x40, 0x40), 1, 4},
+        {Tone::Alternate, QColor(0xC5, 0xD0, 0xDA), QColor(0x60, 0x60, 0x60), 1, 4},
+        {Tone::Flight, QColor(0x00, 0xA4, 0xAE), QColor(0x30, 0x30, 0x30), 1, 3},
+        {Tone::Other, QColor(0x56, 0x63, 0x6F), QColor(0x99, 0x99, 0x99), 1, 2.5},
+        {Tone::Runway, QColor(0xFF, 0xFF, 0xFF), QColor(0, 0, 0), 3, 0},
+        {Tone::Chosen, QColor(0xFF, 0xFF, 0xFF), QColor(0, 0, 0), 2.5, 6},
+        {Tone::Level, QColor(0xA6, 0xB6, 0xC4), QColor(0x40, 0x40, 0x40), 1, 0},
+        {Tone::Bar, QColor(0x0E, 0x5A, 0x63), QColor(0x80, 0x80, 0x80), 1, 0},
     };
     for (const auto& row : kLooks) {
         if (row.tone == tone) return row;
@@ -110,12 +124,51 @@ private:
 void drawMark(QPainter& painter, const QPointF& at, Tone kind, double radius, const QColor& ink) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(ink);
-    if (kind == Tone::Top || kind == Tone::Step) {
+    if (kind == Tone::Vor) {
+        // The six corners of its symbol on a chart, the point in the middle of them.
+        QPolygonF corners;
+        for (int i = 0; i < 6; ++i)
+            corners << at + QPointF(radius * std::cos(i * M_PI / 3), radius * std::sin(i * M_PI / 3));
+        painter.setPen(QPen(ink, 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawPolygon(corners);
+        painter.drawPoint(at);
+    } else if (kind == Tone::Ndb) {
+        painter.setPen(QPen(ink, 1, Qt::DotLine));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(at, radius, radius);
+        painter.drawPoint(at);
+    } else if (kind == Tone::Chosen) {
+        // A ring around the point, so that what stands there is seen.
+        painter.setPen(QPen(ink, radius / 3));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawEllipse(at, radius, radius);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ink);
+        painter.drawEllipse(at, radius / 3, radius / 3);
+    } else if (kind == Tone::Top || kind == Tone::Step) {
         painter.drawPolygon(QPolygonF({at + QPointF(0, -radius), at + QPointF(radius, 0),
                                        at + QPointF(0, radius), at + QPointF(-radius, 0)}));
     } else {
         painter.drawEllipse(at, radius, radius);
     }
+}
+
+template<class Place> void drawAreas(QPainter& painter, const Drawing& drawing, Place place, bool paper) {
+    painter.setPen(Qt::NoPen);
+    painter.setRenderHint(QPainter::Antialiasing, paper);
+    for (const auto& area : drawing.areas) {
+        QPainterPath path;
+        path.setFillRule(Qt::OddEvenFill);
+        for (const auto& ring : area.rings) {
+            QPolygonF points;
+            points.reserve(static_cast<qsizetype>(ring.size()));
+            for (const auto& p : ring) points << place(p);
+            path.addPolygon(points);
+        }
+        painter.fillPath(path, paper ? look(area.tone).paper : look(area.tone).screen);
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
 }
 
 } // namespace
@@ -139,18 +192,25 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
     painter.setFont(font);
     const QFontMetricsF metrics(font, painter.device());
     Words words(box, metrics, pixel);
+    drawAreas(painter, drawing, place, paper);
     for (const auto& line : drawing.lines) {
         const ToneLook& tone = look(line.tone);
-        QPen pen(paper ? tone.paper : tone.screen, tone.width * pixel);
+        QPen pen(paper ? tone.paper : tone.screen, (line.width > 0 ? line.width : tone.width) * pixel);
         pen.setJoinStyle(Qt::RoundJoin);
+        if (line.tone == Tone::Alternate) pen.setStyle(Qt::DashLine);
+        // The many lines of the ground are drawn without smoothing on the screen: a frame has 16 ms for them.
+        const bool ground = line.tone == Tone::Coast || line.tone == Tone::Border || line.tone == Tone::Grid;
+        painter.setRenderHint(QPainter::Antialiasing, paper || !ground || !drawing.worded);
         painter.setPen(pen);
         QPolygonF points;
         for (const auto& p : line.points) points << place(p);
         painter.drawPolyline(points);
         if (line.tone == Tone::Route) words.keepOff(points);
     }
-    painter.setPen(paper ? QColor(0x40, 0x40, 0x40) : QColor(0xA6, 0xB6, 0xC4));
+    painter.setRenderHint(QPainter::Antialiasing);
     for (const auto& word : drawing.texts) {
+        const ToneLook& tone = look(word.tone == Tone::Grid ? Tone::Level : word.tone);
+        painter.setPen(paper ? tone.paper : tone.screen);
         const QString text = toQt(word.text);
         QPointF at = place(word.at);
         at.ry() += metrics.ascent() * 0.36;
@@ -170,6 +230,7 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
         words.keepOff(QRectF(at.x() - radius, at.y() - radius, 2 * radius, 2 * radius));
     }
     for (const auto& mark : drawing.marks) {
+        if (drawing.worded) break;
         const ToneLook& tone = look(mark.tone);
         const QString word = toQt(mark.label);
         const auto at = words.place(place(mark.at), tone.radius * pixel, word);
@@ -182,22 +243,17 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
 
 void ChartView::sync() {
     syncCommon();
-    const Drawing& now = chart().drawing;
+    Drawing now = chart().whole();
     if (now == shown_) return;
-    shown_ = now;
+    shown_ = std::move(now);
     update();
-}
-
-QString ChartView::spokenName() const {
-    const QString words = toQt(chart().drawing.summary);
-    return words.isEmpty() ? View::spokenName() : words;
 }
 
 void ChartView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     drawWell(painter, rect().adjusted(0, 0, 0, -1), QColor(0x05, 0x07, 0x09), kSocket,
              QColor(0x39, 0x43, 0x4D));
-    drawDrawing(painter, QRectF(rect()).adjusted(2, 2, -2, -3), shown_, actor_.skin().text("caption").font);
+    drawDrawing(painter, sheet(), shown_, actor_.skin().text("caption").font);
 }
 
 } // namespace gatewise::window

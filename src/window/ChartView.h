@@ -1,6 +1,6 @@
 #pragma once
 
-#include "window/View.h"
+#include "window/PickView.h"
 
 namespace gatewise::window {
 
@@ -13,19 +13,18 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
                  double point = 0);
 
 /// A drawing of the program's own data on black glass.
-class ChartView : public PaintedView {
+class ChartView : public PickView {
     Q_OBJECT
 public:
-    using PaintedView::PaintedView;
+    using PickView::PickView;
     void sync() override;
-    [[nodiscard]] QString spokenName() const override;
-    [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Chart; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    [[nodiscard]] const Drawing& painted() const override { return shown_; }
+    [[nodiscard]] QRectF sheet() const override { return QRectF(rect()).adjusted(2, 2, -2, -3); }
 
 private:
-    [[nodiscard]] const Chart& chart() const { return static_cast<const Chart&>(*control); }
     Drawing shown_;
 };
 

@@ -4,6 +4,7 @@
 #include "window/ChartView.h"
 #include "window/Choices.h"
 #include "window/Fields.h"
+#include "window/MapView.h"
 #include "window/PaintedViews.h"
 #include "window/Rows.h"
 
@@ -47,6 +48,7 @@ View* make(Actor& actor, Control* control, const ControlLayout& place, QWidget* 
         if (place.multiline) return new NotesView(actor, control, place, parent);
         return new LineView(actor, control, place, parent);
     }
+    if (dynamic_cast<MapChart*>(control) != nullptr) return new MapView(actor, control, place, parent);
     for (const auto& row : kKinds) {
         if (row.kind == control->kind) return row.make(actor, control, place, parent);
     }

@@ -11,12 +11,20 @@ namespace {
 using Events = StageTest;
 
 constexpr std::pair<Event, const char*> kEvents[] = {
-    {Event::Click, "Click"},           {Event::DoubleClick, "DoubleClick"},
-    {Event::Press, "Press"},           {Event::Release, "Release"},
-    {Event::RightPress, "RightPress"}, {Event::Move, "Move"},
-    {Event::Focus, "Focus"},           {Event::Enter, "Enter"},
-    {Event::Space, "Space"},           {Event::Change, "Change"},
-    {Event::Column, "Column"},         {Event::Tick, "Tick"},
+    {Event::Click, "Click"},
+    {Event::DoubleClick, "DoubleClick"},
+    {Event::Press, "Press"},
+    {Event::Release, "Release"},
+    {Event::RightPress, "RightPress"},
+    {Event::Move, "Move"},
+    {Event::Focus, "Focus"},
+    {Event::Enter, "Enter"},
+    {Event::Space, "Space"},
+    {Event::Change, "Change"},
+    {Event::Column, "Column"},
+    {Event::Tick, "Tick"},
+    {Event::Pick, "Pick"},
+    {Event::Hover, "Hover"},
 };
 
 bool emits(const window::View& view, Event event) {

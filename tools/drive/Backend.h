@@ -35,7 +35,10 @@ public:
     virtual void key(Control& control, Key key, int repeats) = 0;
     virtual void escape(Screen& screen) = 0;
     virtual void type(TextBox& box, std::string text) = 0;
+    /// A row or item, or what has that id of a chart.
     virtual void choose(Control& list, int place) = 0;
+    /// The mouse over what has that id of a chart, with -1 beside all of it.
+    virtual void hover(Chart& chart, int id) = 0;
     virtual void check(Control& box, int value) = 0;
     virtual void slide(RangeControl& range, int value) = 0;
     virtual void column(ListView& list, int column) = 0;

@@ -23,6 +23,9 @@ inline bool isKind(const Control& c, const Option*) {
 inline bool isKind(const Control& c, const ListView*) {
     return c.kind == Kind::ListView;
 }
+inline bool isKind(const Control& c, const Chart*) {
+    return c.kind == Kind::Chart;
+}
 inline bool isKind(const Control& c, const Timer*) {
     return c.kind == Kind::Timer;
 }

@@ -55,6 +55,13 @@ void writePoint(JsonWriter& json, const DrawingPoint& point) {
     json.endArray();
 }
 
+/// What can be picked tells by which number.
+void writeId(JsonWriter& json, int id) {
+    if (id < 0) return;
+    json.key("id");
+    json.integer(id);
+}
+
 void writeLine(JsonWriter& json, const DrawingLine& line) {
     json.key("tone");
     json.text(nameOf(line.tone));
@@ -66,6 +73,7 @@ void writeLine(JsonWriter& json, const DrawingLine& line) {
         json.key("width");
         json.number(line.width);
     }
+    writeId(json, line.id);
 }
 
 void writeMark(JsonWriter& json, const DrawingMark& mark) {
@@ -75,6 +83,10 @@ void writeMark(JsonWriter& json, const DrawingMark& mark) {
     json.text(mark.label);
     json.key("at");
     writePoint(json, mark.at);
+    writeId(json, mark.id);
+    if (mark.words.empty()) return;
+    json.key("words");
+    json.text(mark.words);
 }
 
 void writeWords(JsonWriter& json, const DrawingText& words) {

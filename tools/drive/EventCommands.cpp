@@ -2,6 +2,7 @@
 #include "drive/Controls.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace gatewise::drive {
 
@@ -116,13 +117,37 @@ Outcome type(Session& session, std::string_view rest) {
     return kDone;
 }
 
+bool isMark(const Control& chart, std::optional<long long> id) {
+    return id && *id >= 0 && *id <= std::numeric_limits<int>::max() &&
+           static_cast<const Chart&>(chart).holds(static_cast<int>(*id));
+}
+
+Outcome chooseMark(Session& session, Control& chart, std::optional<long long> id, std::string_view word) {
+    if (!isMark(chart, id)) return noSuch("mark", word);
+    session.backend().choose(chart, static_cast<int>(*id));
+    return kDone;
+}
+
+Outcome hover(Session& session, std::string_view rest) {
+    Control* control = nullptr;
+    if (Outcome refused = reach(session, rest, control)) return refused;
+    auto* chart = controlAs<Chart>(control);
+    if (chart == nullptr) return control->fullName() + " is no chart or map";
+    const auto id = integerArgument(rest);
+    if (id != -1 && !isMark(*chart, id)) return noSuch("mark", rest);
+    session.backend().hover(*chart, static_cast<int>(*id));
+    return kDone;
+}
+
 Outcome choose(Session& session, std::string_view rest) {
     Control* control = nullptr;
     if (Outcome refused = reach(session, rest, control)) return refused;
     const auto* list = controlAs<ItemControl>(control);
     const auto* view = controlAs<ListView>(control);
-    if (list == nullptr && view == nullptr) return control->fullName() + " is no list";
+    const auto* chart = controlAs<Chart>(control);
+    if (list == nullptr && view == nullptr && chart == nullptr) return control->fullName() + " is no list";
     const auto place = integerArgument(rest);
+    if (chart != nullptr) return chooseMark(session, *control, place, rest);
     const long long count = list != nullptr ? list->count() : static_cast<long long>(view->rows.size());
     if (!place || *place < 0 || *place >= count) return noSuch("item", rest);
     session.backend().choose(*control, static_cast<int>(*place));
@@ -188,7 +213,8 @@ constexpr Command kEventCommands[] = {
     {"key", "C enter|space|escape [held N]",
      "a key in a control, held down for N repeats; escape also in a screen", key},
     {"type", "C TEXT", "the text of a text box is replaced by typing", type},
-    {"choose", "C N", "picks item or row N, from 0", choose},
+    {"choose", "C N", "picks item or row N, from 0; of a chart or map what has the id N", choose},
+    {"hover", "C N", "the mouse rests on what has the id N of a chart or map; -1: beside all", hover},
     {"check", "C V", "sets a check box (0, 1) or an option box (1)", check},
     {"slide", "C V", "sets a slider or up-down control", slide},
     {"column", "C N", "clicks the head of column N, from 0", column},

@@ -78,7 +78,14 @@ void FormBackend::type(TextBox& box, std::string text) {
 }
 
 void FormBackend::choose(Control& list, int place) {
-    user::choose(list, place);
+    if (list.kind == Kind::Chart)
+        user::pickOf(static_cast<Chart&>(list), place);
+    else
+        user::choose(list, place);
+}
+
+void FormBackend::hover(Chart& chart, int id) {
+    user::pointAt(chart, id);
 }
 
 void FormBackend::check(Control& box, int value) {

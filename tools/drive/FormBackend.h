@@ -28,6 +28,7 @@ public:
     void escape(Screen& screen) override;
     void type(TextBox& box, std::string text) override;
     void choose(Control& list, int place) override;
+    void hover(Chart& chart, int id) override;
     void check(Control& box, int value) override;
     void slide(RangeControl& range, int value) override;
     void column(ListView& list, int column) override;

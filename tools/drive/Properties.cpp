@@ -120,7 +120,11 @@ constexpr Property kRange[] = {
     {"min", field<&RangeControl::min>},
     {"max", field<&RangeControl::max>},
 };
-constexpr Property kChart[] = {{"drawing", field<&Chart::drawing>, false}};
+constexpr Property kChart[] = {
+    {"drawing", field<&Chart::drawing>, false},
+    {"further", field<&Chart::further>, false},
+    {"chosen", field<&Chart::chosen>, false},
+};
 constexpr Property kFlightInfo[] = {
     {"State", field<&forms::FlightInfo::State>},
     {"pointer", field<&forms::FlightInfo::pointer>},

@@ -5,6 +5,7 @@
 #include "gtwindow/Lists.h"
 #include "gtwindow/Ranges.h"
 #include "input/UserEvents.h"
+#include "window/PickView.h"
 #include "window/QtText.h"
 
 #include <QApplication>
@@ -155,8 +156,23 @@ void WindowBackend::type(TextBox& box, std::string text) {
         Keyboard::type(window::toQt(text));
 }
 
+/// The point of a chart that shows what has that id.
+std::optional<Spot> WindowBackend::spotOf(const Control& chart, int id) {
+    auto* view = dynamic_cast<window::PickView*>(pointer_.viewOf(chart));
+    if (view == nullptr) return std::nullopt;
+    const auto at = view->pointOf(id);
+    return at ? pointer_.reach(chart, *view->widget(), QRect(*at, QSize(1, 1))) : std::nullopt;
+}
+
+void WindowBackend::hover(Chart& chart, int id) {
+    const auto spot = id < 0 ? pointer_.reach(*chart.screen->controls.front()) : spotOf(chart, id);
+    if (spot) pointer_.move(*spot);
+}
+
 void WindowBackend::choose(Control& list, int place) {
-    if (isRows(list))
+    if (list.kind == Kind::Chart) {
+        if (const auto spot = spotOf(list, place)) pointer_.click(*spot);
+    } else if (isRows(list))
         chooseRow(pointer_, list, place);
     else
         chooseItem(pointer_, list, place);

@@ -39,6 +39,7 @@ public:
     void escape(Screen& screen) override;
     void type(TextBox& box, std::string text) override;
     void choose(Control& list, int place) override;
+    void hover(Chart& chart, int id) override;
     void check(Control& box, int value) override;
     void slide(RangeControl& range, int value) override;
     void column(ListView& list, int column) override;
@@ -54,6 +55,7 @@ protected:
 
 private:
     [[nodiscard]] std::optional<Spot> spotOf(const Control& control);
+    [[nodiscard]] std::optional<Spot> spotOf(const Control& chart, int id);
     static void answerDialog(QDialog& dialog);
     Q_INVOKABLE void openHelp(const QUrl& page);
 

@@ -1,0 +1,27 @@
+#include "pages/Maps.h"
+
+#include "map/LandData.h"
+#include "map/MapDrawing.h"
+
+namespace gatewise {
+
+std::shared_ptr<const map::Land> shownLand(const Program& p) {
+    return map::readLand(p.session.appPath("\\Images\\land.bin"));
+}
+
+Drawing wholeScene(const MapChart& chart) {
+    MapScene bare = chart.scene;
+    bare.land = nullptr;
+    if (bare.places.empty()) return {};
+    const map::Sheet sheet;
+    return drawMap(bare, fitted(bare, sheet.size), sheet);
+}
+
+void setScene(MapChart& chart, MapScene scene) {
+    chart.scene = std::move(scene);
+    chart.chosen = -1;
+    chart.drawing = wholeScene(chart);
+    chart.drawing.summary = chart.scene.summary;
+}
+
+} // namespace gatewise

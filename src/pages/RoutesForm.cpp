@@ -1,0 +1,92 @@
+#include "pages/RoutesForm.h"
+
+#include "map/RoutesMap.h"
+#include "pages/Maps.h"
+#include "pages/Pictures.h"
+#include "pages/Placement.h"
+#include "pages/SelectForm.h"
+#include "platform/Numbers.h"
+
+#include <charconv>
+
+namespace gatewise {
+
+namespace {
+
+int numberOf(const std::string& text) {
+    int value = 0;
+    std::from_chars(text.data(), text.data() + text.size(), value);
+    return value;
+}
+
+std::vector<map::Destination> destinations(const Program& p) {
+    const auto& f = p.forms.MainForm;
+    const map::RoutesFilter filter{f.dayCombo.data(), p.session.board.BoardAirlineCode.view(),
+                                   numberOf(f.gt_hoursLABEL.text) * 100 + numberOf(f.gt_minutesLABEL.text)};
+    return map::destinationsOf(p.session.schedule.tables, p.session.schedule.DepartureFlights, filter);
+}
+
+std::string nextText(const map::Destination& d) {
+    if (d.next < 0) return "-";
+    return formatInteger("00", d.next / 100) + ":" + formatInteger("00", d.next % 100);
+}
+
+void fillRoutes(Program& p) {
+    auto& f = p.forms.RoutesForm;
+    const auto list = destinations(p);
+    f.map.chosen = -1;
+    setScene(f.map, map::routesScene(p.session.schedule.tables, p.session.dispatch.DepartureIndex, list,
+                                     shownLand(p)));
+    f.hover_LABEL.text = f.map.scene.summary;
+    f.routesList.clear();
+    for (const auto& d : list) {
+        f.routesList.rows.push_back(
+            {std::to_string(d.airport),
+             {" " + d.city, std::to_string(d.miles), std::to_string(d.flights), nextText(d)},
+             false});
+    }
+}
+
+void choose(forms::RoutesForm& f, int row) {
+    f.map.chosen = row;
+    const auto& routes = f.map.scene.routes;
+    f.hover_LABEL.text = f.map.scene.summary;
+    for (const auto& route : routes) {
+        if (route.id == row && row >= 0) f.hover_LABEL.text = route.words;
+    }
+}
+
+Waited take(Program& p, int row) {
+    auto& f = p.forms.RoutesForm;
+    if (row < 0 || row >= static_cast<int>(f.routesList.rows.size())) return waited(p);
+    const int airport = numberOf(f.routesList.rows[static_cast<std::size_t>(row)].key);
+    hideScreen(p, f);
+    return pickArrival(p, airport);
+}
+
+} // namespace
+
+void showRoutes(Program& p) {
+    if (p.session.schedule.DepartureFlights.empty()) return;
+    fillRoutes(p);
+    showScreen(p, p.forms.RoutesForm);
+}
+
+void bindRoutesForm(Program& p) {
+    auto& f = p.forms.RoutesForm;
+    f.load = [&p] {
+        placeScreen(p, p.forms.RoutesForm);
+        for (int i = 0; i < static_cast<int>(p.forms.RoutesForm.routesList.columns.size()); ++i)
+            p.forms.RoutesForm.routesList.resetColumn(i);
+    };
+    f.activate = [&p] { CenterOnMain(p, p.forms.RoutesForm); };
+    f.map.on(Event::Pick, [&p](const EventArgs& args) { return take(p, args.value); });
+    f.map.on(Event::Hover, [&f](const EventArgs& args) { choose(f, args.value); });
+    f.routesList.on(Event::Click, [&f] { choose(f, f.routesList.picked); });
+    f.routesList.on(Event::DoubleClick, [&p, &f] { return take(p, f.routesList.picked); });
+    f.routesList.on(Event::Enter, [&p, &f] { return take(p, f.routesList.picked); });
+    f.routesList.on(Event::Column, [&f](const EventArgs& args) { f.routesList.resetColumn(args.value); });
+    f.BG.on(Event::Move, [&f] { restorePictures(f); });
+}
+
+} // namespace gatewise

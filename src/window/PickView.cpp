@@ -1,0 +1,87 @@
+#include "window/PickView.h"
+
+#include "input/UserEvents.h"
+#include "map/MapDrawing.h"
+#include "window/QtText.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QToolTip>
+
+namespace gatewise::window {
+
+namespace {
+
+constexpr double kNear = 8; // pixels from the pointer to what it means
+constexpr Event kEvents[] = {Event::Pick, Event::Hover};
+
+} // namespace
+
+QString PickView::spokenName() const {
+    const QString words = toQt(painted().summary);
+    return words.isEmpty() ? View::spokenName() : words;
+}
+
+std::span<const Event> PickView::emits() const {
+    return kEvents;
+}
+
+PickView::Under PickView::under(QPointF at) const {
+    const QPointF p = inSheet(at);
+    const DrawingPoint point{p.x() / size().width, p.y() / size().height};
+    if (const auto* mark = map::markNear(painted(), size(), point, kNear))
+        return {mark->id, toQt(mark->words)};
+    if (const auto* line = map::lineNear(painted(), size(), point, kNear / 2)) return {line->id, {}};
+    return {};
+}
+
+std::optional<QPoint> PickView::pointOf(int id) const {
+    const QRectF box = sheet();
+    for (const auto& mark : painted().marks) {
+        const QPoint at =
+            (box.topLeft() + QPointF(mark.at.x * box.width(), mark.at.y * box.height())).toPoint();
+        if (mark.id == id && under(at).id == id) return at;
+    }
+    return std::nullopt;
+}
+
+void PickView::pointAt(int id) {
+    if (id == pointed_) return;
+    pointed_ = id;
+    setCursor(id >= 0 && control->handles(Event::Pick) ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    if (control->handles(Event::Hover)) actor_.act([&] { user::pointAt(chart(), id); });
+}
+
+void PickView::pickAt(QPointF at) {
+    const int id = under(at).id;
+    if (id >= 0 && control->handles(Event::Pick)) actor_.act([&] { user::pickOf(chart(), id); });
+}
+
+bool PickView::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return PaintedView::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(), under(help->pos()).words, this);
+    return true;
+}
+
+void PickView::mousePressEvent(QMouseEvent* event) {
+    held_ = event->button() == Qt::LeftButton && under(event->position()).id >= 0;
+    if (!held_) event->ignore(); // the ground below drags the window
+}
+
+void PickView::mouseReleaseEvent(QMouseEvent* event) {
+    if (!held_ || event->button() != Qt::LeftButton) return event->ignore();
+    held_ = false;
+    pickAt(event->position());
+}
+
+void PickView::mouseMoveEvent(QMouseEvent* event) {
+    if (event->buttons().testFlag(Qt::LeftButton)) return event->ignore();
+    pointAt(under(event->position()).id);
+}
+
+void PickView::leaveEvent(QEvent*) {
+    pointAt(-1);
+}
+
+} // namespace gatewise::window
