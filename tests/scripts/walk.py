@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """Random walks of a person through the real window.
 
-walk.py GTWINDOW PROGRAM_FOLDER WALKS EVENTS
+walk.py GTWINDOW PROGRAM_FOLDER WALKS EVENTS [FIRST]
 
-Each walk plays so many events at controls in sight, drawn from its own number, and looks at the screen in front after
-every tenth. Fails when the window shows something else than its form holds, when the tool ends badly, or when a walk
+Each walk plays so many events at controls in sight, drawn from its own number (from FIRST on, else from 1), and looks
+at the screen in front after every tenth. Fails when the window shows something else than its form holds, when the tool ends badly, or when a walk
 of many events holds ever more memory. Prints events a second.
 """
 
@@ -18,6 +18,7 @@ import tempfile
 import time
 
 LOOK = 10  # events between two looks
+NEVER_WRITTEN = ("Images", "Fonts", "help")  # folders of the program that a walk only reads
 
 
 class Desk:
@@ -26,7 +27,10 @@ class Desk:
     def __init__(self, tool, program, scratch):
         folder = os.path.join(scratch, "Gatewise")
         shutil.rmtree(folder, ignore_errors=True)
-        shutil.copytree(program, folder, symlinks=True)
+        shutil.copytree(program, folder, symlinks=True, ignore=shutil.ignore_patterns(*NEVER_WRITTEN))
+        for name in NEVER_WRITTEN:
+            if os.path.isdir(os.path.join(program, name)):
+                os.symlink(os.path.abspath(os.path.join(program, name)), os.path.join(folder, name))
         self.tool = subprocess.Popen([tool, folder], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True, encoding="utf-8")
         self.ended = False
         self.said = []
@@ -105,7 +109,9 @@ def main():
     tool, program = sys.argv[1:3]
     walks, events = map(int, sys.argv[3:5])
     begun = time.perf_counter()
-    for number in range(1, walks + 1):
+    first = int(sys.argv[5]) if len(sys.argv) > 5 else 1
+    for number in range(first, first + walks):
+        print(f"walk {number}", file=sys.stderr)
         memory = walk(tool, program, number, events)
         if memory and memory[1] > memory[0] * 1.5 + 20:
             sys.exit(f"walk {number} holds {memory[0]:.0f} MB in the middle and {memory[1]:.0f} MB at the end")

@@ -77,13 +77,24 @@ Words picture(const Look& look, const std::string& tail) {
     return "picture is not " + tail;
 }
 
+/// A key that is off looks off, whatever picture its form was left with.
+std::string offName(const Look& look, const std::string& stem, const std::string& name) {
+    const std::string key = name.substr(0, name.rfind('_'));
+    for (const char* end : {"_disabled", "_dis"}) {
+        if (!look.desk.skin().picture(stem + key + end + ".bmp", 1).isNull()) return key + end;
+    }
+    return name;
+}
+
 Words button(const Look& look) {
     const auto& button = static_cast<const SkinnedButton&>(look.control);
     const char* folder = look.control.kind == Kind::FlatButton    ? "Menu"
                          : look.control.kind == Kind::FormButton  ? "Main"
                          : look.control.kind == Kind::boardButton ? "Status"
                                                                   : "Buttons";
-    return picture(look, "\\Images\\" + std::string(folder) + "\\" + button.picture + ".bmp");
+    const std::string stem = "\\Images\\" + std::string(folder) + "\\";
+    const bool off = button.hasState() && button.State == 0;
+    return picture(look, stem + (off ? offName(look, stem, button.picture) : button.picture) + ".bmp");
 }
 
 Words pictureBox(const Look& look) {

@@ -37,12 +37,24 @@ bool showsWindows() {
     return QGuiApplication::platformName() == "offscreen";
 }
 
+/// A part of the window painted at its own place: a shape that a smaller sheet would cut comes out a shade
+/// different at the edge.
+QPixmap paintedPart(QWidget& window, const QRect& box) {
+    static QPixmap sheet; // kept from look to look
+    const QSize size = window.size() * window.devicePixelRatioF();
+    if (sheet.size() != size) sheet = QPixmap(size);
+    sheet.setDevicePixelRatio(window.devicePixelRatioF());
+    window.render(&sheet, box.topLeft(), box);
+    const double ratio = sheet.devicePixelRatio();
+    return sheet.copy(QRectF(box.topLeft() * ratio, QSizeF(box.size()) * ratio).toAlignedRect());
+}
+
 Painted paintOnce(window::ScreenWindow& window, const QRect& box, const QPaintDevice& on) {
     Painted painted;
     QPixmap fresh;
     {
         const Listener listener(on, painted);
-        fresh = window.grab(box);
+        fresh = paintedPart(window, box);
     }
     if (!showsWindows() || box.isEmpty()) return painted;
     QScreen* screen = window.windowHandle()->screen();
