@@ -1,14 +1,17 @@
 """Makes the world from public tables and looks at what came out.
 
-    world.py GT1 PROJECT DATA SCRATCH [--any-time]
+    world.py GT1 GTDRIVE TEST_PROGRAMS PROJECT DATA SCRATCH [--any-time]
 
-DATA is a folder of public tables; without it the test is skipped.
+DATA is a folder of public tables; without it the test is skipped. What came out is flown: GTDRIVE works a day at a large
+airport, TEST_PROGRAMS makes 500 plans and reads back what other programs get of them.
 """
 
 import collections
 import csv
 import hashlib
+import json
 import math
+import os
 import pathlib
 import random
 import resource
@@ -93,8 +96,55 @@ def look_at_plans(tables):
     return len(plans), kinds
 
 
+def drive(gtdrive, program, *words):
+    """The answers to the words, from a first start: a value where one is printed, else None."""
+    (program / "GT.cfg").unlink(missing_ok=True)
+    done = subprocess.run([gtdrive, program], input="\n".join(words) + "\n", capture_output=True, text=True, check=True)
+    answers, value = [], None
+    for line in done.stdout.splitlines():
+        if line.startswith("error"):
+            fail(f"{words[len(answers)]}: {line}")
+        if line == "ok" or line.startswith("modal "):
+            answers.append(value)
+            value = None
+        else:
+            value = json.loads(line)
+    return dict(zip(words, answers))
+
+
+def look_at_board(gtdrive, program, tables):
+    """Atlanta: the board, the picker's search and the airports nearby, against the plain tables."""
+    airports = table(tables, "airports.csv")
+    home = next(row for row in airports if row["icao"] == "KATL")
+    flights = sum(row["origin"] == home["iata"] for row in table(tables, "flights.csv"))
+    said = drive(gtdrive, program, "now 2008-06-18 07:05:00", "start", "get MainForm.routeCombo items")
+    sets = said["get MainForm.routeCombo items"]
+    said = drive(gtdrive, program, "now 2008-06-18 07:05:00", "start", f"choose MainForm.routeCombo {sets.index('World')}",
+                 "click MsgForm.okButton", "type MainForm.departureText KATL", "key MainForm.departureText enter",
+                 "get SelectForm.List1", "choose SelectForm.List1 0", "click SelectForm.selectButton", "global HomeIndex",
+                 "global DepartureFlights", "global BoardRows", "click MainForm.arrivalButton", "get SelectForm.List1 items",
+                 "choose SelectForm.List1 0", "click SelectForm.selectButton", "choose FlightForm.FlightList 0",
+                 "dblclick FlightForm.FlightList", "plan", "key MainForm.altSearch enter",
+                 "get SelectForm.List1 text")
+    if not said["get SelectForm.List1"][0].startswith("KATL"):
+        fail(f"the search for KATL found {said['get SelectForm.List1'][:3]}")
+    if len(said["global DepartureFlights"]) != flights or flights < 500:
+        fail(f"{len(said['global DepartureFlights'])} departures on the board's day, {flights} in the table")
+    rows = [row for row in said["global BoardRows"] if row]
+    if len(rows) != 8: # a full board
+        fail(f"a board of {len(rows)} rows")
+    if not said["plan"]["points"]:
+        fail("no plan")
+    print(f"KATL: {flights} departures, {len(said['get SelectForm.List1 items'])} destinations")
+
+
+def look_at_programs(test_programs, program):
+    subprocess.run([test_programs, "--gtest_filter=WorldSet.*", "--gtest_brief=1"], check=True,
+                   env=dict(os.environ, GATEWISE_WORLD=str(program)))
+
+
 def main():
-    gt1, project, data, scratch = sys.argv[1], *map(pathlib.Path, sys.argv[2:5])
+    gt1, gtdrive, test_programs, project, data, scratch = *sys.argv[1:4], *map(pathlib.Path, sys.argv[4:7])
     if not (data / "routes.dat.xz").exists():
         print("skipped: no public tables beside the project")
         sys.exit(SKIPPED)
@@ -125,6 +175,8 @@ def main():
     done, _ = run(gt1, sources, program)
     if done.returncode != 0 or digests(program) != first:
         fail("the same sources in another order made other bytes")
+    look_at_programs(test_programs, program)
+    look_at_board(gtdrive, program, scratch / "tables")
 
 
 main()

@@ -7,6 +7,7 @@
 #include "schedule/Readers.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <random>
 
@@ -18,14 +19,15 @@ namespace {
 using programs::Format;
 using programs::formats;
 
-/// A data set of the program folder, "\Data" or one below it.
+/// A data set of a program folder, "\Data" or one below it.
 class DataSet {
 public:
-    explicit DataSet(const std::string& folder) : files_(planFiles(GATEWISE_PROGRAM_DIR, folder)) {
-        std::string path = GATEWISE_PROGRAM_DIR + folder + "/";
+    explicit DataSet(const std::string& folder, const std::string& program = GATEWISE_PROGRAM_DIR)
+        : files_(planFiles(program, folder)) {
+        std::string path = program + folder + "/";
         std::ranges::replace(path, '\\', '/');
         EXPECT_TRUE(loadAirports(path + "index.gt1", tables_));
-        EXPECT_TRUE(loadAircraft(GATEWISE_PROGRAM_DIR "/Data/aircraft.gt1", tables_));
+        EXPECT_TRUE(loadAircraft(program + "/Data/aircraft.gt1", tables_));
         for (const AirportRecord& airport : tables_.airports) {
             std::vector<FlightRecord> departures;
             loadFlights(path + "routes.gt1", airport.DepartureOffset, airport.DepartureCount, departures);
@@ -68,6 +70,13 @@ TEST(SampleSet, ThreeHundredPlansAreReadBack) {
 
 TEST(SampleSet, PlansOfAFurtherSetAreReadBack) {
     expectWhole(DataSet("\\Data\\Pacific Islands"), 20);
+}
+
+// The check of the import makes the world from public tables and then asks for this test by itself.
+TEST(WorldSet, FiveHundredPlansAreReadBack) {
+    const char* program = std::getenv("GATEWISE_WORLD");
+    if (program == nullptr) GTEST_SKIP() << "GATEWISE_WORLD names no program folder with a set \"World\"";
+    expectWhole(DataSet("\\Data\\World", program), 500);
 }
 
 } // namespace
