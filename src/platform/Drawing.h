@@ -77,6 +77,7 @@ struct Drawing {
     bool square = false;
     bool worded = false; // the marks' words stand among the texts already, where there was room for them
     std::string summary; // the same in words, for a screen reader
+    double aspect = 0;   // width by height that a sheet of paper keeps; 0: as there is room
     friend bool operator==(const Drawing&, const Drawing&) = default;
 };
 

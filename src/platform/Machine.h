@@ -67,6 +67,12 @@ public:
     /// Asks where a file is to be written, with a title and a first proposal (a path); nothing when the
     /// person gives up.
     virtual std::optional<std::string> askSavePath(const std::string& title, const std::string& proposal) = 0;
+    /// Asks for a file to read, with a title and a first proposal (a path); nothing when the person gives up,
+    /// or nobody can be asked.
+    virtual std::optional<std::string> askOpenPath(const std::string& title, const std::string& proposal) {
+        (void)title, (void)proposal;
+        return std::nullopt;
+    }
     /// Asks for a folder to read from, with a title; nothing when the person gives up, or nobody can be
     /// asked.
     virtual std::optional<std::string> askFolder(const std::string& title) {
@@ -110,6 +116,10 @@ public:
     /// and the person is told where. An error: there are no pages, neither on paper nor in a file.
     virtual std::error_code print(const std::string& font, int size, const std::string& text,
                                   const std::vector<Drawing>& drawings) = 0;
+    /// The same pages in a file that the person named: a picture where its name ends in ".png", the drawings
+    /// above the text, else a PDF. An error: the file is as it was.
+    virtual std::error_code save(const std::string& path, const std::string& font, int size,
+                                 const std::string& text, const std::vector<Drawing>& drawings) = 0;
 };
 
 class Random {

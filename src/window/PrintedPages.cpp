@@ -93,13 +93,10 @@ public:
     }
     void charts(const std::vector<Drawing>& all, const QFont& font) {
         const double line = metrics_.lineSpacing();
-        const double height = (device_.height() - kFootRows * line) / static_cast<double>(all.size());
-        double top = 0;
-        for (const Drawing& drawing : all) {
-            drawDrawing(painter_, QRectF(0, top, device_.width(), height - line), drawing, font,
-                        device_.logicalDpiX() / kPoints);
-            top += height;
-        }
+        const QSizeF room(device_.width(), device_.height() - kFootRows * line);
+        const auto boxes = chartBoxes(all, room, line);
+        for (std::size_t i = 0; i < all.size(); ++i)
+            drawDrawing(painter_, boxes[i], all[i], font, device_.logicalDpiX() / kPoints);
     }
 
 private:
@@ -111,6 +108,29 @@ private:
 };
 
 } // namespace
+
+std::vector<QRectF> chartBoxes(const std::vector<Drawing>& drawings, const QSizeF& room, double gap) {
+    double wanted = 0;
+    int open = 0;
+    for (const Drawing& drawing : drawings) {
+        if (drawing.aspect > 0)
+            wanted += room.width() / drawing.aspect;
+        else
+            ++open;
+    }
+    const double free = room.height() - gap * static_cast<double>(drawings.size());
+    const double share = wanted > 0 ? std::min(1.0, (open > 0 ? free / 2 : free) / wanted) : 1;
+    std::vector<QRectF> boxes;
+    double top = 0;
+    for (const Drawing& drawing : drawings) {
+        const bool kept = drawing.aspect > 0;
+        const double width = kept ? room.width() * share : room.width();
+        const double height = kept ? width / drawing.aspect : (free - wanted * share) / open;
+        boxes.emplace_back((room.width() - width) / 2, top, width, height);
+        top += height + gap;
+    }
+    return boxes;
+}
 
 std::vector<QStringList> sheetsOf(const QString& text, int columns, int rows) {
     std::vector<QStringList> sheets(1);

@@ -46,6 +46,12 @@ std::optional<std::string> QtDesktop::askSavePath(const std::string& title, cons
     return name.isEmpty() ? std::nullopt : std::optional(pathText(name));
 }
 
+std::optional<std::string> QtDesktop::askOpenPath(const std::string& title, const std::string& proposal) {
+    const QString name =
+        QFileDialog::getOpenFileName(QApplication::activeWindow(), toQt(title), nativePath(proposal));
+    return name.isEmpty() ? std::nullopt : std::optional(pathText(name));
+}
+
 std::optional<std::string> QtDesktop::askFolder(const std::string& title) {
     const QString name = QFileDialog::getExistingDirectory(QApplication::activeWindow(), toQt(title));
     return name.isEmpty() ? std::nullopt : std::optional(pathText(name));

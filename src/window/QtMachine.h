@@ -27,6 +27,7 @@ public:
     void minimise() override;
     void showHelp(const std::string& page) override;
     std::optional<std::string> askSavePath(const std::string& title, const std::string& proposal) override;
+    std::optional<std::string> askOpenPath(const std::string& title, const std::string& proposal) override;
     std::optional<std::string> askFolder(const std::string& title) override;
     void notify(const std::string& text) override;
     void copy(const std::string& text) override;
@@ -74,6 +75,8 @@ public:
     QtPrinter(std::string folder, Desktop& desktop) : folder_(std::move(folder)), desktop_(desktop) {}
     std::error_code print(const std::string& font, int size, const std::string& text,
                           const std::vector<Drawing>& drawings) override;
+    std::error_code save(const std::string& path, const std::string& font, int size, const std::string& text,
+                         const std::vector<Drawing>& drawings) override;
 
 private:
     std::string folder_;

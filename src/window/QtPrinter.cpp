@@ -1,13 +1,16 @@
 #include "platform/Files.h"
 #include "platform/Text.h"
 #include "window/PrintedPages.h"
+#include "window/PrintedPicture.h"
 #include "window/QtMachine.h"
 #include "window/QtText.h"
 
+#include <QBuffer>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QLocale>
 #include <QPageSize>
+#include <QPdfWriter>
 #include <QPrinter>
 #include <QPrinterInfo>
 
@@ -79,6 +82,26 @@ std::error_code QtPrinter::print(const std::string& font, int size, const std::s
     desktop_.notify((info.isNull() ? "There is no printer" : "The printer took nothing") +
                     std::string(". The pages lie in ") + fromQt(nativePath(shown)));
     return {};
+}
+
+std::error_code QtPrinter::save(const std::string& path, const std::string& font, int size,
+                                const std::string& text, const std::vector<Drawing>& drawings) {
+    const QFont face = pitchedFont(font, size);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    bool made = false;
+    if (lowerCase(path).ends_with(".png")) {
+        made = pictureOf(face, toQt(text), drawings).save(&buffer, "PNG");
+    } else {
+        QPdfWriter pages(&buffer);
+        pages.setTitle(titleOf(toQt(text)));
+        pages.setPageSize(usualPaper());
+        pages.setPageMargins({kMargin, kMargin, kMargin, kMargin}, QPageLayout::Point);
+        made = printPages(pages, face, toQt(text), drawings);
+    }
+    if (!made) return std::make_error_code(std::errc::not_enough_memory);
+    return files::replace(path, std::string_view(bytes.constData(), static_cast<std::size_t>(bytes.size())));
 }
 
 } // namespace gatewise::window

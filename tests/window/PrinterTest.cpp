@@ -1,6 +1,7 @@
 #include "window/StageTest.h"
 
 #include "window/PrintedPages.h"
+#include "window/PrintedPicture.h"
 
 #include <QFile>
 #include <QPdfWriter>
@@ -125,6 +126,40 @@ TEST(PrintedSheets, TheTitleIsTheFlightElseTheFirstLine) {
     EXPECT_EQ(titleOf(""), "");
 }
 
+TEST(PrintedCharts, ThoseWithAnAspectKeepIt) {
+    Drawing wide, open;
+    wide.aspect = 2;
+    // 100 wide is 50 high; what is left of 200 without two gaps of 10 is for the other.
+    const auto both = window::chartBoxes({wide, open}, {100, 200}, 10);
+    EXPECT_EQ(both[0], QRectF(0, 0, 100, 50));
+    EXPECT_EQ(both[1], QRectF(0, 60, 100, 130));
+    // Two of them have 40 each where 50 were wanted.
+    const auto tight = window::chartBoxes({wide, wide}, {100, 100}, 10);
+    EXPECT_EQ(tight[0], QRectF(10, 0, 80, 40));
+    EXPECT_EQ(tight[1], QRectF(10, 50, 80, 40));
+    EXPECT_EQ(window::chartBoxes({open, open}, {100, 100}, 10)[1], QRectF(0, 50, 100, 40));
+    EXPECT_TRUE(window::chartBoxes({}, {100, 100}, 10).empty());
+}
+
+TEST(PrintedCharts, APictureIsWhiteAndAsSharpAsPaper) {
+    Drawing bar;
+    bar.aspect = 2;
+    bar.lines.push_back({{{0.4, 0.5}, {0.6, 0.5}}, Tone::Route, 8});
+    const QImage image = window::pictureOf(QFont("Liberation Mono", 10), "First line\nlast line", {bar});
+    ASSERT_FALSE(image.isNull());
+    EXPECT_EQ(image.width(), 2480);
+    EXPECT_EQ(qRound(image.dotsPerMeterX() * 0.0254), 300);
+    EXPECT_EQ(image.pixelColor(5, 5), QColor(Qt::white));
+    // The drawing is 2130 by 1065 within margins of 175.
+    EXPECT_NE(image.pixelColor(1240, 175 + 532), QColor(Qt::white));
+    EXPECT_EQ(image.pixelColor(300, 175 + 532), QColor(Qt::white));
+    int dark = 0;
+    for (int x = 0; x < image.width(); ++x)
+        for (int y = 175 + 1065 + 20; y < image.height(); ++y)
+            dark += image.pixelColor(x, y).lightness() < 100;
+    EXPECT_GT(dark, 500) << "the listing stands below";
+}
+
 /// On both papers nothing stands outside of the margins, no point is torn apart, every sheet has its number.
 TEST(PrintedSheets, AReleaseFitsOnBothPapers) {
     const QTemporaryDir scratch;
@@ -160,6 +195,27 @@ TEST(PrintedSheets, AReleaseFitsOnBothPapers) {
         }
         EXPECT_TRUE(lines.join(' ').contains("FIX39 J139")) << "the end of the route is lost";
     }
+}
+
+TEST_F(Printed, PagesAreSavedUnderTheNameThatThePilotGave) {
+    then([&] {
+        Drawing map;
+        map.aspect = 1.5;
+        map.texts.push_back({{0.5, 0.5}, "Quillmark"});
+        auto& printer = stage().window.program.machine.printer;
+        const std::string pdfFile = files::textOf(folder() / "My career.pdf");
+        EXPECT_FALSE(printer.save(pdfFile, "Courier New", 10, "CAREER\n\nFlights 3", {map}));
+        const QString words = linesOf(QString::fromStdString(pdfFile)).join(' ');
+        EXPECT_TRUE(words.contains("Flights 3")) << words.toStdString();
+        EXPECT_TRUE(words.contains("Quillmark")) << words.toStdString();
+        const std::string pngFile = files::textOf(folder() / "My career.PNG");
+        EXPECT_FALSE(printer.save(pngFile, "Courier New", 10, "CAREER\n\nFlights 3", {map}));
+        EXPECT_EQ(QImage(QString::fromStdString(pngFile), "PNG").width(), 2480);
+        const std::string nowhere = files::textOf(folder() / "missing" / "My career.pdf");
+        EXPECT_EQ(printer.save(nowhere, "Courier New", 10, "CAREER", {}),
+                  std::errc::no_such_file_or_directory);
+    });
+    play();
 }
 
 /// The way that ships, from the key to the sheet: what was handed over stands on the paper, line by line.

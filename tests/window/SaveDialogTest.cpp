@@ -6,7 +6,9 @@
 #include <QTest>
 #include <QTimer>
 
-// The one dialog of the toolkit itself: where a plan is to be saved.
+#include <fstream>
+
+// The dialogs of the toolkit itself: where a plan is to be saved, which file is to be read.
 
 namespace gatewise::test {
 
@@ -36,10 +38,27 @@ TEST_F(SaveDialog, FoldersWithForeignNamesArriveAndComeBackWhole) {
 }
 
 TEST_F(SaveDialog, CancelIsNoName) {
-    QTimer::singleShot(0, &stage().desk(), [] {
-        if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())) dialog->reject();
-    });
+    const auto giveUp = [&] {
+        QTimer::singleShot(0, &stage().desk(), [] {
+            if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))
+                dialog->reject();
+        });
+    };
+    giveUp();
     EXPECT_FALSE(stage().window.desktop.askSavePath("Save", files::textOf(folder()) + "\\plan.pln"));
+    giveUp();
+    EXPECT_FALSE(stage().window.desktop.askOpenPath("Open", files::textOf(folder()) + "\\log.csv"));
+}
+
+TEST_F(SaveDialog, AFileIsOpenedWhereItWasProposed) {
+    std::ofstream(folder() / "log.csv") << "date";
+    QTimer::singleShot(0, &stage().desk(), [] {
+        if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))
+            static_cast<QDialog*>(dialog)->accept();
+    });
+    const auto answer = stage().window.desktop.askOpenPath("Open", files::textOf(folder()) + "\\log.csv");
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(files::resolve(*answer), folder() / "log.csv");
 }
 
 } // namespace gatewise::test

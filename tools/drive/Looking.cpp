@@ -193,6 +193,10 @@ void writePrinted(Session& session, JsonWriter& json) {
         json.integer(page.size);
         json.key("text");
         json.text(page.text);
+        if (!page.file.empty()) {
+            json.key("file");
+            json.text(page.file);
+        }
         json.endObject();
     }
     json.endArray();

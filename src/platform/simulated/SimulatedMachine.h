@@ -35,6 +35,9 @@ public:
     std::optional<std::string> askSavePath(const std::string&, const std::string& proposal) override {
         return proposal;
     }
+    std::optional<std::string> askOpenPath(const std::string&, const std::string& proposal) override {
+        return proposal;
+    }
     void notify(const std::string& text) override { notices.push_back(text); }
     void copy(const std::string& text) override { clipboard = text; }
 
@@ -81,6 +84,7 @@ struct PrintedText {
     std::string font;
     int size = 0;
     std::string text;
+    std::string file = {}; // that the pages were saved in; empty: paper
 };
 
 class SimulatedPrinter : public Printer {
@@ -88,6 +92,11 @@ public:
     std::error_code print(const std::string& font, int size, const std::string& text,
                           const std::vector<Drawing>&) override {
         printed.push_back({font, size, text});
+        return {};
+    }
+    std::error_code save(const std::string& path, const std::string& font, int size, const std::string& text,
+                         const std::vector<Drawing>&) override {
+        printed.push_back({font, size, text, path});
         return {};
     }
     std::vector<PrintedText> printed; // since they were last taken
