@@ -1,53 +1,65 @@
 #include "window/Accessible.h"
 
-#include "window/View.h"
+#include "window/AccessFields.h"
+#include "window/AccessTables.h"
+#include "window/AccessViews.h"
+#include "window/Buttons.h"
+#include "window/Fields.h"
+#include "window/ScreenWindow.h"
 
-#include <QAccessibleWidget>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSlider>
 
 namespace gatewise::window {
 
 namespace {
 
-class ViewAccess : public QAccessibleWidget {
+/// What was last announced in a window.
+class Announcement : public QObject {
+    Q_OBJECT
 public:
-    ViewAccess(QWidget* widget, View& view) : QAccessibleWidget(widget, view.role()), view_(view) {}
-
-    QString text(QAccessible::Text kind) const override {
-        if (kind == QAccessible::Name) return view_.spokenName();
-        return QAccessibleWidget::text(kind);
-    }
-
-    QAccessible::Role role() const override { return view_.role(); }
-
-    QAccessible::State state() const override {
-        QAccessible::State state = QAccessibleWidget::state();
-        const bool stop = view_.takesFocus();
-        state.focusable = stop;
-        const bool pressable = view_.role() == QAccessible::Button || view_.role() == QAccessible::ListItem;
-        if (pressable && !view_.usable()) state.disabled = true;
-        return state;
-    }
-
-    QStringList actionNames() const override {
-        QStringList names = QAccessibleWidget::actionNames();
-        if (view_.takesFocus()) names.prepend(pressAction());
-        return names;
-    }
-
-    void doAction(const QString& name) override {
-        if (name == pressAction() && view_.takesFocus())
-            view_.activate();
-        else
-            QAccessibleWidget::doAction(name);
-    }
-
-private:
-    View& view_;
+    explicit Announcement(QWidget* window) : QObject(window) {}
+    QString words;
 };
 
+class AnnouncementAccess : public QAccessibleObject {
+public:
+    explicit AnnouncementAccess(Announcement& what) : QAccessibleObject(&what), what_(what) {}
+    QAccessibleInterface* parent() const override { return accessOf(what_.parent()); }
+    int childCount() const override { return 0; }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? what_.words : QString();
+    }
+    QAccessible::Role role() const override { return QAccessible::Notification; }
+    QAccessible::State state() const override { return {}; }
+
+private:
+    Announcement& what_;
+};
+
+QAccessibleInterface* makeView(View& view) {
+    QWidget* widget = view.widget();
+    if (auto* box = qobject_cast<QComboBox*>(widget)) return new ComboAccess(box, view);
+    if (auto* line = qobject_cast<QLineEdit*>(widget)) return new LineAccess(line, view);
+    if (auto* slider = qobject_cast<QSlider*>(widget)) return new RangeAccess(slider, view);
+    const bool ours = dynamic_cast<PaintedView*>(widget) != nullptr ||
+                      dynamic_cast<PushButtonView*>(widget) != nullptr;
+    return ours ? new ViewAccess(widget, view) : nullptr; // the toolkit describes the rest well
+}
+
 QAccessibleInterface* make(const QString&, QObject* object) {
-    auto* painted = dynamic_cast<PaintedView*>(object);
-    return painted == nullptr ? nullptr : new ViewAccess(painted, *painted);
+    if (auto* window = dynamic_cast<ScreenWindow*>(object)) {
+        const bool main = window->screen().name == "MainForm";
+        return new WindowAccess(window, main ? QAccessible::Window : QAccessible::Dialog);
+    }
+    if (auto* view = dynamic_cast<View*>(object)) return makeView(*view);
+    if (auto* table = dynamic_cast<LinesTable*>(object)) return new LinesTableAccess(*table);
+    if (auto* head = dynamic_cast<LinesHead*>(object)) return new LinesHeadAccess(*head);
+    if (auto* said = dynamic_cast<Announcement*>(object)) return new AnnouncementAccess(*said);
+    return nullptr;
 }
 
 } // namespace
@@ -60,4 +72,19 @@ void installAccessibility() {
     static_cast<void>(once);
 }
 
+void announce(QWidget& window, const QString& words) {
+    if (words.isEmpty() || !QAccessible::isActive()) return;
+#if QT_VERSION >= QT_VERSION_CHECK(6, 8, 0)
+    QAccessibleAnnouncementEvent event(&window, words);
+#else
+    auto* said = window.findChild<Announcement*>(QString(), Qt::FindDirectChildrenOnly);
+    if (said == nullptr) said = new Announcement(&window);
+    said->words = words;
+    QAccessibleEvent event(said, QAccessible::ObjectShow);
+#endif
+    QAccessible::updateAccessibility(&event);
+}
+
 } // namespace gatewise::window
+
+#include "Accessible.moc"

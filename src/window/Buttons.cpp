@@ -83,7 +83,7 @@ void ButtonView::sync() {
 
 QString ButtonView::spokenName() const {
     const QString caption = actor_.skin().caption(pictureTail());
-    return caption.isEmpty() ? View::spokenName() : caption;
+    return caption.isEmpty() || !place.says.isEmpty() ? View::spokenName() : caption;
 }
 
 void ButtonView::byKey(const std::function<void()>& what) {

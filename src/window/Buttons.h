@@ -16,6 +16,7 @@ public:
     [[nodiscard]] QString spokenName() const override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Button; }
     [[nodiscard]] bool takesFocus() const override { return usable(); }
+    [[nodiscard]] bool isKey() const override { return true; }
     void activate() override;
 
     /// File of the form's picture below the program folder.
@@ -48,6 +49,7 @@ public:
     [[nodiscard]] QString spokenName() const override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Button; }
     [[nodiscard]] bool takesFocus() const override { return usable(); }
+    [[nodiscard]] bool isKey() const override { return true; }
     void activate() override;
 
 protected:

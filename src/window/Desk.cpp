@@ -66,6 +66,7 @@ void Desk::sync() {
         syncOnce();
     } while (again_ && ++rounds < kMostRounds);
     syncing_ = false;
+    if (QAccessible::isActive()) announce(mainWindow(), speech_.look(forms_.MainForm));
 }
 
 void Desk::syncOnce() {

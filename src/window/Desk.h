@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/Forms.h"
+#include "window/BoardSpeech.h"
 #include "window/HeldKeys.h"
 #include "window/Note.h"
 #include "window/ScreenWindow.h"
@@ -51,6 +52,7 @@ private:
     const Skin& skin_;
     std::map<const Screen*, std::unique_ptr<ScreenWindow>> windows_;
     HeldKeys heldKeys_;
+    BoardSpeech speech_;
     QPointer<Note> note_;
     bool syncing_ = false;
     bool again_ = false;

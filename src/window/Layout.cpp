@@ -56,6 +56,8 @@ ControlLayout plainControl(const QJsonObject& o) {
     c.tab = o["tab"].toInt();
     c.text = text(o["text"]);
     c.says = o["says"].toString();
+    c.table = o["table"].toString();
+    c.quiet = o["quiet"].toBool();
     return c;
 }
 

@@ -3,10 +3,14 @@
 #include "input/UserEvents.h"
 #include "window/Drawing.h"
 #include "window/LabelText.h"
+#include "window/LinesTable.h"
 #include "window/QtText.h"
+#include "window/ScreenNames.h"
 #include "window/Skin.h"
 
 #include <QPaintEvent>
+
+#include <algorithm>
 
 namespace gatewise::window {
 
@@ -64,7 +68,7 @@ void LabelView::sync() {
         now.highlighted == shownMark_) {
         return;
     }
-    if (now.text != shownText_) {
+    if (now.text != shownText_ && !place.quiet) {
         QAccessibleEvent event(this, QAccessible::NameChanged);
         QAccessible::updateAccessibility(&event);
     }
@@ -76,15 +80,33 @@ void LabelView::sync() {
 }
 
 QString LabelView::spokenName() const {
-    if (wordsOfRow && takesFocus()) return wordsOfRow();
     const QString text = toQt(label().text).simplified();
-    if (!place.hit || captionNearby.isEmpty()) return text;
-    return captionNearby + ": " + text;
+    if (lines != nullptr) return lines->spoken(*this, text);
+    const QString words = place.says.isEmpty() ? captionWords() : place.says;
+    if (words.isEmpty()) return text;
+    if (isCaption(place)) return words;
+    return words + ": " + (text.isEmpty() ? "none" : text);
+}
+
+QString LabelView::spokenDetails() const {
+    return wordsOfRow && lines != nullptr && takesFocus() ? wordsOfRow() : View::spokenDetails();
 }
 
 QAccessible::Role LabelView::role() const {
-    if (place.family > 0 && rowHandles(*control)) return QAccessible::ListItem;
-    return takesFocus() ? QAccessible::Button : QAccessible::StaticText;
+    if (lines != nullptr) return lines->roleOf(*this);
+    return isKey() ? QAccessible::Button : QAccessible::StaticText;
+}
+
+bool LabelView::isKey() const {
+    return rowHandles(*control) && lines == nullptr;
+}
+
+/// Nothing to say, as of a colon between two numbers, or what the value that it names says already.
+bool LabelView::silent() const {
+    const auto isLabel = [](const View* view) { return view->control->kind == Kind::Label; };
+    if (!named.empty() && std::all_of(named.begin(), named.end(), isLabel)) return true;
+    const QString words = spokenName();
+    return std::none_of(words.begin(), words.end(), [](QChar c) { return c.isLetterOrNumber(); });
 }
 
 bool LabelView::takesFocus() const {
@@ -111,15 +133,19 @@ void LabelView::paintEvent(QPaintEvent*) {
 }
 
 QString HitAreaView::spokenName() const {
-    return wordsOfRow ? wordsOfRow() : View::spokenName();
+    return lines != nullptr ? lines->spoken(*this, {}) : View::spokenName();
+}
+
+QString HitAreaView::spokenDetails() const {
+    return wordsOfRow ? wordsOfRow() : View::spokenDetails();
 }
 
 QAccessible::Role HitAreaView::role() const {
-    return wordsOfRow ? QAccessible::ListItem : QAccessible::Grouping;
+    return lines != nullptr ? lines->roleOf(*this) : QAccessible::Grouping;
 }
 
 bool HitAreaView::takesFocus() const {
-    return usable() && rowHandles(*control);
+    return usable() && rowHandles(*control) && (lines == nullptr || lines->hasWords(place.row));
 }
 
 void HitAreaView::activate() {

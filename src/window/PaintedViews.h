@@ -28,8 +28,11 @@ public:
     void sync() override;
     [[nodiscard]] std::span<const Event> emits() const override { return emitsWithKeys(); }
     [[nodiscard]] QString spokenName() const override;
+    [[nodiscard]] QString spokenDetails() const override;
     [[nodiscard]] QAccessible::Role role() const override;
     [[nodiscard]] bool takesFocus() const override;
+    [[nodiscard]] bool isKey() const override;
+    [[nodiscard]] bool silent() const override;
     void activate() override;
     void putAt(QPoint corner) override;
 
@@ -55,8 +58,10 @@ public:
     void sync() override { syncCommon(); }
     [[nodiscard]] std::span<const Event> emits() const override { return emitsWithKeys(); }
     [[nodiscard]] QString spokenName() const override;
+    [[nodiscard]] QString spokenDetails() const override;
     [[nodiscard]] QAccessible::Role role() const override;
     [[nodiscard]] bool takesFocus() const override;
+    [[nodiscard]] bool silent() const override { return !takesFocus(); }
     void activate() override;
 };
 
@@ -97,6 +102,7 @@ class ShapeView : public PaintedView {
 public:
     ShapeView(Actor& actor, const ControlLayout& place, QWidget* parent);
     void sync() override {}
+    [[nodiscard]] bool silent() const override { return true; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -6,7 +6,7 @@
 namespace gatewise::window {
 
 RowsView::RowsView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent)
-    : PaintedView(actor, control, place, parent), model_(*control),
+    : PaintedView(actor, control, place, parent), model_(*control, place.says),
       table_(new RowsTable(actor, *control, place, model_, this)) {
     setFocusProxy(table_);
     setFocusPolicy(Qt::StrongFocus);

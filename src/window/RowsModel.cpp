@@ -76,6 +76,7 @@ QVariant RowsModel::data(const QModelIndex& index, int role) const {
 
 QVariant RowsModel::headerData(int section, Qt::Orientation orientation, int role) const {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
+    if (control_.kind != Kind::ListView) return only_;
     const auto at = static_cast<std::size_t>(section);
     return at < heads_.size() ? toQt(heads_[at]) : QString();
 }

@@ -10,7 +10,8 @@ namespace gatewise::window {
 class RowsModel : public QAbstractTableModel {
     Q_OBJECT
 public:
-    explicit RowsModel(const Control& control) : control_(control) {}
+    /// `only` is what a screen reader calls the column of a list that shows no heads.
+    RowsModel(const Control& control, QString only) : control_(control), only_(std::move(only)) {}
     /// Takes over what the form holds now; false when nothing differs.
     bool sync();
     [[nodiscard]] bool bold(int row) const;
@@ -27,6 +28,7 @@ private:
               std::vector<std::string> heads);
 
     const Control& control_;
+    const QString only_;
     std::vector<std::vector<std::string>> rows_;
     std::vector<bool> bold_;
     std::vector<std::string> heads_;

@@ -107,6 +107,17 @@ void RowsTable::currentChanged(const QModelIndex& current, const QModelIndex& pr
     if (!syncing_ && current.isValid()) choose(current.row());
 }
 
+/// A screen reader marks a row without going to it; what is marked is picked.
+void RowsTable::selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) {
+    QTreeView::selectionChanged(selected, deselected);
+    if (syncing_) return;
+    const auto follow = [this] {
+        const QModelIndexList rows = selectionModel()->selectedRows();
+        if (!rows.isEmpty() && rows.front().row() != currentIndex().row()) setCurrentIndex(rows.front());
+    };
+    QMetaObject::invokeMethod(this, follow, Qt::QueuedConnection); // hands and keys have gone there by then
+}
+
 void RowsTable::mousePressEvent(QMouseEvent* event) {
     const QModelIndex at = indexAt(event->position().toPoint());
     if (event->button() == Qt::RightButton) pressRight(at);

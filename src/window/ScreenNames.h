@@ -2,14 +2,17 @@
 
 #include "window/View.h"
 
-#include <vector>
+// What a screen reader calls the controls of a screen, from the labels that stand near.
 
 namespace gatewise::window {
 
-/// Tells every view the caption that stands beside or above it, and the toolkit what each is called.
-void nameFields(const std::vector<View*>& views, const ScreenLayout& layout);
+/// Whether a label only says what stands beside it, and shows no value of its own.
+bool isCaption(const ControlLayout& place);
 
-/// Lets the views of a table's lines speak the whole line. `views` must outlive them.
+/// Ties fields and values to the label beside or above, and names the widgets.
+void nameFields(const std::vector<View*>& views);
+
+/// Puts together the tables that are made of texts in lines, and the sentences that their lines speak.
 void nameRows(const std::vector<View*>& views);
 
 } // namespace gatewise::window

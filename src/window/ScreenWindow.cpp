@@ -29,7 +29,7 @@ ScreenWindow::ScreenWindow(Actor& actor, Screen& screen, const ScreenLayout& lay
     setAccessibleName(toQt(screen.caption));
     setFixedSize(layout.size.isEmpty() ? QSize(screen.designWidth, screen.designHeight) : layout.size);
     setMouseTracking(true);
-    nameFields(views_.all, layout);
+    nameFields(views_.all);
     nameRows(views_.all);
     ring_->raise();
 }

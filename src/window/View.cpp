@@ -13,9 +13,26 @@ namespace gatewise::window {
 
 QString View::spokenName() const {
     if (!place.says.isEmpty()) return place.says;
-    if (!captionNearby.isEmpty()) return captionNearby;
-    if (control != nullptr && !control->toolTip.empty()) return toQt(control->toolTip);
-    return control != nullptr ? toQt(control->screen->caption) : QString();
+    if (caption != nullptr) return captionWords();
+    return control == nullptr ? QString() : toQt(control->toolTip);
+}
+
+QString View::spokenDetails() const {
+    if (control == nullptr) return {};
+    const QString tip = toQt(control->toolTip);
+    return tip == spokenName() ? QString() : tip;
+}
+
+void View::showMore() {
+    actor_.act([this] { user::rightPress(*control); });
+}
+
+QString View::captionWords() const {
+    if (caption == nullptr) return {};
+    if (!caption->place.says.isEmpty()) return caption->place.says;
+    QString words = toQt(static_cast<const Label&>(*caption->control).text).simplified();
+    if (words.endsWith(':')) words.chop(1);
+    return words;
 }
 
 bool View::usable() const {

@@ -8,9 +8,11 @@
 
 #include <functional>
 #include <span>
+#include <vector>
 
 namespace gatewise::window {
 
+class LinesTable;
 class Skin;
 
 /// Runs what an event does and brings the forms onto the screen afterwards.
@@ -37,6 +39,8 @@ public:
 
     /// What a screen reader says: name, kind, value.
     [[nodiscard]] virtual QString spokenName() const;
+    /// What it says after that.
+    [[nodiscard]] virtual QString spokenDetails() const;
     [[nodiscard]] virtual QAccessible::Role role() const { return QAccessible::StaticText; }
     /// Whether it can be used now.
     [[nodiscard]] bool usable() const;
@@ -44,8 +48,16 @@ public:
     [[nodiscard]] virtual bool takesFocus() const { return false; }
     /// The events of its control that a person can bring about here.
     [[nodiscard]] virtual std::span<const Event> emits() const = 0;
+    /// Whether it would take a press, were it not for its being disabled.
+    [[nodiscard]] virtual bool isKey() const { return false; }
+    /// Whether a screen reader passes it by: it shows nothing that could be said.
+    [[nodiscard]] virtual bool silent() const { return false; }
     /// What Enter or a screen reader's press does.
     virtual void activate() {}
+    /// What the right button does.
+    void showMore();
+    /// What the label says that names this view, empty when there is none.
+    [[nodiscard]] QString captionWords() const;
     /// Puts the box of the layout onto the screen; some kinds draw beyond it.
     virtual void putAt(QPoint corner) { widget()->setGeometry(QRect(corner, place.box.size())); }
     /// The box of the layout inside the widget; what is inside of it starts from there.
@@ -53,7 +65,9 @@ public:
 
     Control* const control; // null for decoration that no form knows
     const ControlLayout& place;
-    QString captionNearby;               // words that stand beside or above a field
+    View* caption = nullptr;             // the label that stands beside or above a field and names it
+    std::vector<View*> named;            // the views that this label names
+    const LinesTable* lines = nullptr;   // the table of which it is a cell or a head
     std::function<QString()> wordsOfRow; // of the line of a table that this view stands for, else empty
 
 protected:

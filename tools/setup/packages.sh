@@ -33,7 +33,8 @@ BUILD_PACKAGES=(g++ cmake ninja-build python3 qt6-base-dev libqt6svg6-dev libgl-
   fontconfig fonts-b612 fonts-roboto-unhinted fonts-dseg fonts-ocr-b python3-fonttools flite sox)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libsqlite3-dev clang clang-format clang-tidy libclang-rt-14-dev git desktop-file-utils appstream
   libxml2-dev libxml2-utils gpsbabel  # read back the plans that are written for other programs
-  poppler-utils) # and the printed sheets
+  poppler-utils # and the printed sheets
+  xvfb dbus at-spi2-core python3-gi gir1.2-atspi-2.0) # the window as a screen reader finds it
 
 # What the packages take besides.
 PACKAGE_PACKAGES=(git dpkg-dev lintian patchelf xz-utils file)
