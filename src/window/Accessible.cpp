@@ -59,7 +59,9 @@ QAccessibleInterface* make(const QString&, QObject* object) {
     if (auto* table = dynamic_cast<LinesTable*>(object)) return new LinesTableAccess(*table);
     if (auto* head = dynamic_cast<LinesHead*>(object)) return new LinesHeadAccess(*head);
     if (auto* said = dynamic_cast<Announcement*>(object)) return new AnnouncementAccess(*said);
-    return nullptr;
+    const bool part = object->isWidgetType() && dynamic_cast<NotesView*>(object->parent()) != nullptr;
+    // The insides of a field of several lines would stand there as empty fillers.
+    return part ? new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Grouping) : nullptr;
 }
 
 } // namespace
