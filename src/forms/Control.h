@@ -51,7 +51,8 @@ enum class Kind {
     FolderList,
     FileList,
     FlightInfo,
-    Chart
+    Chart,
+    Progress
 };
 
 enum class Event {
@@ -302,6 +303,12 @@ struct RangeControl : Control {
     int min, max, step;
     int page = 1;
     int value;
+};
+
+/// How far a work is: 0 to 100, and nothing that a person could change.
+struct ProgressBar : RangeControl {
+    ProgressBar(Screen& screen, std::string name)
+        : RangeControl(screen, std::move(name), Kind::Progress, 0, 100, 1, 0) {}
 };
 
 /// Drive, folder and file lists. `path` is what the list stands at: the drive, the folder, the folder whose

@@ -12,7 +12,7 @@ ImportForm::ImportForm()
     reportTEXT.readOnly = true;
     reportTEXT.multiLine = true;
     nameTEXT.maxLength = 60;
-    cancelButton.enabled = false;
+    cancelButton.enabled = removeButton.enabled = false;
 }
 
 } // namespace gatewise::forms

@@ -6,6 +6,7 @@
 #include "window/Fields.h"
 #include "window/MapView.h"
 #include "window/PaintedViews.h"
+#include "window/ProgressView.h"
 #include "window/Rows.h"
 
 #include <algorithm>
@@ -39,6 +40,7 @@ constexpr KindRow kKinds[] = {
     {Kind::UpDown, makeView<UpDownView>},         {Kind::DriveList, makeView<ComboView>},
     {Kind::FolderList, makeView<RowsView>},       {Kind::FileList, makeView<RowsView>},
     {Kind::FlightInfo, makeView<FlightInfoView>}, {Kind::Chart, makeView<ChartView>},
+    {Kind::Progress, makeView<ProgressView>},
 };
 
 View* make(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent) {

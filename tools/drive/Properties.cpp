@@ -164,6 +164,7 @@ const KindView kKinds[] = {
     {Kind::FileList, field<&ItemControl::items>, kPaths},
     {Kind::FlightInfo, nothing, kFlightInfo},
     {Kind::Chart, nothing, kChart},
+    {Kind::Progress, field<&RangeControl::value>, kRange},
 };
 
 const KindView& viewOf(const Control& control) {

@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QRadioButton>
 #include <QSlider>
 #include <QTreeView>
@@ -160,6 +161,12 @@ Words range(const Look& look) {
     return unequal("enabled", slider->isEnabled(), form.enabled);
 }
 
+Words progress(const Look& look) {
+    auto* bar = as<QProgressBar>(look);
+    if (bar == nullptr) return "no progress bar";
+    return unequal("value", bar->value(), static_cast<const RangeControl&>(look.control).value);
+}
+
 /// The rows as the form holds them, cell by cell.
 std::vector<std::vector<std::string>> rowsOf(const Control& control) {
     std::vector<std::vector<std::string>> rows;
@@ -259,7 +266,7 @@ constexpr KindLook kKinds[] = {
     {Kind::boardButton, button},    {Kind::switchButton, button}, {Kind::midButton, button},
     {Kind::PushButton, pushButton}, {Kind::Picture, pictureBox},  {Kind::Frame, frame},
     {Kind::Slider, range},          {Kind::UpDown, range},        {Kind::DriveList, combo},
-    {Kind::FolderList, list},       {Kind::FileList, list},
+    {Kind::FolderList, list},       {Kind::FileList, list},       {Kind::Progress, progress},
 };
 
 Words ofKind(const Look& look) {
