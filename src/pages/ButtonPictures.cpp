@@ -16,21 +16,6 @@ constexpr int kUsualRepeat = 500;
 
 constexpr FormRow kFormRows[] = {
     {"close", "close", kUsualRepeat},
-    {"close_export", "close", kUsualRepeat},
-    {"close_select", "close", kUsualRepeat},
-    {"close_dispatch", "close", kUsualRepeat},
-    {"close_log", "close", kUsualRepeat},
-    {"close_view", "close", kUsualRepeat},
-    {"close_set", "close", kUsualRepeat},
-    {"close_dir", "close", kUsualRepeat},
-    {"close_direx", "close", kUsualRepeat},
-    {"close_fly", "close", kUsualRepeat},
-    {"close_opt", "close", kUsualRepeat},
-    {"close_charts", "close", kUsualRepeat},
-    {"close_programs", "close", kUsualRepeat},
-    {"close_import", "close", kUsualRepeat},
-    {"close_routes", "close", kUsualRepeat},
-    {"close_career", "close", kUsualRepeat},
     {"charts", "charts", kUsualRepeat},
     {"routes", "map", kUsualRepeat},
     {"career", "career", kUsualRepeat},
@@ -53,9 +38,11 @@ constexpr FormRow kFormRows[] = {
     {"timeHr_dn", "minus", 200},
 };
 
+/// What closes a screen ("close_export") looks alike on all of them.
 const FormRow* formRow(std::string_view type) {
+    const std::string_view looks = type.starts_with("close_") ? "close" : type;
     for (const auto& row : kFormRows) {
-        if (row.type == type) return &row;
+        if (row.type == looks) return &row;
     }
     return nullptr;
 }
