@@ -12,7 +12,8 @@ namespace gatewise {
 struct LogDesk {
     std::vector<LogRecord> LogEntries; // 0 to LastLogIndex
     LogStore logStore;
-    LogRecord LogWorkingCopy; // the entry as it was when its screen opened
+    std::vector<LogRecord> unkept; // of LogEntries, those that no file took: filed when the book can be read
+    LogRecord LogWorkingCopy;      // the entry as it was when its screen opened
     std::int16_t LogPage = 1;
     std::int16_t LogSelected = 0;
     std::string LogField; // "dept", "arr", "day", "night", "inst": what the clock screen edits

@@ -6,6 +6,8 @@
 #include "schedule/Lookups.h"
 #include "work/Notices.h"
 
+#include <utility>
+
 namespace gatewise {
 
 namespace {
@@ -33,7 +35,17 @@ LogRecord newEntry(const Schedule& schedule, const Dispatch& dispatch, const Dat
 Notice keepEntry(const LogFiles& files, const LogRecord& entry, const std::error_code& doubt, LogDesk& log) {
     log.LogEntries.push_back(entry);
     const auto error = LogStore::keepBeside(files.book, entry);
+    if (error) log.unkept.push_back(entry);
     return failure(error ? error : doubt, "AddLogEntry");
+}
+
+/// Files what no file took so far, behind the entries that were read. What is refused again stays in view.
+void fileUnkept(const LogFiles& files, const DateTime& now, LogDesk& log) {
+    const std::vector<LogRecord> waiting = std::exchange(log.unkept, {});
+    for (const LogRecord& entry : waiting) {
+        if (log.logStore.add(files.book, entry, daySerial(now), log.LogEntries)) log.unkept.push_back(entry);
+        log.LogEntries.push_back(entry);
+    }
 }
 
 constexpr ClockField kFields[] = {
@@ -52,8 +64,10 @@ LogFiles logFiles(const std::string& AppDir, const std::string& FsPath) {
 
 std::error_code LoadLogBook(const LogFiles& files, const DateTime& now, LogDesk& log) {
     const auto error = log.logStore.load(files.book, daySerial(now), log.LogEntries);
-    if (!error) MergeLogRecords(files.exchange, log.LogEntries);
-    return error;
+    if (error) return error;
+    fileUnkept(files, now, log);
+    MergeLogRecords(files.exchange, log.LogEntries);
+    return {};
 }
 
 Notice AddLogEntry(const LogFiles& files, const Schedule& schedule, const Dispatch& dispatch,

@@ -93,6 +93,21 @@ TEST_F(UnreadLogBook, WhatWaitedIsFiledAtTheNextStart) {
     EXPECT_EQ(later.LogEntries.size(), 4U);
 }
 
+TEST_F(UnreadLogBook, WhatNoFileTookIsFiledWhenTheBookCanBeRead) {
+    (void)LoadLogBook(files, kNow, log);
+    std::filesystem::create_directories(folder / "Data/LogBook.new"); // nor does anything go beside it
+    EXPECT_EQ(add().errorNumber, static_cast<int>(std::errc::is_a_directory));
+    dispatch.CurrentFlight.FlightNumber = 78;
+    (void)add();
+    EXPECT_EQ(log.LogEntries.size(), 2U);
+    comeBack();
+    dispatch.CurrentFlight.FlightNumber = 79;
+    EXPECT_EQ(add().message, Message::LogEntryMade);
+    EXPECT_EQ(numbers(), (std::vector<int>{1, 2, 3, 77, 78, 79}));
+    EXPECT_EQ(log.LogEntries.size(), 6U);
+    EXPECT_TRUE(log.unkept.empty());
+}
+
 class SetThatDoesNotLoad : public testing::Test {
 protected:
     void SetUp() override {
