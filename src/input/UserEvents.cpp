@@ -1,5 +1,7 @@
 #include "input/UserEvents.h"
 
+#include "input/Blocking.h"
+
 #include <algorithm>
 
 namespace gatewise::user {
@@ -151,7 +153,7 @@ void moveTo(Screen& screen, double left, double top) {
 void turnTo(Forms& forms, Screen& screen) {
     const auto at = std::find(forms.front.begin(), forms.front.end(), &screen);
     if (at == forms.front.end() || &screen == &forms.MainForm) return;
-    if (std::any_of(forms.front.begin(), at, [](const Screen* above) { return above->modal; })) return;
+    if (blockedBy(forms, screen) != nullptr) return;
     std::rotate(forms.front.begin(), at, at + 1);
 }
 

@@ -1,5 +1,6 @@
 #include "window/Desk.h"
 
+#include "input/Blocking.h"
 #include "input/UserEvents.h"
 #include "window/Accessible.h"
 #include "window/QtText.h"
@@ -99,9 +100,8 @@ void Desk::syncWindow(ScreenWindow& window) {
 /// screen below it, which would block it otherwise.
 QWidget* Desk::ownerOf(const Screen& screen) const {
     if (&screen == &forms_.MainForm || &screen == &forms_.SplashForm) return nullptr;
-    const auto modal = std::find_if(forms_.front.begin(), forms_.front.end(),
-                                    [&](const Screen* below) { return below != &screen && below->modal; });
-    return &window(modal == forms_.front.end() ? forms_.MainForm : **modal);
+    const Screen* modal = user::modalBelow(forms_, screen);
+    return &window(modal == nullptr ? forms_.MainForm : *modal);
 }
 
 void Desk::showWindow(ScreenWindow& window) {

@@ -1,5 +1,6 @@
 #include "drive/Commands.h"
 #include "drive/Controls.h"
+#include "input/Blocking.h"
 
 #include <algorithm>
 #include <limits>
@@ -10,20 +11,8 @@ namespace {
 
 constexpr long long kMostRepeats = 100000; // of a key that is held
 
-/// The modal screen that keeps input from `screen`: everything behind it waits, what came up over it does
-/// not.
-const Screen* blockedBy(const Forms& forms, const Screen& screen) {
-    const Screen* modal = forms.modalScreen();
-    if (modal == nullptr) return nullptr;
-    for (const Screen* shown : forms.front) {
-        if (shown == &screen) return nullptr;
-        if (shown == modal) return modal;
-    }
-    return modal;
-}
-
 Outcome refuseScreen(const Forms& forms, const Screen& screen) {
-    if (const Screen* modal = blockedBy(forms, screen)) return modal->name + " is modal";
+    if (const Screen* modal = user::blockedBy(forms, screen)) return modal->name + " is modal";
     if (!screen.enabled) return screen.name + " is disabled";
     return kDone;
 }
