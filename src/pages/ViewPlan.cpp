@@ -65,9 +65,32 @@ void recalculateShownPlan(Program& p) {
     fillPlanList(p);
 }
 
+namespace {
+
+/// Points of the plan proper, without the computed ones, up to a row of the list.
+std::ptrdiff_t ownPointsBefore(const Plan& plan, int row) {
+    return std::count_if(plan.points.begin(), plan.points.begin() + row,
+                         [](const PlanPoint& point) { return !point.computed(); });
+}
+
+/// The point that comes after so many of the plan's own is picked, so that the next removal goes on there.
+void pickOwnPoint(Program& p, std::ptrdiff_t before) {
+    const Plan& plan = p.session.plan.plan;
+    int row = 0;
+    for (; row < plan.planLast; ++row) {
+        if (!plan.at(row).computed() && before-- == 0) break;
+    }
+    p.forms.ViewPlan.PlanList.picked = row;
+    markPoint(p);
+}
+
+} // namespace
+
 Waited removeShownPoint(Program& p) {
     const auto& f = p.forms.ViewPlan;
     if (f.PlanList.picked < 0) return waited(p);
+    const Plan& plan = p.session.plan.plan;
+    const auto before = ownPointsBefore(plan, std::min<int>(f.PlanList.picked, plan.planLast));
     switch (removePlanPoint(p.session.plan.plan, planInput(p), f.PlanList.picked + 1, f.AltUpDown.value)) {
     case Removal::Nothing:
         break;
@@ -77,6 +100,7 @@ Waited removeShownPoint(Program& p) {
         return ShowMsgBox(p, std::string(kComputedRefusal));
     case Removal::Done:
         fillPlanList(p);
+        pickOwnPoint(p, before);
         break;
     }
     return waited(p);
