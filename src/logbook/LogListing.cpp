@@ -68,6 +68,24 @@ constexpr std::size_t kLine = 80;
 constexpr std::size_t kHours = 8;   // width of each of the two columns of hours
 constexpr std::size_t kIndent = 12; // of the lines below a flight
 
+/// Lines of at most `width` characters, broken at blanks; a line feed ends one, a longer word is cut.
+std::vector<std::string> folded(std::string_view text, std::size_t width) {
+    std::vector<std::string> lines;
+    const std::string plain = replaceAll(replaceAll(std::string(text), "\r\n", "\n"), "\r", "\n");
+    std::string_view rest = plain;
+    while (rest.find('\n') != std::string_view::npos || rest.size() > width) {
+        const std::string_view reach = rest.substr(0, width + 1);
+        std::size_t end = std::min(reach.find('\n'), reach.size());
+        if (end > width) end = reach.rfind(' ');
+        const bool cut = end == std::string_view::npos || end == 0;
+        if (cut && reach.front() != '\n') end = width;
+        lines.emplace_back(rest.substr(0, end));
+        rest.remove_prefix(end + (rest[end] == '\n' || rest[end] == ' ' ? 1 : 0));
+    }
+    lines.emplace_back(rest);
+    return lines;
+}
+
 std::string sumLine(const std::string& words, const std::string& instrument, const std::string& pilot) {
     return right(words, kLine - 2 * kHours) + right(instrument, kHours) + right(pilot, kHours) + "\n";
 }
@@ -110,10 +128,11 @@ std::string logListing(const std::vector<LogRecord>& entries, int page, const st
             std::string(entry.airline.trimmed()) + " " + std::to_string(entry.flightNumber);
         out += padded(isoDate(entry.date) + "  " + flight, kLine - 2 * kHours) +
                right(text.instrument, kHours) + right(text.pilot, kHours) + "\n";
-        // Code and name of an airport always fit; comments may be longer than a line.
+        // Code and name of an airport always fit; comments may be longer than a line and have several.
         out += indent + hhmmText(entry.actualDeparture) + " " + std::string(trimmed(text.departure)) + "\n";
         out += indent + hhmmText(entry.actualArrival) + " " + std::string(trimmed(text.arrival)) + "\n";
-        out += indent + std::string(trimmed(text.notes)).substr(0, kLine - kIndent) + "\n\n";
+        for (const auto& line : folded(trimmed(text.notes), kLine - kIndent)) out += indent + line + "\n";
+        out += "\n";
     }
     out += std::string(kLine, '-') + "\n";
     out += sumLine("Totals this page", texts.pageInstrument, texts.pagePilot);

@@ -67,13 +67,23 @@ TEST(LogListing, ShowsThePageWithItsSums) {
               "                                                  Totals to date     8.0    60.8\n");
 }
 
-TEST(LogListing, CommentsEndWithTheLineAndAirportsAreWhole) {
+TEST(LogListing, CommentsKeepTheirColumnAndAirportsAreWhole) {
     LogRecord full = entry();
     full.departureName = std::string(35, 'D');
     full.comments = std::string(68, 'c') + "x";
     const std::string text = logListing({full}, 1, "", {});
     EXPECT_NE(text.find("07:35 KATL - " + std::string(35, 'D') + "\n"), std::string::npos);
     EXPECT_NE(text.find("\n            " + std::string(68, 'c') + "\n"), std::string::npos);
+    EXPECT_NE(text.find("c\n            x\n\n"), std::string::npos);
+    full.comments = "Fog. " + std::string(63, 'c') + " Late\r\n\r\nDiverted\rhome";
+    EXPECT_NE(logListing({full}, 1, "", {})
+                  .find("\n            Fog. " + std::string(63, 'c') +
+                        "\n            Late\n            \n            Diverted\n            home\n\n"),
+              std::string::npos);
+    full.comments = "Fog. " + std::string(64, 'c');
+    EXPECT_NE(logListing({full}, 1, "", {})
+                  .find("\n            Fog.\n            " + std::string(64, 'c') + "\n\n"),
+              std::string::npos);
     full.comments = std::string(67, 'c') + "x";
     EXPECT_NE(logListing({full}, 1, "", {}).find("cx\n"), std::string::npos);
 }
