@@ -132,7 +132,8 @@ void PaintedView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void PaintedView::mouseMoveEvent(QMouseEvent* event) {
-    if (!handlesAny({Event::Move})) {
+    // What is off lights up all the same.
+    if (control == nullptr || !control->handles(Event::Move)) {
         event->ignore();
         return;
     }
