@@ -352,11 +352,14 @@ struct HeldRoad {
 };
 
 /// Time of `work` while the device is held, the quickest of three tries: what else the machine does counts
-/// little then. `before` is not measured.
+/// little then. `before` is not measured. Ends when the threads that were left behind have: each holds its
+/// road.
 template<class Before, class Work> std::chrono::nanoseconds quickest(Before before, Work work) {
     auto best = std::chrono::nanoseconds::max();
+    std::vector<std::shared_ptr<std::atomic<bool>>> roads;
     for (int i = 0; i < 3; ++i) {
         HeldRoad held;
+        roads.push_back(held.opened);
         OpenAlDevice device(held.road);
         before(device);
         const auto start = std::chrono::steady_clock::now();
@@ -365,7 +368,7 @@ template<class Before, class Work> std::chrono::nanoseconds quickest(Before befo
         held.let.set_value();
         EXPECT_TRUE(opens(device));
     }
-    std::this_thread::sleep_for(200ms); // threads that were left behind close what they have got
+    for (const auto& road : roads) EXPECT_TRUE(soon([&] { return road.use_count() == 1; }));
     return best;
 }
 
@@ -416,7 +419,8 @@ TEST(OpenAlOutside, DeviceThatNeverAnswersIsLeftBehind) {
     }
     held.let.set_value();
     EXPECT_TRUE(soon([&] { return held.opened->load(); }));
-    std::this_thread::sleep_for(200ms); // the thread that was left behind closes what it has got
+    // The road itself and its holder are left, when the thread has closed what it got.
+    EXPECT_TRUE(soon([&] { return held.opened.use_count() == 2; }));
 }
 
 } // namespace
