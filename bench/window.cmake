@@ -1,0 +1,5 @@
+if(TARGET gatewise_stage)
+  add_executable(bench_window window.cpp)
+  target_compile_definitions(bench_window PRIVATE GATEWISE_PROGRAM_DIR="${GATEWISE_DELIVERED_DIR}")
+  target_link_libraries(bench_window PRIVATE gatewise_warnings gatewise_stage benchmark::benchmark)
+endif()
