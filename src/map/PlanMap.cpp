@@ -1,10 +1,10 @@
 #include "map/PlanMap.h"
 
 #include "map/Globe.h"
+#include "plan/PlanCharts.h"
 #include "platform/Numbers.h"
 
 #include <cmath>
-#include <cstdlib>
 
 namespace gatewise::map {
 
@@ -32,29 +32,17 @@ bool onEarth(double latitude, double longitude) {
            std::fabs(longitude) <= 720;
 }
 
-MapSpot spotOf(const PlanPoint& point) {
+MapSpot pointSpot(const PlanPoint& point) {
     return {static_cast<double>(point.pointLatitude), static_cast<double>(point.pointLongitude)};
 }
 
 bool drawable(const Plan& plan) {
     if (plan.planLast < 1 || !(plan.totalDistance > 0)) return false;
     for (int i = 0; i <= plan.planLast; ++i) {
-        const MapSpot spot = spotOf(plan.at(i));
+        const MapSpot spot = pointSpot(plan.at(i));
         if (!onEarth(spot.latitude, spot.longitude)) return false;
     }
     return true;
-}
-
-/// "ATL, 116.9, 12000 ft, 0:25"
-std::string wordsOf(const PlanPoint& point) {
-    std::string out(point.pointName.trimmed());
-    const auto description = point.pointDescription.trimmed();
-    if (!description.empty()) out.append(" ").append(description);
-    const auto frequency = point.pointFrequency.trimmed();
-    if (!frequency.empty()) out.append(", ").append(frequency);
-    out += ", " + std::to_string(point.pointAltitude) + " ft, " + std::to_string(point.pointMinutes / 60) +
-           ":" + formatInteger("00", std::abs(point.pointMinutes % 60));
-    return out;
 }
 
 void addPlaces(const Plan& plan, MapScene& scene) {
@@ -66,7 +54,7 @@ void addPlaces(const Plan& plan, MapScene& scene) {
             if (first != important) continue;
             const PlanPoint& point = plan.at(i);
             scene.places.push_back(
-                {spotOf(point), tone, std::string(point.pointName.trimmed()), wordsOf(point), i});
+                {pointSpot(point), tone, std::string(point.pointName.trimmed()), pointWords(plan, i), i});
         }
     }
 }
@@ -76,7 +64,7 @@ void addAlternate(const Plan& plan, MapScene& scene) {
     const auto code = alternate.Icao.trimmed();
     const MapSpot at{static_cast<double>(alternate.Latitude), static_cast<double>(alternate.Longitude)};
     if (code.empty() || !onEarth(at.latitude, at.longitude)) return;
-    scene.routes.push_back({{spotOf(plan.at(plan.planLast)), at}, Tone::Alternate, 0, "", -1, {}});
+    scene.routes.push_back({{pointSpot(plan.at(plan.planLast)), at}, Tone::Alternate, 0, "", -1, {}});
     scene.places.push_back({at, Tone::Alternate, std::string(code),
                             std::string(code) + " " + std::string(alternate.Name.trimmed()) + ", alternate",
                             -1});
@@ -120,7 +108,7 @@ MapScene planScene(const Plan& plan, std::shared_ptr<const Land> land) {
     if (!drawable(plan)) return scene;
     MapRoute route;
     for (int i = 0; i <= plan.planLast; ++i) {
-        route.points.push_back(spotOf(plan.at(i)));
+        route.points.push_back(pointSpot(plan.at(i)));
         if (i > 0) route.names.emplace_back(plan.at(i).pointAirway.trimmed());
     }
     scene.routes.push_back(std::move(route));

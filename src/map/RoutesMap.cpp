@@ -36,7 +36,7 @@ const AirportRecord* known(const Tables& tables, int index) {
     return onEarth ? &airport : nullptr;
 }
 
-MapSpot spotOf(const AirportRecord& airport) {
+MapSpot airportSpot(const AirportRecord& airport) {
     return {static_cast<double>(airport.Latitude), static_cast<double>(airport.Longitude)};
 }
 
@@ -83,7 +83,7 @@ MapScene routesScene(const Tables& tables, int from, const std::vector<Destinati
     scene.land = std::move(land);
     const AirportRecord* origin = known(tables, from);
     if (origin == nullptr) return scene;
-    const MapSpot start = spotOf(*origin);
+    const MapSpot start = airportSpot(*origin);
     int flights = 0;
     std::vector<std::size_t> order(destinations.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
@@ -97,13 +97,13 @@ MapScene routesScene(const Tables& tables, int from, const std::vector<Destinati
         const double share = std::min(destination.flights / kMostFlights, 1.0);
         const bool flown = destination.flights > 0;
         const std::string words = destinationText(destination);
-        scene.routes.push_back({{start, spotOf(airport)},
+        scene.routes.push_back({{start, airportSpot(airport)},
                                 flown ? Tone::Flight : Tone::Other,
                                 flown ? kThinnest + (kThickest - kThinnest) * share : kThinnest,
                                 words,
                                 static_cast<int>(i),
                                 {}});
-        scene.places.push_back({spotOf(airport), flown ? Tone::Fix : Tone::Other,
+        scene.places.push_back({airportSpot(airport), flown ? Tone::Fix : Tone::Other,
                                 std::string(airport.Icao.trimmed()), words, static_cast<int>(i)});
         flights += destination.flights;
     }
