@@ -77,7 +77,13 @@ Cap capAround(const std::vector<Vector>& points) {
         for (std::size_t i = 0; i < 3; ++i) sum[i] += p[i];
     }
     Cap cap{unit(sum), 0};
-    for (const Vector& p : points) cap.radius = std::max(cap.radius, arcBetween(cap.middle, p));
+    // By the longest chord: exact for near points, and one arc for all of them.
+    double longest = 0;
+    for (const Vector& p : points) {
+        const Vector way{p[0] - cap.middle[0], p[1] - cap.middle[1], p[2] - cap.middle[2]};
+        longest = std::max(longest, dot(way, way));
+    }
+    cap.radius = 2 * std::asin(std::min(1.0, std::sqrt(longest) / 2));
     return cap;
 }
 

@@ -3,12 +3,22 @@
 #include "platform/Files.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <string>
 
 namespace gatewise::map {
+
+/// Lines of one kind and scale where the file has them.
+struct LandLayer {
+    int kind = 0;
+    int scale = 0;
+    std::size_t count = 0;
+    ByteView bytes;
+};
 
 namespace {
 
@@ -26,12 +36,7 @@ constexpr LevelRow kLevels[] = {
 
 enum Kind { kLand, kLakes, kBorders, kKinds };
 
-/// Lines of one kind and scale as the file has them.
-struct Layer {
-    int kind = 0;
-    int scale = 0;
-    std::vector<std::vector<Vector>> lines;
-};
+using Lines = std::vector<std::vector<Vector>>;
 
 /// Takes zigzag numbers of seven bits a byte from a block; `good` falls when it breaks off.
 class Numbers {
@@ -55,27 +60,26 @@ private:
     std::size_t at_ = 0;
 };
 
-bool readLine(Numbers& numbers, std::vector<Vector>& line) {
+/// Hands the points of the next line to `take` as thousandths of a degree; false when it breaks off.
+template<class Take> bool readLine(Numbers& numbers, Take take) {
     const int count = numbers.next();
     // A point takes two bytes at least, so that a false count asks for no memory.
     if (!numbers.good || count < 1 || static_cast<std::size_t>(count) > numbers.left() / 2) return false;
-    line.reserve(static_cast<std::size_t>(count));
     long long longitude = 0, latitude = 0;
     for (int i = 0; i < count; ++i) {
         longitude += numbers.next();
         latitude += numbers.next();
         if (!numbers.good || longitude < -360'000 || longitude > 360'000) return false;
         if (latitude < -90'000 || latitude > 90'000) return false;
-        line.push_back(
-            vectorOf({static_cast<double>(latitude) / kUnit, static_cast<double>(longitude) / kUnit}));
+        take(static_cast<double>(latitude) / kUnit, static_cast<double>(longitude) / kUnit);
     }
     return true;
 }
 
 constexpr std::size_t kLayerHead = 12;
 
-/// Reads the layer at `at` and moves behind it; false when it is broken.
-bool readLayer(ByteView bytes, std::size_t& at, Layer& layer) {
+/// Finds the layer at `at` and moves behind it; false when it is broken.
+bool findLayer(ByteView bytes, std::size_t& at, LandLayer& layer) {
     const auto kind = numberAt<std::uint8_t>(bytes, at);
     const auto scale = numberAt<std::uint8_t>(bytes, at + 1);
     const auto count = numberAt<std::uint32_t>(bytes, at + 4);
@@ -83,24 +87,35 @@ bool readLayer(ByteView bytes, std::size_t& at, Layer& layer) {
     if (!kind || !scale || !count || !length || *kind >= kKinds) return false;
     at += kLayerHead;
     if (*length > bytes.size() - at || *count > *length) return false;
-    Numbers numbers(bytes.subspan(at, *length));
-    layer = {*kind, *scale, std::vector<std::vector<Vector>>(*count)};
-    if (!std::all_of(layer.lines.begin(), layer.lines.end(),
-                     [&](auto& line) { return readLine(numbers, line); }))
-        return false;
+    layer = {*kind, *scale, *count, bytes.subspan(at, *length)};
     at += *length;
+    Numbers numbers(layer.bytes);
+    for (std::size_t i = 0; i < layer.count; ++i) {
+        if (!readLine(numbers, [](double, double) {})) return false;
+    }
     return numbers.left() == 0;
 }
 
-bool readLayers(ByteView bytes, std::vector<Layer>& layers) {
-    if (bytes.size() < kMagic.size() || !std::equal(kMagic.begin(), kMagic.end(), bytes.begin()))
-        return false;
+/// The layers of a file, all of it looked through; none when it is broken.
+std::vector<LandLayer> layersOf(ByteView bytes) {
+    if (bytes.size() < kMagic.size() || !std::equal(kMagic.begin(), kMagic.end(), bytes.begin())) return {};
     const auto count = numberAt<std::uint32_t>(bytes, kMagic.size());
-    if (!count || *count > 2 * kKinds) return false;
+    if (!count || *count > 2 * kKinds) return {};
     std::size_t at = kMagic.size() + 4;
-    layers.resize(*count);
-    return std::all_of(layers.begin(), layers.end(), [&](Layer& l) { return readLayer(bytes, at, l); }) &&
-           at == bytes.size();
+    std::vector<LandLayer> layers(*count);
+    const bool good =
+        std::all_of(layers.begin(), layers.end(), [&](LandLayer& l) { return findLayer(bytes, at, l); });
+    return good && at == bytes.size() ? layers : std::vector<LandLayer>();
+}
+
+Lines linesOf(const LandLayer& layer) {
+    Lines lines(layer.count);
+    Numbers numbers(layer.bytes);
+    for (auto& line : lines)
+        (void)readLine(numbers, [&](double latitude, double longitude) {
+            line.push_back(vectorOf(Spot{latitude, longitude}));
+        });
+    return lines;
 }
 
 /// A ring is thinned in two halves, which its farthest points part; else it would fall together.
@@ -118,21 +133,27 @@ std::vector<Vector> thinned(const std::vector<Vector>& line, bool ring, double t
     return out;
 }
 
-std::vector<Outline>& linesOf(LandLevel& level, int kind) {
+std::vector<Outline>& outlinesOf(LandLevel& level, int kind) {
     return kind == kLand ? level.land : kind == kLakes ? level.lakes : level.borders;
 }
 
-LandLevel levelOf(std::vector<Layer>& layers, const LevelRow& row) {
-    LandLevel level{row.degrees * kDegree, {}, {}, {}};
-    for (Layer& layer : layers) {
-        if (layer.scale != row.scale) continue;
-        const bool ring = layer.kind != kBorders;
-        for (auto& line : layer.lines) {
-            // Each level is made of the finer one, which has fewer points than the file.
-            if (row.thins) line = thinned(line, ring, level.tolerance);
-            Outline outline = outlineOf(line, ring);
+/// The lines of a layer as fine as a row wants them: each is made of the finer row's, which has fewer points
+/// than the file.
+Lines linesFor(const LandLayer& layer, std::size_t row) {
+    if (!kLevels[row].thins) return linesOf(layer);
+    Lines lines = linesFor(layer, row - 1);
+    for (auto& line : lines) line = thinned(line, layer.kind != kBorders, kLevels[row].degrees * kDegree);
+    return lines;
+}
+
+LandLevel levelOf(const std::vector<LandLayer>& layers, std::size_t row) {
+    LandLevel level{kLevels[row].degrees * kDegree, {}, {}, {}};
+    for (const LandLayer& layer : layers) {
+        if (layer.scale != kLevels[row].scale) continue;
+        for (const auto& line : linesFor(layer, row)) {
+            Outline outline = outlineOf(line, layer.kind != kBorders);
             if (outline.points.empty() || outline.cap.radius < level.tolerance) continue;
-            linesOf(level, layer.kind).push_back(std::move(outline));
+            outlinesOf(level, layer.kind).push_back(std::move(outline));
         }
     }
     return level;
@@ -140,20 +161,43 @@ LandLevel levelOf(std::vector<Layer>& layers, const LevelRow& row) {
 
 } // namespace
 
-const LandLevel* Land::level(double tolerance) const {
-    const LandLevel* found = levels.empty() ? nullptr : &levels.front();
-    for (const LandLevel& level : levels) {
-        if (level.tolerance <= tolerance) found = &level;
+/// The file and the levels made of it so far.
+class Land::Maker {
+public:
+    explicit Maker(Bytes file) : file_(std::move(file)), layers_(layersOf(file_)) {}
+    [[nodiscard]] bool empty() const { return layers_.empty(); }
+    const LandLevel& at(std::size_t row) {
+        const std::scoped_lock lock(guard_);
+        if (!made_.at(row)) made_.at(row) = std::make_unique<const LandLevel>(levelOf(layers_, row));
+        return *made_.at(row);
     }
-    return found;
+
+private:
+    Bytes file_;
+    std::vector<LandLayer> layers_;
+    std::mutex guard_;
+    std::array<std::unique_ptr<const LandLevel>, std::size(kLevels)> made_;
+};
+
+Land::Land(Bytes file) : maker_(std::make_shared<Maker>(std::move(file))) {
+    if (maker_->empty()) maker_.reset();
 }
 
-Land landOf(ByteView bytes) {
-    std::vector<Layer> layers;
-    if (!readLayers(bytes, layers)) return {};
-    Land land;
-    for (const LevelRow& row : kLevels) land.levels.push_back(levelOf(layers, row));
-    return land;
+std::size_t Land::levels() const {
+    return maker_ ? std::size(kLevels) : 0;
+}
+
+const LandLevel& Land::at(std::size_t level) const {
+    return maker_->at(level);
+}
+
+const LandLevel* Land::level(double tolerance) const {
+    if (!maker_) return nullptr;
+    std::size_t found = 0;
+    for (std::size_t i = 0; i < std::size(kLevels); ++i) {
+        if (kLevels[i].degrees * kDegree <= tolerance) found = i;
+    }
+    return &at(found);
 }
 
 std::shared_ptr<const Land> readLand(std::string_view path) {
@@ -162,8 +206,8 @@ std::shared_ptr<const Land> readLand(std::string_view path) {
     const std::scoped_lock lock(guard);
     auto& held = known[std::string(path)];
     if (auto land = held.lock()) return land;
-    const auto bytes = files::readAll(path);
-    auto land = std::make_shared<const Land>(bytes ? landOf(*bytes) : Land());
+    auto bytes = files::readAll(path);
+    auto land = std::make_shared<const Land>(bytes ? Land(std::move(*bytes)) : Land());
     held = land;
     return land;
 }

@@ -40,10 +40,22 @@ struct LandLevel {
     std::vector<Outline> land, lakes, borders;
 };
 
+/// A level is made when it is first asked for: most maps need a coarse one, which is a tenth of the work.
 struct Land {
-    std::vector<LandLevel> levels; // the finest first
+public:
+    Land() = default;
+    /// The file's bytes as they are; without any level when they are no such file or break off.
+    explicit Land(Bytes file);
+
+    /// Number of levels, 0 the finest.
+    [[nodiscard]] std::size_t levels() const;
+    [[nodiscard]] const LandLevel& at(std::size_t level) const;
     /// The coarsest level that is as fine as `tolerance` (radians), else the finest; null without land.
     [[nodiscard]] const LandLevel* level(double tolerance) const;
+
+private:
+    class Maker;
+    std::shared_ptr<Maker> maker_;
 };
 
 /// Points of a line of which none left out is more than `tolerance` radians away from it; the ends stay.
@@ -52,9 +64,6 @@ std::vector<Vector> simplified(const std::vector<Vector>& line, double tolerance
 /// An outline ready for drawing. A ring of fewer than 3 points or a line of fewer than 2 gives one without
 /// points.
 Outline outlineOf(const std::vector<Vector>& points, bool ring);
-
-/// The land of a file; without any level when the bytes are no such file or break off.
-Land landOf(ByteView bytes);
 
 /// The land of a file on disk, read once for all who ask while one of them still holds it.
 std::shared_ptr<const Land> readLand(std::string_view path);

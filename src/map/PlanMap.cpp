@@ -1,10 +1,10 @@
 #include "map/PlanMap.h"
 
 #include "map/Globe.h"
+#include "plan/PlanCharts.h"
 #include "platform/Numbers.h"
 
 #include <cmath>
-#include <cstdlib>
 
 namespace gatewise::map {
 
@@ -45,18 +45,6 @@ bool drawable(const Plan& plan) {
     return true;
 }
 
-/// "ATL, 116.9, 12000 ft, 0:25"
-std::string wordsOf(const PlanPoint& point) {
-    std::string out(point.pointName.trimmed());
-    const auto description = point.pointDescription.trimmed();
-    if (!description.empty()) out.append(" ").append(description);
-    const auto frequency = point.pointFrequency.trimmed();
-    if (!frequency.empty()) out.append(", ").append(frequency);
-    out += ", " + std::to_string(point.pointAltitude) + " ft, " + std::to_string(point.pointMinutes / 60) +
-           ":" + formatInteger("00", std::abs(point.pointMinutes % 60));
-    return out;
-}
-
 void addPlaces(const Plan& plan, MapScene& scene) {
     // Airports and tops get their words before the fixes do.
     for (const bool important : {true, false}) {
@@ -66,7 +54,7 @@ void addPlaces(const Plan& plan, MapScene& scene) {
             if (first != important) continue;
             const PlanPoint& point = plan.at(i);
             scene.places.push_back(
-                {pointSpot(point), tone, std::string(point.pointName.trimmed()), wordsOf(point), i});
+                {pointSpot(point), tone, std::string(point.pointName.trimmed()), pointWords(plan, i), i});
         }
     }
 }

@@ -86,6 +86,11 @@ MapSight fitted(const MapScene& scene, const SheetSize& size) {
     return sight;
 }
 
+bool samePlaces(const MapScene& a, const MapScene& b) {
+    return std::equal(a.places.begin(), a.places.end(), b.places.begin(), b.places.end(),
+                      [](const MapPlace& x, const MapPlace& y) { return x.at == y.at; });
+}
+
 MapSight panned(const MapSight& sight, const SheetSize& size, double dx, double dy) {
     return centred(sight, size, {size.width / 2 - dx, size.height / 2 - dy});
 }

@@ -55,6 +55,9 @@ private:
 /// nothing.
 MapSight fitted(const MapScene& scene, const SheetSize& size);
 
+/// Whether the same places stand on both, whatever else is told of them: a sight of one fits the other.
+bool samePlaces(const MapScene& a, const MapScene& b);
+
 /// What was in the middle is moved by so many pixels.
 MapSight panned(const MapSight& sight, const SheetSize& size, double dx, double dy);
 

@@ -2,6 +2,7 @@
 
 #include "map/LandData.h"
 #include "map/MapDrawing.h"
+#include "map/SheetClip.h"
 
 namespace gatewise {
 
@@ -14,7 +15,16 @@ Drawing wholeScene(const MapChart& chart) {
     bare.land = nullptr;
     if (bare.places.empty()) return {};
     const map::Sheet sheet;
-    return drawMap(bare, fitted(bare, sheet.size), sheet);
+    return map::withinSheet(drawMap(bare, fitted(bare, sheet.size), sheet));
+}
+
+Drawing paperMap(const MapScene& scene) {
+    if (scene.places.empty()) return {};
+    constexpr map::SheetSize kHalf{700, 480}; // pixels of a screen: half a sheet less its margins
+    const map::Sheet sheet{kHalf, 9, {}};
+    Drawing out = drawMap(scene, fitted(scene, kHalf), sheet);
+    out.aspect = kHalf.width / kHalf.height;
+    return out;
 }
 
 void setScene(MapChart& chart, MapScene scene) {

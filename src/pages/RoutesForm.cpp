@@ -1,6 +1,7 @@
 #include "pages/RoutesForm.h"
 
 #include "map/RoutesMap.h"
+#include "map/Sight.h"
 #include "pages/Maps.h"
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
@@ -13,7 +14,7 @@ namespace gatewise {
 
 namespace {
 
-int numberOf(const std::string& text) {
+int digitsOf(const std::string& text) {
     int value = 0;
     std::from_chars(text.data(), text.data() + text.size(), value);
     return value;
@@ -22,7 +23,7 @@ int numberOf(const std::string& text) {
 std::vector<map::Destination> destinations(const Program& p) {
     const auto& f = p.forms.MainForm;
     const map::RoutesFilter filter{f.dayCombo.data(), p.session.board.BoardAirlineCode.view(),
-                                   numberOf(f.gt_hoursLABEL.text) * 100 + numberOf(f.gt_minutesLABEL.text)};
+                                   digitsOf(f.gt_hoursLABEL.text) * 100 + digitsOf(f.gt_minutesLABEL.text)};
     return map::destinationsOf(p.session.schedule.tables, p.session.schedule.DepartureFlights, filter);
 }
 
@@ -31,13 +32,23 @@ std::string nextText(const map::Destination& d) {
     return formatInteger("00", d.next / 100) + ":" + formatInteger("00", d.next % 100);
 }
 
+void pointOut(forms::RoutesForm& f, int row) {
+    f.map.chosen = row;
+    f.hover_LABEL.text = f.map.scene.summary;
+    for (const auto& route : f.map.scene.routes) {
+        if (row >= 0 && route.id == row) f.hover_LABEL.text = route.words;
+    }
+}
+
+/// What stands out goes on to do so where the same places are left.
 void fillRoutes(Program& p) {
     auto& f = p.forms.RoutesForm;
     const auto list = destinations(p);
-    f.map.chosen = -1;
-    setScene(f.map, map::routesScene(p.session.schedule.tables, p.session.dispatch.DepartureIndex, list,
-                                     shownLand(p)));
-    f.hover_LABEL.text = f.map.scene.summary;
+    MapScene scene =
+        map::routesScene(p.session.schedule.tables, p.session.dispatch.DepartureIndex, list, shownLand(p));
+    if (scene == f.map.scene && !f.routesList.rows.empty()) return;
+    const int chosen = map::samePlaces(scene, f.map.scene) ? f.map.chosen : -1;
+    setScene(f.map, std::move(scene));
     f.routesList.clear();
     for (const auto& d : list) {
         f.routesList.rows.push_back(
@@ -45,21 +56,21 @@ void fillRoutes(Program& p) {
              {" " + d.city, std::to_string(d.miles), std::to_string(d.flights), nextText(d)},
              false});
     }
+    pointOut(f, chosen);
 }
 
-void choose(forms::RoutesForm& f, int row) {
-    f.map.chosen = row;
-    const auto& routes = f.map.scene.routes;
-    f.hover_LABEL.text = f.map.scene.summary;
-    for (const auto& route : routes) {
-        if (route.id == row && row >= 0) f.hover_LABEL.text = route.words;
-    }
+/// Clock, day, airline and airport may have changed while the map is open: what the pointer is told is true.
+void pointAtRoute(Program& p, int id) {
+    auto& f = p.forms.RoutesForm;
+    const MapScene before = f.map.scene;
+    fillRoutes(p);
+    pointOut(f, map::samePlaces(before, f.map.scene) ? id : -1);
 }
 
-Waited take(Program& p, int row) {
+Waited takeRoute(Program& p, int row) {
     auto& f = p.forms.RoutesForm;
     if (row < 0 || row >= static_cast<int>(f.routesList.rows.size())) return waited(p);
-    const int airport = numberOf(f.routesList.rows[static_cast<std::size_t>(row)].key);
+    const int airport = digitsOf(f.routesList.rows[static_cast<std::size_t>(row)].key);
     hideScreen(p, f);
     return pickArrival(p, airport);
 }
@@ -69,6 +80,7 @@ Waited take(Program& p, int row) {
 void showRoutes(Program& p) {
     if (p.session.schedule.DepartureFlights.empty()) return;
     fillRoutes(p);
+    pointOut(p.forms.RoutesForm, -1);
     showScreen(p, p.forms.RoutesForm);
 }
 
@@ -80,11 +92,11 @@ void bindRoutesForm(Program& p) {
             p.forms.RoutesForm.routesList.resetColumn(i);
     };
     f.activate = [&p] { CenterOnMain(p, p.forms.RoutesForm); };
-    f.map.on(Event::Pick, [&p](const EventArgs& args) { return take(p, args.value); });
-    f.map.on(Event::Hover, [&f](const EventArgs& args) { choose(f, args.value); });
-    f.routesList.on(Event::Click, [&f] { choose(f, f.routesList.picked); });
-    f.routesList.on(Event::DoubleClick, [&p, &f] { return take(p, f.routesList.picked); });
-    f.routesList.on(Event::Enter, [&p, &f] { return take(p, f.routesList.picked); });
+    f.map.on(Event::Pick, [&p](const EventArgs& args) { return takeRoute(p, args.value); });
+    f.map.on(Event::Hover, [&p](const EventArgs& args) { pointAtRoute(p, args.value); });
+    f.routesList.on(Event::Click, [&p, &f] { pointAtRoute(p, f.routesList.picked); });
+    f.routesList.on(Event::DoubleClick, [&p, &f] { return takeRoute(p, f.routesList.picked); });
+    f.routesList.on(Event::Enter, [&p, &f] { return takeRoute(p, f.routesList.picked); });
     f.routesList.on(Event::Column, [&f](const EventArgs& args) { f.routesList.resetColumn(args.value); });
     f.BG.on(Event::Move, [&f] { restorePictures(f); });
 }

@@ -1,11 +1,11 @@
 #include "pages/ViewPlan.h"
 
+#include "pages/Maps.h"
 #include "pages/MsgBox.h"
 #include "pages/MsgForm.h"
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
 #include "pages/PlanCharts.h"
-#include "plan/PlanCharts.h"
 #include "plan/PrintPlan.h"
 #include "work/PlanWork.h"
 
@@ -113,7 +113,8 @@ Waited printFlightPlan(Program& p) {
         printFlightPlan(s.plan.plan, s.dispatch.CurrentFlight, now, p.machine.locale.shortDate(now),
                         MagneticTable(s.settings.FsPath), s.locale.numbers);
     std::vector<Drawing> drawings;
-    if (p.forms.PlanCharts.visible) drawings = {profileDrawing(s.plan.plan), mapDrawing(s.plan.plan)};
+    const auto& charts = p.forms.PlanCharts;
+    if (charts.visible) drawings = {charts.profileChart.whole(), paperMap(charts.mapChart.scene)};
     const auto error = p.machine.printer.print(std::string(kPrintFont), kPrintFontSize, text, drawings);
     return error ? ShowMessage(p, failure(error, "printFlightPlan")) : waited(p);
 }

@@ -144,12 +144,6 @@ std::string timeText(int minutes) {
     return std::to_string(minutes / 60) + ":" + formatInteger("00", minutes % 60);
 }
 
-/// "BDR, 17000 ft, 0:13"
-std::string wordsOf(const PlanPoint& point) {
-    return std::string(point.pointName.trimmed()) + ", " + std::to_string(point.pointAltitude) + " ft, " +
-           timeText(std::max<int>(point.pointMinutes, 0));
-}
-
 /// The way flown after so many minutes, between the points that have a time.
 double milesAt(const Plan& plan, int minutes) {
     for (int i = 1; i <= plan.planLast; ++i) {
@@ -196,6 +190,18 @@ void addLevels(Drawing& out, const Plan& plan, const ProfileSheet& place) {
 
 } // namespace
 
+std::string pointWords(const Plan& plan, int i) {
+    constexpr std::string_view kNoFrequency = "000.00";
+    const PlanPoint& point = plan.at(i);
+    std::string out(point.pointName.trimmed());
+    const auto description = point.pointDescription.trimmed();
+    if (!description.empty()) out.append(" ").append(description);
+    const auto frequency = point.pointFrequency.trimmed();
+    if (!frequency.empty() && frequency != kNoFrequency) out.append(", ").append(frequency);
+    return out + ", " + formatNumber("#####0", altitudeAt(plan, i)) + " ft, " +
+           timeText(std::max<int>(point.pointMinutes, 0));
+}
+
 Drawing profileNotes(const Plan& plan) {
     Drawing out;
     if (!drawable(plan)) return out;
@@ -203,7 +209,7 @@ Drawing profileNotes(const Plan& plan) {
     addLevels(out, plan, place);
     addTimes(out, plan, place);
     for (int i = 0; i <= plan.planLast; ++i)
-        out.marks.push_back({place(plan, i), toneOf(plan, i), "", i, wordsOf(plan.at(i))});
+        out.marks.push_back({place(plan, i), toneOf(plan, i), "", i, pointWords(plan, i)});
     return out;
 }
 

@@ -11,8 +11,12 @@ namespace gatewise {
 /// length.
 Drawing profileDrawing(const Plan& plan);
 
+/// A point in words, as far as it has them: "BDR BRIDGEPORT, 108.80, 17000 ft, 0:13". The airports at both
+/// ends are told with their elevation.
+std::string pointWords(const Plan& plan, int i);
+
 /// What stands upon the profile besides: the levels that are held, the time above, every point as a mark with
-/// its index as id and its name, altitude and time as words. Empty where the profile is.
+/// its index as id and its words. Empty where the profile is.
 Drawing profileNotes(const Plan& plan);
 
 /// The route on a map around its middle, distances from there true in every direction, north up: legs as

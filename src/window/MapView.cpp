@@ -43,8 +43,8 @@ MapView::MapView(Actor& actor, Control* control, const ControlLayout& place, QWi
 void MapView::sync() {
     syncCommon();
     if (mapChart().scene == shown_ && chart().chosen == chosen_) return;
-    // Another scene is shown whole; another choice leaves the map where it is.
-    if (!(mapChart().scene == shown_)) fits_ = true;
+    // Other places are shown whole; another choice, or news of the same places, leaves the map where it is.
+    if (!samePlaces(mapChart().scene, shown_)) fits_ = true;
     shown_ = mapChart().scene;
     chosen_ = chart().chosen;
     if (fits_) sight_ = fitted(shown_, size());

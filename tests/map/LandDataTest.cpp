@@ -40,13 +40,14 @@ bool onLand(const LandLevel& level, const Spot& spot) {
 TEST(Land, TheShippedFileHasTheWorldInFiveDegreesOfDetail) {
     const Bytes bytes = shipped();
     EXPECT_LT(bytes.size(), 3'000'000U);
-    const Land land = landOf(bytes);
-    ASSERT_EQ(land.levels.size(), 5U);
-    for (std::size_t i = 1; i < land.levels.size(); ++i) {
-        EXPECT_GT(land.levels[i].tolerance, land.levels[i - 1].tolerance);
-        EXPECT_LE(land.levels[i].land.size(), land.levels[i - 1].land.size());
+    const Land land = Land(bytes);
+    ASSERT_EQ(land.levels(), 5U);
+    for (std::size_t i = 1; i < land.levels(); ++i) {
+        EXPECT_GT(land.at(i).tolerance, land.at(i - 1).tolerance);
+        EXPECT_LE(land.at(i).land.size(), land.at(i - 1).land.size());
     }
-    for (const LandLevel& level : land.levels) {
+    for (std::size_t i = 0; i < land.levels(); ++i) {
+        const LandLevel& level = land.at(i);
         EXPECT_TRUE(onLand(level, {39.1, -94.6})) << "Kansas City";
         EXPECT_TRUE(onLand(level, {-80, 45})) << "Antarctica";
         EXPECT_TRUE(onLand(level, {66, 179.5})) << "east of the date line";
@@ -58,10 +59,10 @@ TEST(Land, TheShippedFileHasTheWorldInFiveDegreesOfDetail) {
 }
 
 TEST(Land, ALevelIsAsCoarseAsItMayBe) {
-    const Land land = landOf(shipped());
-    EXPECT_EQ(land.level(10), &land.levels.back());
-    EXPECT_EQ(land.level(0.02 * kDegree), &land.levels[2]);
-    EXPECT_EQ(land.level(1e-9), &land.levels.front());
+    const Land land = Land(shipped());
+    EXPECT_EQ(land.level(10), &land.at(4));
+    EXPECT_EQ(land.level(0.02 * kDegree), &land.at(2));
+    EXPECT_EQ(land.level(1e-9), &land.at(0));
     EXPECT_EQ(Land().level(1), nullptr);
 }
 
@@ -69,18 +70,19 @@ TEST(Land, AFileThatBreaksOffGivesNoLand) {
     const Bytes whole = shipped();
     for (const std::size_t length : {std::size_t{0}, std::size_t{7}, std::size_t{8}, std::size_t{12},
                                      std::size_t{20}, whole.size() / 2, whole.size() - 1}) {
-        EXPECT_TRUE(landOf(ByteView(whole).first(length)).levels.empty()) << length;
+        const Bytes part(whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(length));
+        EXPECT_EQ(Land(part).levels(), 0U) << length;
     }
     Bytes longer = whole;
     longer.push_back(0);
-    EXPECT_TRUE(landOf(longer).levels.empty());
+    EXPECT_EQ(Land(longer).levels(), 0U);
     Bytes other = whole;
     other[0] = 'X';
-    EXPECT_TRUE(landOf(other).levels.empty());
+    EXPECT_EQ(Land(other).levels(), 0U);
 }
 
 TEST(Land, AMissingFileGivesNoLand) {
-    EXPECT_TRUE(readLand("/nowhere/land.bin")->levels.empty());
+    EXPECT_EQ(readLand("/nowhere/land.bin")->levels(), 0U);
 }
 
 TEST(Simplified, KeepsEndsAndWhatIsFarOff) {

@@ -53,6 +53,54 @@ TEST(ProfileDrawing, APlanWithoutLengthIsEmpty) {
     EXPECT_TRUE(mapDrawing(plan).lines.empty());
 }
 
+std::string textsOf(const Drawing& drawing) {
+    std::string out;
+    for (const auto& text : drawing.texts) out += text.text + " ";
+    return out;
+}
+
+TEST(ProfileNotes, TellTimesLevelsAndEveryPoint) {
+    Plan plan = flown(40, -80, -70);
+    plan.at(1).pointMinutes = 40;
+    plan.at(2).pointMinutes = 70;
+    const Drawing notes = profileNotes(plan);
+    EXPECT_EQ(textsOf(notes), "0:10 0:20 0:30 0:40 0:50 1:00 1:10 ")
+        << "no level lasts: two legs, up and down";
+    ASSERT_EQ(notes.marks.size(), 3U);
+    EXPECT_EQ(notes.marks[1].id, 1);
+    EXPECT_EQ(notes.marks[1].tone, Tone::Top);
+    EXPECT_EQ(notes.marks[1].words, "*TOC*, 33000 ft, 0:40");
+    EXPECT_EQ(notes.marks[0].words, "KAAA, 1000 ft, 0:00");
+    // The marks lie on the profile, and 0:20 halfway to the point that is passed at 0:40.
+    const auto points = route(profileDrawing(plan)).points;
+    for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(notes.marks[i].at, points[i]);
+    EXPECT_NEAR(notes.texts[1].at.x, (points[0].x + points[1].x) / 2, 1e-9);
+}
+
+TEST(ProfileNotes, ALevelIsSaidOnceForEachStretch) {
+    Plan plan = flown(40, -80, -70);
+    plan.planLast = 5;
+    const int feet[] = {0, 31000, 31000, 31000, 35000, 0};
+    for (int i = 0; i <= 5; ++i) {
+        plan.at(i) = plan.at(0);
+        plan.at(i).pointAltitude = feet[i];
+        plan.at(i).pointTotalDistance = 120 * static_cast<float>(i);
+    }
+    EXPECT_EQ(textsOf(profileNotes(plan)), "FL310 ");
+    plan.at(4).pointAltitude = 31000;
+    plan.at(3).pointTotalDistance = 230; // the second stretch is a short one
+    plan.at(2).pointTotalDistance = 225;
+    EXPECT_EQ(textsOf(profileNotes(plan)), "FL310 ");
+}
+
+TEST(ProfileNotes, APlanWithoutLengthOrTimesHasNone) {
+    EXPECT_TRUE(profileNotes(Plan()).marks.empty());
+    EXPECT_EQ(textsOf(profileNotes(flown(40, -80, -70))), "");
+    Plan endless = flown(40, -80, -70);
+    endless.at(2).pointMinutes = 3000;
+    EXPECT_EQ(textsOf(profileNotes(endless)), "");
+}
+
 TEST(MapDrawing, PositionsThatDoNotExistAreNotDrawn) {
     Plan plan = flown(40, -80, -70);
     plan.at(1).pointLatitude = std::nanf("");

@@ -13,6 +13,7 @@ PAGES = (
     ('boards.htm', 'Boards', 'The status board'),
     ('pass.htm', 'Boarding pass', 'The boarding pass'),
     ('plan.htm', 'Flight plan', 'The flight plan'),
+    ('maps.htm', 'Maps', 'Maps'),
     ('exports.htm', 'Exports', 'Exports'),
     ('flying.htm', 'Flying', 'Flying'),
     ('logbook.htm', 'Log book', 'The log book'),

@@ -14,7 +14,7 @@ namespace gatewise::tour {
 namespace {
 
 /// Pictures that are taken for fine screens too.
-constexpr const char* kFine[] = {"board", "pass", "settings", "plan", "log"};
+constexpr const char* kFine[] = {"board", "pass", "settings", "plan", "log", "charts", "routes"};
 
 /// A few downloaded tables as an import takes them; returns their folder.
 std::string writeTables(const std::string& appDir) {
@@ -124,6 +124,8 @@ void Tour::search() {
             stage_.key(Qt::Key_Home);
             stage_.click(f_.SelectForm.selectButton);
         });
+    visit(
+        "routes", f_.RoutesForm, [this] { stage_.click(f_.MainForm.routesButton); }, [this] { close(); });
     then([this] {
         stage_.click(f_.MainForm.arrSearch);
         stage_.type("miami");

@@ -1,0 +1,8 @@
+add_executable(bench_map map.cpp)
+target_link_libraries(bench_map PRIVATE gatewise_warnings gatewise_map benchmark::benchmark_main)
+target_compile_definitions(bench_map PRIVATE GATEWISE_LAND="${PROJECT_SOURCE_DIR}/data/land/land.bin")
+if(TARGET gatewise_window)
+  add_executable(bench_frames frames.cpp)
+  target_link_libraries(bench_frames PRIVATE gatewise_warnings gatewise_window)
+  target_compile_definitions(bench_frames PRIVATE GATEWISE_LAND="${PROJECT_SOURCE_DIR}/data/land/land.bin")
+endif()
