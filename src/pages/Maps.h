@@ -11,6 +11,9 @@ std::shared_ptr<const map::Land> shownLand(const Program& p);
 /// places.
 Drawing wholeScene(const MapChart& chart);
 
+/// A scene on half a sheet of paper, all of it with its land; empty for a scene without places.
+Drawing paperMap(const MapScene& scene);
+
 /// A new scene for a map that is nothing but it: its drawing too, nothing chosen.
 void setScene(MapChart& chart, MapScene scene);
 
