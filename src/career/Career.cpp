@@ -1,5 +1,6 @@
 #include "career/Career.h"
 
+#include "career/AirportNames.h"
 #include "platform/Machine.h"
 #include "platform/Text.h"
 
@@ -32,27 +33,26 @@ double hoursOf(float value) {
     return std::isfinite(value) ? static_cast<double>(value) : 0;
 }
 
-/// Positions of airports by code; of a code that stands in the table twice the first counts.
-class Places {
-public:
-    explicit Places(const Tables& tables) {
-        at_.reserve(tables.airports.size());
-        for (const auto& airport : tables.airports) {
-            const auto code = airport.Icao.trimmed();
-            if (code.empty() || !std::isfinite(airport.Latitude) || !std::isfinite(airport.Longitude))
-                continue;
-            at_.emplace(std::string(code), map::Spot{static_cast<double>(airport.Latitude),
-                                                     static_cast<double>(airport.Longitude)});
-        }
-    }
-    [[nodiscard]] const map::Spot* find(const std::string& code) const {
-        const auto found = at_.find(code);
-        return found == at_.end() ? nullptr : &found->second;
-    }
+bool isTimed(const LogRecord& entry) {
+    return entry.scheduledDeparture != 0 || entry.scheduledArrival != 0 || entry.actualDeparture != 0 ||
+           entry.actualArrival != 0;
+}
 
-private:
-    std::unordered_map<std::string, map::Spot> at_;
+/// One end of a flight.
+struct End {
+    std::string name; // ICAO code where the table has the airport, else what the log book calls it
+    std::optional<map::Spot> at;
 };
+
+End endOf(AirportNames& airports, std::string_view code, std::string_view name) {
+    const AirportRecord* found = airports.find(code, name);
+    const auto written = trimmed(code).empty() ? trimmed(name) : trimmed(code);
+    if (found == nullptr || !std::isfinite(found->Latitude) || !std::isfinite(found->Longitude))
+        return {std::string(written), std::nullopt};
+    const auto icao = found->Icao.trimmed();
+    return {std::string(icao.empty() ? written : icao),
+            map::Spot{static_cast<double>(found->Latitude), static_cast<double>(found->Longitude)}};
+}
 
 struct Counted {
     const LogRecord& entry;
@@ -91,42 +91,43 @@ bool counts(const LogRecord& entry, const std::optional<DateTime>& day, const Ca
     return filter.airline.empty() || entry.airline.trimmed() == filter.airline;
 }
 
+/// Codes of aircraft by their whole names; of equal names the first of the table counts.
+std::unordered_map<std::string, std::string> aircraftCodes(const Tables& tables) {
+    std::unordered_map<std::string, std::string> codes;
+    for (const auto& aircraft : tables.aircraft)
+        codes.emplace(aircraft.Name.trimmed(), aircraft.Code.trimmed());
+    return codes;
+}
+
 /// Counts one entry after the other.
 class Counter {
 public:
-    explicit Counter(const Tables& tables) : places_(tables) {}
+    explicit Counter(const Tables& tables) : airports_(tables), codes_(aircraftCodes(tables)) {}
 
     void add(const LogRecord& entry, const std::optional<DateTime>& day) {
-        const std::string from(entry.departureIcao.trimmed());
-        const std::string to(entry.arrivalIcao.trimmed());
-        const map::Spot* fromAt = places_.find(from);
-        const map::Spot* toAt = places_.find(to);
-        const bool known = fromAt != nullptr && toAt != nullptr;
-        const Counted flight{entry, hoursOf(entry.dayHours) + hoursOf(entry.nightHours),
-                             known ? milesOf(from, *fromAt, to, *toAt) : 0};
+        const End from = endOf(airports_, entry.departureIcao.view(), entry.departureName.view());
+        const End to = endOf(airports_, entry.arrivalIcao.view(), entry.arrivalName.view());
+        const Counted flight{entry, hoursOf(entry.dayHours) + hoursOf(entry.nightHours), milesOf(from, to)};
         addSums(flight);
-        if (!known) ++out_.unknown;
-        if (known && (out_.longest.empty() || flight.miles > out_.longestMiles))
-            out_.longestMiles = flight.miles, out_.longest = from + " - " + to;
+        addAirports(flight, from, to);
         if (day) {
             count(out_.years[day->year], flight);
             count(out_.months[static_cast<std::size_t>(day->month - 1)], flight);
         }
-        count(aircraft_, std::string(entry.aircraft.trimmed()), flight);
+        const std::string aircraft(entry.aircraft.trimmed());
+        if (!codes_.contains(aircraft)) ++out_.unknownAircraft;
+        count(aircraft_, aircraft, flight);
         count(airlines_, std::string(entry.airline.trimmed()), flight);
-        count(airports_, from, flight);
-        if (to != from) count(airports_, to, flight);
-        if (!from.empty() && !to.empty())
-            count(routes_, from < to ? from + " - " + to : to + " - " + from, flight);
-        if (fromAt) visit(from, *fromAt);
-        if (toAt) visit(to, *toAt);
     }
 
     Career finish() {
-        if (out_.flights > 0) out_.delay = static_cast<double>(late_) / out_.flights;
+        if (out_.timed > 0) out_.delay = static_cast<double>(late_) / out_.timed;
         out_.aircraft = ranked(std::move(aircraft_));
+        for (CareerTally& tally : out_.aircraft) {
+            if (const auto code = codes_.find(tally.name); code != codes_.end()) tally.code = code->second;
+        }
         out_.airlines = ranked(std::move(airlines_));
-        out_.airports = ranked(std::move(airports_));
+        out_.airports = ranked(std::move(visited_));
         out_.routes = ranked(std::move(routes_));
         for (const auto& [pair, route] : map_) out_.map.push_back(route);
         return std::move(out_);
@@ -139,30 +140,51 @@ private:
         out_.night += hoursOf(flight.entry.nightHours);
         out_.instrument += hoursOf(flight.entry.instrumentHours);
         out_.miles += flight.miles;
+        if (!isTimed(flight.entry)) return;
         const int late = minutesLate(flight.entry);
         late_ += late;
+        ++out_.timed;
         if (late <= kOnTime) ++out_.onTime;
     }
-    double milesOf(const std::string& a, const map::Spot& aAt, const std::string& b, const map::Spot& bAt) {
-        const bool inOrder = a < b;
-        CareerRoute& route = map_[inOrder ? std::pair(a, b) : std::pair(b, a)];
+    void addAirports(const Counted& flight, const End& from, const End& to) {
+        const bool known = from.at && to.at;
+        if (!known) ++out_.unknown;
+        if (known && (out_.longest.empty() || flight.miles > out_.longestMiles))
+            out_.longestMiles = flight.miles, out_.longest = from.name + " - " + to.name;
+        count(visited_, from.name, flight);
+        if (to.name != from.name) count(visited_, to.name, flight);
+        if (!from.name.empty() && !to.name.empty())
+            count(routes_, from.name < to.name ? from.name + " - " + to.name : to.name + " - " + from.name,
+                  flight);
+        visit(from);
+        visit(to);
+    }
+    /// 0 when an airport is unknown.
+    double milesOf(const End& a, const End& b) {
+        if (!a.at || !b.at) return 0;
+        const bool inOrder = a.name < b.name;
+        const End& first = inOrder ? a : b;
+        const End& second = inOrder ? b : a;
+        CareerRoute& route = map_[{first.name, second.name}];
         if (route.flights++ == 0) {
-            route.from = inOrder ? a : b, route.to = inOrder ? b : a;
-            route.fromAt = inOrder ? aAt : bAt, route.toAt = inOrder ? bAt : aAt;
-            route.miles = map::milesBetween(aAt, bAt);
+            route.from = first.name, route.to = second.name;
+            route.fromAt = *first.at, route.toAt = *second.at;
+            route.miles = map::milesBetween(*a.at, *b.at);
         }
         return route.miles;
     }
-    void visit(const std::string& code, const map::Spot& at) {
-        CareerAirport& place = out_.places[code];
-        place.at = at;
+    void visit(const End& end) {
+        if (!end.at) return;
+        CareerAirport& place = out_.places[end.name];
+        place.at = *end.at;
         ++place.visits;
     }
 
-    Places places_;
+    AirportNames airports_;
+    std::unordered_map<std::string, std::string> codes_;
     Career out_;
     long long late_ = 0;
-    Tallies aircraft_, airlines_, airports_, routes_;
+    Tallies aircraft_, airlines_, visited_, routes_;
     std::map<std::pair<std::string, std::string>, CareerRoute> map_;
 };
 

@@ -44,13 +44,18 @@ struct LogEntry : Screen {
     SkinnedButton close1Button{*this, "close1Button", Kind::switchButton, "close_log", "bclose_regular"};
 };
 
-/// What the pilot has flown: sums, bars, the map of all routes, and other log books taken over.
+/// What the pilot has flown: sums, bars, the map of all routes. Other log books are looked at in the place of
+/// these, and taken over.
 struct CareerForm : Screen {
     CareerForm();
     Container BG{*this, "BG"};
+    Container flown_pic{*this, "flown_pic"};
+    Container preview_pic{*this, "preview_pic"};
     Label Label1{*this, "Label1", "Career"};
-    SkinnedButton copyButton{*this, "copyButton", Kind::FormButton, "career_copy", "csv_regular"};
-    SkinnedButton printButton{*this, "printButton", Kind::FormButton, "career_print", "paper_regular"};
+    SkinnedButton copyButton{*this, "copyButton", Kind::FormButton, "career_copy", "copy_regular"};
+    SkinnedButton pngButton{*this, "pngButton", Kind::FormButton, "career_png", "image_regular"};
+    SkinnedButton pdfButton{*this, "pdfButton", Kind::FormButton, "career_pdf", "file_regular"};
+    SkinnedButton printButton{*this, "printButton", Kind::FormButton, "career_print", "sheet_regular"};
     SkinnedButton closeButton{*this, "closeButton", Kind::FormButton, "close_career", "close_regular"};
     Label yearCaption{*this, "yearCaption", "Year"};
     Combo yearCOMBO{*this, "yearCOMBO"};
@@ -58,15 +63,17 @@ struct CareerForm : Screen {
     Combo aircraftCOMBO{*this, "aircraftCOMBO"};
     Label airlineCaption{*this, "airlineCaption", "Airline"};
     Combo airlineCOMBO{*this, "airlineCOMBO"};
-    ListView totals{*this, "totals", 208};
+    ListView totals{*this, "totals", 232};
     MapChart map{*this, "map"};
     Chart bars{*this, "bars"};
     Label hover_LABEL{*this, "hover_LABEL"};
+    ListView previewList{*this, "previewList", 588};
     Label sourceCaption{*this, "sourceCaption", "Log book of another program (its file)"};
     TextBox sourceTEXT{*this, "sourceTEXT"};
     PushButton importButton{*this, "importButton", "Look at it"};
     PushButton takeButton{*this, "takeButton", "Take over"};
-    PushButton undoButton{*this, "undoButton", "Undo"};
+    PushButton cancelButton{*this, "cancelButton", "Cancel"};
+    PushButton undoButton{*this, "undoButton", "Undo import"};
     Label preview_LABEL{*this, "preview_LABEL"};
 };
 

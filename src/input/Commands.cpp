@@ -2,6 +2,7 @@
 
 #include "input/Shutdown.h"
 #include "pages/CareerForm.h"
+#include "pages/CareerPages.h"
 #include "pages/ClockForm.h"
 #include "pages/DirExportForm.h"
 #include "pages/DirForm.h"
@@ -102,6 +103,8 @@ constexpr Command kFormButton[] = {
     {"routes", run<showRoutes>},
     {"career", run<showCareer>},
     {"career_copy", run<copyCareer>},
+    {"career_png", run<saveCareerPicture>},
+    {"career_pdf", run<saveCareerPages>},
     {"career_print", run<printCareer>},
     {"log_csv", run<exportLogBook>},
     {"log_print", run<printLogPage>},

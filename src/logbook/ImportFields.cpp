@@ -138,6 +138,15 @@ std::int16_t flightNumber(std::string_view text) {
                                                             : std::int16_t{0};
 }
 
+std::string flightCarrier(std::string_view text) {
+    text = trimmed(text);
+    while (!text.empty() && isDigit(text.back())) text.remove_suffix(1);
+    while (!text.empty() && (text.back() == ' ' || text.back() == '-')) text.remove_suffix(1);
+    const bool code = text.size() >= 2 && text.size() <= 3 &&
+                      headerName(text).size() == text.size(); // letters and digits alone
+    return code ? upperCase(text) : std::string();
+}
+
 std::pair<std::string, std::string> routeEnds(std::string_view text) {
     constexpr std::string_view kSigns = " -,>/";
     std::vector<std::string> words;

@@ -31,6 +31,9 @@ double importedHours(std::string_view text);
 /// The number of "AA 123" or "123": its last digits; 0 without any, or with more than it can hold.
 std::int16_t flightNumber(std::string_view text);
 
+/// The airline's code of "AA 123" or "BAW12": two or three letters and digits before the number; else empty.
+std::string flightCarrier(std::string_view text);
+
 /// First and last word of "KATL DCT KORD" or "KATL-KORD"; empty with fewer than two.
 std::pair<std::string, std::string> routeEnds(std::string_view text);
 

@@ -159,10 +159,17 @@ std::error_code LogStore::change(std::string_view path, long long today, const C
 
 std::error_code LogStore::add(std::string_view path, const LogRecord& record, long long today,
                               const std::vector<LogRecord>& entries) {
+    return append(path, {record}, today, entries);
+}
+
+std::error_code LogStore::append(std::string_view path, const std::vector<LogRecord>& records,
+                                 long long today, const std::vector<LogRecord>& entries) {
     return change(path, today, [&](Bytes bytes) {
-        const std::size_t index = std::max(entries.size(), bytes.size() / kRecord);
-        reach(bytes, index, entries);
-        store(bytes, index, record);
+        std::size_t index = std::max(entries.size(), bytes.size() / kRecord);
+        for (const LogRecord& record : records) {
+            reach(bytes, index, entries);
+            store(bytes, index++, record);
+        }
         return bytes;
     });
 }

@@ -45,6 +45,10 @@ public:
     [[nodiscard]] std::error_code add(std::string_view path, const LogRecord& record, long long today,
                                       const std::vector<LogRecord>& entries);
 
+    /// Writes several behind all others, in one replacement.
+    [[nodiscard]] std::error_code append(std::string_view path, const std::vector<LogRecord>& records,
+                                         long long today, const std::vector<LogRecord>& entries);
+
     /// Writes a record at its place and leaves all other bytes as they are. Where the file ends before that
     /// place, what it has lost meanwhile comes back from `entries`, the log book in memory.
     std::error_code put(std::string_view path, std::size_t index, const LogRecord& record, long long today,

@@ -15,13 +15,14 @@ namespace gatewise {
 
 namespace {
 
+constexpr int kMostHeadRows = 5000; // before the header
+
 using Columns = std::array<int, kFields>; // -1: the table has none
+using Cells = std::vector<std::string>;
 
-using Rows = std::vector<std::vector<std::string>>;
-
-Columns columnsOf(const std::vector<std::string>& header) {
+Columns columnsOf(const Cells& header) {
     // Each cell's name is made once: in a table without a header every row is looked at.
-    std::vector<std::string> names;
+    Cells names;
     names.reserve(header.size());
     for (const std::string& cell : header) names.push_back(headerName(cell));
     Columns columns;
@@ -39,29 +40,26 @@ bool isHeader(const Columns& c) {
     return c[kDate] >= 0 && ((c[kFrom] >= 0 && c[kTo] >= 0) || c[kRoute] >= 0);
 }
 
-struct Table {
-    Rows rows;
-    std::size_t first = 0; // row behind the header
-    Columns columns{};
-};
-
-std::optional<Table> tableOf(const std::string& text) {
-    for (const char sign : {',', ';', '\t'}) {
-        Table table{separatedRows(text, sign), 0, {}};
-        for (; table.first < table.rows.size(); ++table.first) {
-            table.columns = columnsOf(table.rows[table.first]);
-            if (!isHeader(table.columns)) continue;
-            ++table.first;
-            return table;
-        }
+/// Leaves the reader behind the header.
+std::optional<Columns> takeHeader(SeparatedText& table) {
+    Cells cells;
+    for (int row = 0; row < kMostHeadRows && table.next(cells); ++row) {
+        const Columns columns = columnsOf(cells);
+        if (isHeader(columns)) return columns;
     }
     return std::nullopt;
 }
 
-/// One row's cells by their fields.
+/// One row's cells by their fields, control characters as blanks.
 class Line {
 public:
-    Line(const Columns& columns, const std::vector<std::string>& cells) : columns_(columns), cells_(cells) {}
+    Line(const Columns& columns, Cells& cells) : columns_(columns), cells_(cells) {
+        for (std::string& cell : cells_) {
+            for (char& c : cell) {
+                if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = ' ';
+            }
+        }
+    }
     [[nodiscard]] std::string_view operator[](Field field) const {
         const auto column = static_cast<std::size_t>(columns_[field]);
         if (columns_[field] < 0 || column >= cells_.size()) return {};
@@ -70,7 +68,7 @@ public:
 
 private:
     const Columns& columns_;
-    const std::vector<std::string>& cells_;
+    Cells& cells_;
 };
 
 void fillHours(const Line& line, LogRecord& entry) {
@@ -94,20 +92,30 @@ void fillTimes(const Line& line, LogRecord& entry) {
     entry.scheduledArrival = first(scheduledIn, in);
 }
 
+/// A code and a name out of their two fields; what is too long for a code is a name.
+void fillAirport(std::string_view code, std::string_view name, FixedText<4>& icao, FixedText<35>& named) {
+    if (code.size() <= 4) icao = code;
+    named = code.size() > 4 && name.empty() ? code : name;
+}
+
+bool hasAirport(const FixedText<4>& icao, const FixedText<35>& name) {
+    return !icao.trimmed().empty() || !name.trimmed().empty();
+}
+
 std::optional<LogRecord> entryOf(const Line& line, bool dayFirst) {
     LogRecord entry;
     const auto date = importedDate(line[kDate], dayFirst);
-    const auto [from, to] = line[kFrom].empty() && line[kTo].empty()
-                                ? routeEnds(line[kRoute])
-                                : std::pair(std::string(line[kFrom]), std::string(line[kTo]));
-    if (!date || from.empty() || to.empty()) return std::nullopt;
+    const bool ends = line[kFrom].empty() && line[kFromName].empty() && line[kTo].empty();
+    const auto [from, to] =
+        ends ? routeEnds(line[kRoute]) : std::pair(std::string(line[kFrom]), std::string(line[kTo]));
+    fillAirport(from, line[kFromName], entry.departureIcao, entry.departureName);
+    fillAirport(to, line[kToName], entry.arrivalIcao, entry.arrivalName);
+    if (!date || !hasAirport(entry.departureIcao, entry.departureName) ||
+        !hasAirport(entry.arrivalIcao, entry.arrivalName))
+        return std::nullopt;
     entry.date = *date;
-    entry.departureIcao = from;
-    entry.arrivalIcao = to;
-    entry.departureName = line[kFromName];
-    entry.arrivalName = line[kToName];
     entry.aircraft = line[kAircraft];
-    entry.airline = line[kAirline];
+    entry.airline = line[kAirline].empty() ? flightCarrier(line[kFlight]) : line[kAirline];
     entry.flightNumber = flightNumber(line[kFlight]);
     entry.comments = line[kRemarks];
     fillTimes(line, entry);
@@ -115,38 +123,73 @@ std::optional<LogRecord> entryOf(const Line& line, bool dayFirst) {
     return entry;
 }
 
+/// Whether the table, from where the reader stands, has a date that can only be read with the day first.
+bool dayComesFirst(SeparatedText table, const Columns& columns) {
+    Cells cells;
+    for (std::size_t row = 0; row < kMostLogRows && table.next(cells); ++row) {
+        if (saysDayFirst(Line(columns, cells)[kDate])) return true;
+    }
+    return false;
+}
+
+void takeRows(SeparatedText table, const Columns& columns, LogTable& out) {
+    const bool dayFirst = dayComesFirst(table, columns);
+    Cells cells;
+    while (table.next(cells)) {
+        out.cut = out.rows.size() == kMostLogRows;
+        if (out.cut) return;
+        const auto entry = entryOf(Line(columns, cells), dayFirst);
+        out.rows.push_back(
+            {static_cast<int>(out.rows.size()) + 1, entry.has_value(), entry.value_or(LogRecord())});
+    }
+}
+
 using Key = std::tuple<long long, std::string, std::string, int, int>;
 
 /// What makes an entry the same flight as another.
 Key keyOf(const LogRecord& e) {
     const long long day = e.date > -1e6 && e.date < 1e7 ? static_cast<long long>(e.date) : 0;
-    return {day, std::string(e.departureIcao.trimmed()), std::string(e.arrivalIcao.trimmed()), e.flightNumber,
+    const auto place = [](const FixedText<4>& icao, const FixedText<35>& name) {
+        return upperCase(icao.trimmed().empty() ? name.trimmed() : icao.trimmed());
+    };
+    return {day, place(e.departureIcao, e.departureName), place(e.arrivalIcao, e.arrivalName), e.flightNumber,
             e.actualDeparture};
 }
 
 } // namespace
 
-LogImport importLog(std::string_view text, const std::vector<LogRecord>& present) {
+LogTable readLogTable(std::string_view text) {
+    LogTable out;
+    const std::string whole = importedText(text);
+    for (const char sign : {',', ';', '\t'}) {
+        SeparatedText table(whole, sign);
+        const auto columns = takeHeader(table);
+        if (!columns) continue;
+        out.known = true;
+        takeRows(table, *columns, out);
+        break;
+    }
+    return out;
+}
+
+LogImport importLog(const LogTable& table, const std::vector<LogRecord>& present) {
     LogImport out;
-    const auto table = tableOf(importedText(text));
-    if (!table) return out;
-    out.known = true;
+    out.known = table.known;
+    out.cut = table.cut;
     std::set<Key> seen;
     for (const LogRecord& entry : present) seen.insert(keyOf(entry));
-    const bool dayFirst =
-        std::any_of(table->rows.begin() + static_cast<std::ptrdiff_t>(table->first), table->rows.end(),
-                    [&](const auto& cells) { return saysDayFirst(Line(table->columns, cells)[kDate]); });
-    for (std::size_t i = table->first; i < table->rows.size(); ++i) {
+    for (const LogTable::Row& row : table.rows) {
+        Fate fate = Fate::Unread;
+        if (row.read && !seen.insert(keyOf(row.entry)).second)
+            fate = Fate::Known;
+        else if (row.read)
+            fate = present.size() + out.entries.size() < kLogEntries ? Fate::New : Fate::NoRoom;
+        if (fate == Fate::New) out.entries.push_back(row.entry);
+        out.full = out.full || fate == Fate::NoRoom;
+        out.duplicates += fate == Fate::Known ? 1 : 0;
+        out.unread += fate == Fate::Unread ? 1 : 0;
+        out.list.push_back({row.number, fate, row.entry});
         ++out.rows;
-        const auto entry = entryOf(Line(table->columns, table->rows[i]), dayFirst);
-        if (!entry)
-            ++out.unread;
-        else if (!seen.insert(keyOf(*entry)).second)
-            ++out.duplicates;
-        else if (present.size() + out.entries.size() >= kLogEntries)
-            out.full = true;
-        else
-            out.entries.push_back(*entry);
     }
     return out;
 }

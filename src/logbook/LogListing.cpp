@@ -9,14 +9,6 @@ namespace gatewise {
 
 namespace {
 
-/// The day of a date serial; one that no calendar holds gives an empty text.
-std::string isoDate(double serial) {
-    const auto day = calendarDay(serial);
-    if (!day) return {};
-    return formatInteger("0000", day->year) + "-" + formatInteger("00", day->month) + "-" +
-           formatInteger("00", day->day);
-}
-
 std::string field(std::string_view text) {
     std::string utf8 = utf8FromText(trimmed(text));
     if (utf8.find_first_of(",\"\r\n") == std::string::npos) return utf8;
@@ -91,6 +83,13 @@ std::string sumLine(const std::string& words, const std::string& instrument, con
 }
 
 } // namespace
+
+std::string isoDate(double serial) {
+    const auto day = calendarDay(serial);
+    if (!day) return {};
+    return formatInteger("0000", day->year) + "-" + formatInteger("00", day->month) + "-" +
+           formatInteger("00", day->day);
+}
 
 std::string logCsv(const std::vector<LogRecord>& entries) {
     std::string out;

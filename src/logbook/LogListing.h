@@ -10,6 +10,9 @@
 
 namespace gatewise {
 
+/// "2002-06-15"; empty for a date serial that no calendar holds.
+std::string isoDate(double serial);
+
 /// All entries as CSV in UTF-8 with a header line, lines ended by CR LF; dates as 2002-06-15, times as 07:35,
 /// hours with ".".
 std::string logCsv(const std::vector<LogRecord>& entries);

@@ -2,45 +2,41 @@
 
 namespace gatewise {
 
-namespace {
-
-/// Takes the cell that begins at `at` and leaves `at` on what follows it.
-std::string takeCell(std::string_view text, std::size_t& at, char sign) {
+std::string SeparatedText::takeCell() {
     std::string cell;
-    if (at < text.size() && text[at] == '"') {
-        for (++at; at < text.size(); ++at) {
-            if (text[at] != '"') {
-                cell += text[at];
-            } else if (at + 1 < text.size() && text[at + 1] == '"') {
-                cell += text[++at];
+    if (!atEnd() && text_[at_] == '"') {
+        for (++at_; !atEnd(); ++at_) {
+            if (text_[at_] != '"') {
+                cell += text_[at_];
+            } else if (at_ + 1 < text_.size() && text_[at_ + 1] == '"') {
+                cell += text_[++at_];
             } else {
-                ++at;
+                ++at_;
                 break;
             }
         }
     }
-    while (at < text.size() && text[at] != sign && text[at] != '\n' && text[at] != '\r') cell += text[at++];
+    while (!atEnd() && text_[at_] != sign_ && !atLineEnd()) cell += text_[at_++];
     return cell;
 }
 
-} // namespace
-
-std::vector<std::vector<std::string>> separatedRows(std::string_view text, char sign) {
-    std::vector<std::vector<std::string>> rows;
-    std::vector<std::string> row;
-    std::size_t at = 0;
-    while (at < text.size()) {
-        row.push_back(takeCell(text, at, sign));
-        if (at < text.size() && text[at] == sign) {
-            ++at;
-            if (at < text.size()) continue;
-            row.emplace_back();
-        }
-        while (at < text.size() && (text[at] == '\n' || text[at] == '\r')) ++at;
-        if (row.size() > 1 || !row[0].empty()) rows.push_back(std::move(row));
-        row.clear();
+void SeparatedText::takeRow(std::vector<std::string>& row) {
+    row.clear();
+    for (bool more = true; more;) {
+        std::string cell = takeCell();
+        if (row.size() < kMostCells) row.push_back(std::move(cell));
+        more = !atEnd() && text_[at_] == sign_;
+        if (more) ++at_;
     }
-    return rows;
+    while (!atEnd() && atLineEnd()) ++at_;
+}
+
+bool SeparatedText::next(std::vector<std::string>& row) {
+    while (!atEnd()) {
+        takeRow(row);
+        if (row.size() > 1 || !row[0].empty()) return true;
+    }
+    return false;
 }
 
 } // namespace gatewise

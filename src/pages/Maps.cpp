@@ -27,6 +27,15 @@ Drawing paperMap(const MapScene& scene) {
     return out;
 }
 
+Drawing paperMap(const MapScene& scene) {
+    if (scene.places.empty()) return {};
+    constexpr map::SheetSize kHalf{700, 480}; // pixels of a screen: half a sheet less its margins
+    const map::Sheet sheet{kHalf, 9, {}};
+    Drawing out = drawMap(scene, fitted(scene, kHalf), sheet);
+    out.aspect = kHalf.width / kHalf.height;
+    return out;
+}
+
 void setScene(MapChart& chart, MapScene scene) {
     chart.scene = std::move(scene);
     chart.chosen = -1;

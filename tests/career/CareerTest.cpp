@@ -13,13 +13,15 @@ Tables world() {
     Tables tables;
     const auto add = [&](const char* icao, float latitude, float longitude) {
         AirportRecord airport;
-        airport.Icao = icao;
+        airport.Icao = icao, airport.Iata = icao + 1, airport.Name = std::string("Field ") + icao;
         airport.Latitude = latitude, airport.Longitude = longitude;
         tables.airports.insert(tables.airports.end() - 1, airport);
     };
     add("KAAA", 0, 0);
     add("KBBB", 0, 10); // 600 NM
     add("KCCC", 10, 0); // 600 NM
+    tables.aircraft.resize(1);
+    tables.aircraft[0].Code = "73X", tables.aircraft[0].Name = "Boeing 737";
     return tables;
 }
 
@@ -50,7 +52,9 @@ TEST(Career, OfAnEmptyLogAllSumsAreNothing) {
 }
 
 TEST(Career, OneEntry) {
-    const Career career = careerOf({entry("KAAA", "KBBB", 2002, 6, 1.5F, 0.5F)}, world());
+    LogRecord one = entry("KAAA", "KBBB", 2002, 6, 1.5F, 0.5F);
+    one.scheduledArrival = one.actualArrival = 900;
+    const Career career = careerOf({one}, world());
     const auto rows = careerRows(career, NumberLocale());
     EXPECT_EQ(valueOf(rows, "Flights"), "1");
     EXPECT_EQ(valueOf(rows, "Total hours"), "2.0");
@@ -124,6 +128,107 @@ TEST(Career, FiltersByYearAircraftAndAirline) {
     EXPECT_EQ(choices.airlines, (std::vector<std::string>{"Own", "Sample Air"}));
 }
 
+TEST(Career, AirportsAreFoundByIataCodeAndByNameToo) {
+    LogRecord iata = entry("AAA", "KBBB", 2002, 6, 1);
+    LogRecord named = entry("", "KBBB", 2002, 6, 1);
+    named.departureName = "field kaaa";
+    const Career career = careerOf({iata, named, entry("KAAA", "KBBB", 2002, 6, 1)}, world());
+    EXPECT_EQ(career.unknown, 0);
+    ASSERT_EQ(career.routes.size(), 1U) << "one route, whatever it is called";
+    EXPECT_EQ(career.routes[0].name, "KAAA - KBBB");
+    EXPECT_NEAR(career.miles, 1800, 1e-6);
+}
+
+TEST(Career, AnUnknownAirportGoesByItsNameWhereItHasNoCode) {
+    LogRecord named = entry("", "KBBB", 2002, 6, 1);
+    named.departureName = "Nowhere";
+    const Career career = careerOf({named}, world());
+    EXPECT_EQ(career.unknown, 1);
+    EXPECT_EQ(career.routes[0].name, "KBBB - Nowhere");
+    EXPECT_EQ(career.places.size(), 1U);
+}
+
+TEST(Career, AircraftHaveTheirCodesAndUnknownOnesAreSaid) {
+    LogRecord glider = entry("KAAA", "KBBB", 2002, 6, 1);
+    glider.aircraft = "Glider";
+    LogRecord none = entry("KAAA", "KBBB", 2002, 6, 1);
+    none.aircraft = "";
+    const auto rows = careerRows(
+        careerOf({entry("KAAA", "KBBB", 2002, 6, 1), entry("KAAA", "KBBB", 2002, 6, 1), glider, none},
+                 world()),
+        NumberLocale());
+    EXPECT_EQ(valueOf(rows, "Aircraft 1"), "Boeing 737 (73X), 2 flights");
+    EXPECT_EQ(valueOf(rows, "Aircraft 2"), "Glider, 1 flight");
+    EXPECT_EQ(valueOf(rows, "Without a type"), "2 entries of unknown aircraft");
+}
+
+TEST(Career, WithoutAnyTimeNothingIsOnTime) {
+    LogRecord timed = entry("KAAA", "KBBB", 2002, 6, 1);
+    timed.scheduledArrival = 900, timed.actualArrival = 930;
+    const LogRecord untimed = entry("KAAA", "KBBB", 2002, 6, 1);
+    const auto rows = careerRows(careerOf({timed, untimed, untimed}, world()), NumberLocale());
+    EXPECT_EQ(valueOf(rows, "On time"), "0 %");
+    EXPECT_EQ(valueOf(rows, "Mean arrival"), "30 min late");
+    const auto none = careerRows(careerOf({untimed}, world()), NumberLocale());
+    EXPECT_EQ(valueOf(none, "On time"), "none");
+}
+
+TEST(Career, TheTableHasWhatTheBarsShow) {
+    const auto rows = careerRows(
+        careerOf({entry("KAAA", "KBBB", 2001, 6, 1.5F), entry("KAAA", "KBBB", 2002, 6, 1)}, world()),
+        NumberLocale());
+    EXPECT_EQ(valueOf(rows, "Year 2001"), "1 flight, 1.5 hours");
+    EXPECT_EQ(valueOf(rows, "June"), "2 flights, 2.5 hours");
+    EXPECT_EQ(valueOf(rows, "May"), "none");
+}
+
+TEST(Career, WhatStandsOnTheMapCanBePickedByItsNumber) {
+    const MapScene scene = careerScene(
+        careerOf({entry("KAAA", "KBBB", 2002, 6, 1), entry("KAAA", "KCCC", 2002, 6, 1)}, world()), nullptr);
+    ASSERT_EQ(scene.places.size(), 3U);
+    ASSERT_EQ(scene.routes.size(), 2U);
+    EXPECT_EQ(scene.places[0].id, 0);
+    EXPECT_EQ(scene.routes[0].id, 3);
+    EXPECT_EQ(scene.routes[1].id, 4);
+    EXPECT_EQ(scene.places[0].words, "KAAA, 2 departures and arrivals");
+    EXPECT_EQ(scene.routes[0].words, "KAAA - KBBB, 1 flight, 600 NM");
+}
+
+int countTexts(const Drawing& drawing, const std::string& text) {
+    return static_cast<int>(
+        std::count_if(drawing.texts.begin(), drawing.texts.end(), [&](auto& t) { return t.text == text; }));
+}
+
+TEST(Career, NumbersThatWouldLieOnEachOtherStandAtTheHighestBarAlone) {
+    std::vector<LogRecord> log(120, entry("KAAA", "KBBB", 2002, 6, 1));
+    log.push_back(entry("KAAA", "KBBB", 2002, 7, 1));
+    const Drawing bars = careerBars(careerOf(log, world()));
+    EXPECT_EQ(countTexts(bars, "120"), 1); // June
+    EXPECT_EQ(countTexts(bars, "1"), 0);   // July
+    EXPECT_EQ(countTexts(bars, "121"), 1); // the one year has room
+    for (const auto& text : bars.texts) EXPECT_GE(text.at.y, 0.05) << text.text;
+}
+
+TEST(Career, ManyYearsStandWithoutTheirCenturies) {
+    std::vector<LogRecord> log;
+    for (int year = 1990; year < 2005; ++year) log.push_back(entry("KAAA", "KBBB", year, 1, 1));
+    const Drawing bars = careerBars(careerOf(log, world()));
+    EXPECT_EQ(countTexts(bars, "04"), 1);
+    EXPECT_EQ(countTexts(bars, "93"), 1);
+    EXPECT_EQ(countTexts(bars, "92"), 0) << "the last twelve";
+    EXPECT_NE(bars.summary.find("1990 1, 1991 1"), std::string::npos);
+    for (const auto& text : bars.texts) {
+        EXPECT_GT(text.at.x, 0);
+        EXPECT_LT(text.at.x, 1);
+    }
+}
+
+TEST(Career, WithoutADateThereAreNoYears) {
+    LogRecord bad = entry("KAAA", "KBBB", 2002, 6, 1);
+    bad.date = 1e300;
+    EXPECT_EQ(careerBars(careerOf({bad}, world())).summary, "No flight has a date.");
+}
+
 TEST(Career, DamagedEntriesCountAsFarAsTheyCan) {
     LogRecord bad = entry("KAAA", "KBBB", 2002, 6, std::numeric_limits<float>::quiet_NaN());
     bad.date = 1e300;
@@ -138,7 +243,8 @@ TEST(Career, TheBarsSayWhatTheyCount) {
     const Drawing bars =
         careerBars(careerOf({entry("KAAA", "KBBB", 2001, 6, 1), entry("KAAA", "KBBB", 2002, 6, 1)}, world()));
     EXPECT_EQ(bars.areas.size(), 3U); // one month, two years
-    EXPECT_EQ(bars.summary, "Flights by year: 2001 1, 2002 1.");
+    EXPECT_EQ(bars.summary, "Flights by year: 2001 1, 2002 1; by month: June 2.");
+    EXPECT_GT(bars.aspect, 1);
     const auto two =
         std::count_if(bars.texts.begin(), bars.texts.end(), [](auto& t) { return t.text == "2"; });
     EXPECT_EQ(two, 1);

@@ -137,13 +137,88 @@ TEST(ImportFields, TimesAndHours) {
     EXPECT_EQ(routeEnds("KATL").first, "");
 }
 
+std::vector<std::vector<std::string>> rowsOf(std::string_view text, char sign) {
+    SeparatedText table(text, sign);
+    std::vector<std::vector<std::string>> rows(1);
+    while (table.next(rows.back())) rows.emplace_back();
+    rows.pop_back();
+    return rows;
+}
+
 TEST(SeparatedText, QuotesLineEndsAndEmptyCells) {
-    const auto rows = separatedRows("a,\"b,\"\"c\"\"\nd\",\r\n\r\n,x", ',');
+    const auto rows = rowsOf("a,\"b,\"\"c\"\"\nd\",\r\n\r\n,x", ',');
     ASSERT_EQ(rows.size(), 2U);
     EXPECT_EQ(rows[0], (std::vector<std::string>{"a", "b,\"c\"\nd", ""}));
     EXPECT_EQ(rows[1], (std::vector<std::string>{"", "x"}));
-    EXPECT_EQ(separatedRows("a,", ',')[0].size(), 2U);
-    EXPECT_EQ(separatedRows("\"a", ',')[0][0], "a");
+    EXPECT_EQ(rowsOf("a,", ',')[0].size(), 2U);
+    EXPECT_EQ(rowsOf("\"a", ',')[0][0], "a");
+    EXPECT_TRUE(rowsOf("", ',').empty());
+    EXPECT_TRUE(rowsOf("\n\r\n", ',').empty());
+}
+
+TEST(SeparatedText, OfARowWithoutEndTheFirstCellsAreRead) {
+    const auto rows = rowsOf(std::string(100000, ',') + "\nnext", ',');
+    ASSERT_EQ(rows.size(), 2U);
+    EXPECT_EQ(rows[0].size(), kMostCells);
+    EXPECT_EQ(rows[1][0], "next");
+}
+
+TEST(LogImport, WhatIsTooLongForACodeIsAName) {
+    const LogImport log = importLog("date,from,to\n2002-06-15,Sample Field,KORD\n", {});
+    ASSERT_EQ(log.entries.size(), 1U);
+    EXPECT_EQ(log.entries[0].departureIcao.trimmed(), "");
+    EXPECT_EQ(log.entries[0].departureName.trimmed(), "Sample Field");
+    EXPECT_EQ(log.entries[0].arrivalIcao.view(), "KORD");
+    // It comes back from our own export, and is known by its name.
+    const LogImport again = importLog(logCsv(log.entries), log.entries);
+    EXPECT_EQ(again.duplicates, 1);
+    EXPECT_TRUE(again.entries.empty());
+}
+
+TEST(LogImport, TheCarrierOfAFlightNumberIsTheAirline) {
+    const auto airline = [](const std::string& flight) {
+        const LogImport log = importLog("date,from,to,flight\n2002-06-15,A,B," + flight + "\n", {});
+        return std::string(log.entries.at(0).airline.trimmed());
+    };
+    EXPECT_EQ(airline("QA 123"), "QA");
+    EXPECT_EQ(airline("B6-17"), "B6");
+    EXPECT_EQ(airline("QAL7"), "QAL");
+    EXPECT_EQ(airline("123"), "");
+    EXPECT_EQ(airline("FLIGHT 5"), "");
+    EXPECT_EQ(airline(""), "");
+}
+
+TEST(LogImport, ControlCharactersBecomeBlanks) {
+    const LogImport log = importLog("date,from,to,remarks\n2002-06-15,A,B,\"one\ntwo\tthree\x01\"\n", {});
+    EXPECT_EQ(log.entries.at(0).comments.trimmed(), "one two three");
+}
+
+TEST(LogImport, EachRowOfTheTableIsAccountedFor) {
+    LogRecord known = flight();
+    const LogImport log =
+        importLog(logCsv({known}) + "nonsense\r\n2002-06-16,KORD,,KATL,,,,,,,,,,,,,\r\n", {known});
+    ASSERT_EQ(log.list.size(), 3U);
+    EXPECT_EQ(log.list[0].fate, Fate::Known);
+    EXPECT_EQ(log.list[1].fate, Fate::Unread);
+    EXPECT_EQ(log.list[2].fate, Fate::New);
+    EXPECT_EQ(log.list[2].number, 3);
+    EXPECT_EQ(log.list[2].entry.departureIcao.view(), "KORD");
+}
+
+TEST(LogImport, ATableWithoutEndIsCut) {
+    std::string text = "date,from,to\n";
+    for (std::size_t i = 0; i < kMostLogRows + 1; ++i) text += "x,,\n";
+    const LogTable table = readLogTable(text);
+    EXPECT_TRUE(table.cut);
+    EXPECT_EQ(table.rows.size(), kMostLogRows);
+    text.resize(text.size() - 4);
+    EXPECT_FALSE(readLogTable(text).cut);
+}
+
+TEST(LogImport, AHeaderTooFarDownIsNone) {
+    std::string text;
+    for (int i = 0; i < 6000; ++i) text += "N1,C172\n";
+    EXPECT_FALSE(importLog(text + "date,from,to\n2002-06-15,A,B\n", {}).known);
 }
 
 } // namespace

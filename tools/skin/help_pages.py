@@ -17,6 +17,7 @@ PAGES = (
     ('exports.htm', 'Exports', 'Exports'),
     ('flying.htm', 'Flying', 'Flying'),
     ('logbook.htm', 'Log book', 'The log book'),
+    ('career.htm', 'Career', 'Your career'),
     ('settings.htm', 'Settings', 'Settings'),
     ('keyboard.htm', 'Keyboard', 'Keyboard'),
 )

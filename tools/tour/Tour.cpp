@@ -35,6 +35,39 @@ std::string writeTables(const std::string& appDir) {
     return folder;
 }
 
+/// The log book of a pilot who has flown for some years; returns its file.
+std::string writeLogBook(const std::string& appDir) {
+    struct Leg {
+        const char* route; // from, to
+        const char* aircraft;
+        const char* airline;
+        double hours;
+        int times; // flown
+    };
+    constexpr Leg kLegs[] = {
+        {"KATL,KJFK", "Boeing 737-800", "Quillmark Air Lines", 2.1, 14},
+        {"KATL,KMIA", "Boeing 737-800", "Quillmark Air Lines", 1.7, 9},
+        {"KJFK,EGLL", "Boeing 767-300", "Quillmark Air Lines", 6.9, 6},
+        {"KLAX,PHNL", "Boeing 767-300", "Saltbrook Pacific", 5.4, 5},
+        {"EGLL,LFPG", "Airbus A320", "Fernblick Air", 1.1, 7},
+        {"KSFO,RJAA", "Boeing 777-200", "Saltbrook Pacific", 10.6, 3},
+        {"EDDF,SBGR", "Airbus A340-300", "Fernblick Air", 11.8, 2},
+        {"KDEN,KSFO", "Boeing 757-200", "Quillmark Air Lines", 2.6, 6},
+    };
+    std::ofstream out(files::target(appDir + "/Flown.csv"));
+    out << "date,from,to,aircraft,airline,flight,scheduled_arrival,actual_arrival,day_hours,night_hours\n";
+    int flown = 0;
+    for (const Leg& leg : kLegs) {
+        for (int i = 0; i < leg.times; ++i, ++flown) {
+            const bool late = flown % 7 == 0;
+            out << 1999 + flown * 5 % 4 << "-0" << 1 + flown * 3 % 9 << "-" << 10 + flown % 18 << ","
+                << leg.route << "," << leg.aircraft << "," << leg.airline << "," << 100 + flown << ",18:00,"
+                << (late ? "18:25" : "17:55") << "," << leg.hours * 0.7 << "," << leg.hours * 0.3 << "\n";
+        }
+    }
+    return appDir + "/Flown.csv";
+}
+
 } // namespace
 
 Tour::Tour(stage::Stage& stage, std::string folder, bool fine)
@@ -198,6 +231,22 @@ void Tour::logBook() {
     visit(
         "clock", f_.ClockForm, [] {}, [this] { close(); });
     then([this] { close(); });
+    career();
+}
+
+/// Another log book is looked at and taken over; then all of it on one screen.
+void Tour::career() {
+    const std::string book = writeLogBook(stage_.window.program.session.AppDir);
+    then([this] { stage_.click(f_.MainForm.careerButton); });
+    then([this, book] {
+        stage_.click(f_.CareerForm.sourceTEXT);
+        stage_.type(window::toQt(book));
+        stage_.key(Qt::Key_Return);
+    });
+    visit(
+        "career-import", f_.CareerForm, [] {}, [this] { stage_.click(f_.CareerForm.takeButton); });
+    visit(
+        "career", f_.CareerForm, [] {}, [this] { close(); });
 }
 
 void Tour::settings() {

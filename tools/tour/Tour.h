@@ -25,6 +25,7 @@ private:
     void flying();
     void exports();
     void logBook();
+    void career();
     void settings();
     void imports();
     void notices();

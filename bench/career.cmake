@@ -1,0 +1,2 @@
+add_executable(bench_career career.cpp)
+target_link_libraries(bench_career PRIVATE gatewise_warnings gatewise_career benchmark::benchmark_main)
