@@ -145,6 +145,15 @@ TEST(Send, AFullDiskLeavesTheOldFileWhole) {
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
 }
 
+/// The system's own folder of devices takes no file of anybody's, not even the administrator's.
+TEST(Send, AFolderThatTakesNoFileSaysSo) {
+    if (!std::filesystem::is_directory("/sys/kernel")) GTEST_SKIP() << "no such folder on this system";
+    const Sent sent = sendTo(formatOf("GPX"), "/sys/kernel", "F", routeOfPlan(directPlan()));
+    EXPECT_EQ(sent.reason, "the folder is read-only");
+    EXPECT_EQ(sent.file, "");
+    EXPECT_FALSE(std::filesystem::exists("/sys/kernel/F.gpx"));
+}
+
 TEST(Send, ReasonsAreThePilots) {
     const auto reason = [](std::errc error) { return reasonOf(std::make_error_code(error)); };
     EXPECT_EQ(reason(std::errc::read_only_file_system), "the folder is read-only");
