@@ -73,9 +73,9 @@ bool isRegion(std::string_view text) {
 void Regions::add(RegionEntry entry) {
     if (!isRegion(entry.region) || entry.ident.empty()) return;
     if (!find(entry.kind, entry.ident, entry.latitude, entry.longitude).empty()) return;
-    byPlace_.emplace(cellKey(entry.kind, entry.ident, cellOf(entry.latitude), cellOf(entry.longitude)),
-                     entries_.size());
-    entries_.push_back(std::move(entry));
+    const std::string place =
+        cellKey(entry.kind, entry.ident, cellOf(entry.latitude), cellOf(entry.longitude));
+    if (byPlace_.emplace(place, entries_.size()).second) entries_.push_back(std::move(entry));
 }
 
 /// Two entries never lie in one cell, and what is near enough lies in the cell or in one beside it.
