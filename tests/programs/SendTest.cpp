@@ -80,7 +80,7 @@ TEST(Send, AFileStandsUnderTheFlightsName) {
     }
     EXPECT_TRUE(std::filesystem::exists(folder.path("/Orrery Airways Flight 421 ATL to MIA.fms")));
     EXPECT_TRUE(std::filesystem::exists(folder.path("/Orrery Airways Flight 421 ATL to MIA MSFS 2024.pln")));
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 11);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), kFormatCount);
 }
 
 TEST(Send, AnOlderFileIsReplaced) {
