@@ -1,6 +1,7 @@
 #include "gt1/Cells.h"
 
 #include "gt1/Transliterate.h"
+#include "plan/Regions.h"
 #include "platform/Numbers.h"
 
 #include <algorithm>
@@ -30,7 +31,8 @@ std::string bound(double value) {
 
 CellReader::Cell CellReader::next(const char* name) {
     const std::size_t at = order_[column_++];
-    return {{std::string(file_), line_, static_cast<int>(at) + 1, name}, trimmed(cells_[at])};
+    const std::string_view text = at < cells_.size() ? trimmed(cells_[at]) : std::string_view();
+    return {{std::string(file_), line_, static_cast<int>(at) + 1, name}, text};
 }
 
 std::string CellReader::ownText(const Cell& cell) {
@@ -126,6 +128,16 @@ void CellReader::letter(const char* name, FixedText<1>& field, std::string_view 
 
 void CellReader::word(const char* name, std::string& field) {
     field = ownText(next(name));
+}
+
+void CellReader::region(const char* name, FixedText<2>& field) {
+    const Cell cell = next(name);
+    if (cell.utf8.empty()) return;
+    if (isRegion(cell.utf8))
+        field = cell.utf8;
+    else
+        report_.error(cell.place, "a region of two capital letters or digits, or nothing",
+                      foundCell(cell.utf8));
 }
 
 void CellWriter::real(const char*, float field, double, double) {

@@ -17,6 +17,7 @@ namespace gatewise::gt1 {
 class ColumnNames {
 public:
     std::vector<std::string> names;
+    std::vector<std::string> mayMiss; // those of them that a table need not have
 
     void code(const char* name, const auto&, int) { names.emplace_back(name); }
     void text(const char* name, const auto&) { names.emplace_back(name); }
@@ -26,16 +27,21 @@ public:
     void bits(const char* name, const auto&, const BitNames&) { names.emplace_back(name); }
     void letter(const char* name, const auto&, std::string_view) { names.emplace_back(name); }
     void word(const char* name, const auto&) { names.emplace_back(name); }
+    void region(const char* name, const auto&) {
+        names.emplace_back(name);
+        mayMiss.emplace_back(name);
+    }
 };
 
-template<class Row> std::vector<std::string> columnNames() {
+template<class Row> ColumnNames columnNames() {
     ColumnNames visitor;
     const Row row{};
     Row::columns(row, visitor);
-    return visitor.names;
+    return visitor;
 }
 
-/// Fills a row from the cells of a line. `order` says which cell each column of the row type takes.
+/// Fills a row from the cells of a line. `order` says which cell each column of the row type takes; one past
+/// the last is a column that the table has not.
 class CellReader {
 public:
     CellReader(Report& report, std::string_view file, int line, std::span<const std::string> cells,
@@ -56,6 +62,7 @@ public:
     void bits(const char* name, std::uint8_t& field, const BitNames& names);
     void letter(const char* name, FixedText<1>& field, std::string_view allowed);
     void word(const char* name, std::string& field);
+    void region(const char* name, FixedText<2>& field);
 
 private:
     struct Cell {
@@ -79,6 +86,9 @@ private:
 /// The cells of a row, in UTF-8.
 class CellWriter {
 public:
+    /// `regions`: whether the table has a column for them.
+    explicit CellWriter(bool regions) : regions_(regions) {}
+
     std::vector<std::string> cells;
 
     template<std::size_t N> void code(const char*, const FixedText<N>& field, int) { put(field.trimmed()); }
@@ -91,9 +101,14 @@ public:
     void bits(const char*, std::uint8_t field, const BitNames& names);
     void letter(const char*, const FixedText<1>& field, std::string_view) { put(field.trimmed()); }
     void word(const char*, const std::string& field) { put(field); }
+    void region(const char*, const FixedText<2>& field) {
+        if (regions_) put(field.trimmed());
+    }
 
 private:
     void put(std::string_view text) { cells.push_back(utf8FromText(text)); }
+
+    bool regions_;
 };
 
 } // namespace gatewise::gt1

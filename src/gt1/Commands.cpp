@@ -16,6 +16,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// How much of a compilation is done.
+constexpr double kWorldRead = 0.3;
+constexpr double kLinked = 0.8;
+constexpr double kPacked = 0.9;
+
 bool makeFolder(const fs::path& folder, Report& report) {
     std::error_code error;
     fs::create_directories(folder, error);
@@ -59,10 +64,22 @@ void refuseWorldTables(const fs::path& source, Report& report) {
                          "one in " + source.string());
 }
 
-template<class Row, class Records> NamedTable table(const Records& records) {
+template<class Row, class Records>
+NamedTable table(const Records& records, const std::function<bool()>& goesOn = {}) {
     std::vector<Row> rows(records.size());
     for (std::size_t i = 0; i < records.size(); ++i) rows[i].record = records[i];
-    return {std::string(Row::file), tableText(rows)};
+    return {std::string(Row::file), tableText(rows, goesOn)};
+}
+
+/// The same with the region that `regionOf(record)` knows.
+template<class Row, class Records, class RegionOf>
+NamedTable placedTable(const Records& records, const std::function<bool()>& goesOn, RegionOf regionOf) {
+    std::vector<Row> rows(records.size());
+    for (std::size_t i = 0; i < records.size() && (!goesOn || goesOn()); ++i) {
+        rows[i].record = records[i];
+        rows[i].region = regionOf(records[i]);
+    }
+    return {std::string(Row::file), tableText(rows, goesOn)};
 }
 
 NamedTable runwayTable(const DataSet& set) {
@@ -92,42 +109,61 @@ std::string compileFolder(const fs::path& source, const fs::path& target,
                           const std::optional<fs::path>& world, Report& report) {
     if (world) refuseWorldTables(source, report);
     const World shared = readWorld(world.value_or(source), report);
+    report.reached(kWorldRead);
     const DataSet set = readDataSet(source, shared, report);
     if (report.failed()) return {};
+    report.reached(kLinked);
     auto packed = packDataSet(set, report);
+    report.reached(kPacked);
     if (!world) {
         auto more = packWorld(shared);
         packed.insert(packed.end(), std::make_move_iterator(more.begin()),
                       std::make_move_iterator(more.end()));
+        // Those of an older world are no longer true.
+        if (shared.regions.entries().empty() && files::fileExists(files::textOf(target / kRegionsFile)))
+            packed.push_back({kRegionsFile, {}});
     }
     if (report.failed() || !makeFolder(target, report)) return {};
     return writeSet(std::move(packed), target, report) ? summary(set) : std::string();
 }
 
+std::vector<NamedTable> worldTables(const World& world, const std::function<bool()>& goesOn) {
+    const auto aid = [&](char kind) {
+        return [&world, kind](const NavaidRecord& r) {
+            return world.regions.find(kind, r.navaidId.trimmed(), r.latitude, r.longitude);
+        };
+    };
+    const auto fix = [&](const FixRecord& r) {
+        return world.regions.find('I', r.fixName.trimmed(), r.latitude, r.longitude);
+    };
+    const auto jet = [&](const JetRecord& r) {
+        return world.regions.find(r.jetKind.view()[0], r.jetName.trimmed(), r.latitude, r.longitude);
+    };
+    return {table<AircraftRow>(world.aircraft, goesOn), placedTable<VorRow>(world.vor, goesOn, aid('V')),
+            placedTable<NdbRow>(world.ndb, goesOn, aid('N')), placedTable<FixRow>(world.fixes, goesOn, fix),
+            placedTable<JetRow>(world.jets, goesOn, jet)};
+}
+
 std::vector<NamedTable> dumpFolder(const fs::path& folder, const std::optional<fs::path>& world,
                                    Report& report) {
     const bool further = world || !files::fileExists(files::textOf(folder / "aircraft.gt1"));
-    const fs::path shared = world ? *world : further ? folder / ".." : folder;
-    for (const fs::path& place : {folder, shared}) {
+    const fs::path worldFolder = world ? *world : further ? folder / ".." : folder;
+    for (const fs::path& place : {folder, worldFolder}) {
         if (const auto left = files::finishSet(place); left.error)
             report.error({(place / left.name).string(), 0, 0, ""}, "a set that can be finished",
                          left.error.message());
     }
     const DataSet set = unpackDataSet(folder, report);
-    const World names = unpackWorld(shared, report);
+    const World names = unpackWorld(worldFolder, report);
     std::vector<NamedTable> out;
     out.push_back(table<AirportRow>(set.airports));
     out.push_back(runwayTable(set));
     out.push_back(radioTable(set));
     out.push_back(table<AirlineRow>(set.airlines));
-    if (!further) out.push_back(table<AircraftRow>(names.aircraft));
+    auto shared = further ? std::vector<NamedTable>() : worldTables(names);
+    if (!further) out.push_back(std::move(shared.front())); // the aircraft
     out.push_back(table<FlightRow>(set.flights));
-    if (!further) {
-        out.push_back(table<VorRow>(names.vor));
-        out.push_back(table<NdbRow>(names.ndb));
-        out.push_back(table<FixRow>(names.fixes));
-        out.push_back(table<JetRow>(names.jets));
-    }
+    for (std::size_t i = 1; i < shared.size(); ++i) out.push_back(std::move(shared[i]));
     out.push_back({std::string(PlanRow::file), tableText(planRows(set, names, report))});
     return out;
 }
@@ -135,7 +171,7 @@ std::vector<NamedTable> dumpFolder(const fs::path& folder, const std::optional<f
 void writeTables(const std::vector<NamedTable>& tables, const fs::path& folder, Report& report) {
     if (!makeFolder(folder, report)) return;
     for (const NamedTable& table : tables)
-        writeFile(folder / table.file, std::string_view(table.text), report);
+        if (report.goesOnNow()) writeFile(folder / table.file, std::string_view(table.text), report);
 }
 
 } // namespace gatewise::gt1

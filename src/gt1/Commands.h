@@ -1,8 +1,10 @@
 #pragma once
 
+#include "gt1/DataSet.h"
 #include "gt1/Report.h"
 
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -24,6 +26,9 @@ std::string compileFolder(const std::filesystem::path& source, const std::filesy
 /// looked for in `world`, or the folder above, and their tables are left out.
 std::vector<NamedTable> dumpFolder(const std::filesystem::path& folder,
                                    const std::optional<std::filesystem::path>& world, Report& report);
+
+/// The tables that all sets share: aircraft, vor, ndb, fixes, jets. `goesOn` as in tableText.
+std::vector<NamedTable> worldTables(const World& world, const std::function<bool()>& goesOn = {});
 
 /// Writes the tables into a folder, which is created when it is missing.
 void writeTables(const std::vector<NamedTable>& tables, const std::filesystem::path& folder, Report& report);

@@ -12,6 +12,10 @@ namespace gatewise::gt1 {
 
 namespace {
 
+/// How much of a compilation is done when the tables are read, and when the flights are linked.
+constexpr double kTablesRead = 0.6;
+constexpr double kFlightsLinked = 0.7;
+
 using Numbers = std::unordered_map<std::string, int>;
 
 /// The line of each key, with an error for each key that stands twice.
@@ -20,6 +24,7 @@ Numbers uniqueKeys(const Table<Row>& table, std::string_view column, Key key, Re
     Numbers lines;
     for (const auto& [line, row] : table.lines) {
         const auto [first, isNew] = lines.try_emplace(key(row), line);
+        if (!report.goesOn()) break;
         if (!isNew)
             report.error(table.place(line, column), "each " + std::string(column) + " once",
                          inQuotes(utf8FromText(trimmed(key(row)))) + " again, first in line " +
@@ -73,6 +78,7 @@ std::vector<Facilities> facilitiesOf(const Table<RunwayRow>& runways, const Tabl
         radios, "airport", [](const RadioRow& r) { return r.airport.str(); }, report);
     std::vector<Facilities> out(airports.lines.size());
     for (const auto& [line, row] : runways.lines) {
+        if (!report.goesOn()) break;
         const int airport = known(byIata, runways, line, "airport", row.airport.view(), anAirport, report);
         if (airport >= 0) out[static_cast<std::size_t>(airport)].runways.push_back(row.record);
     }
@@ -133,6 +139,7 @@ void linkFlights(Table<FlightRow>& table, const Codes& codes, Report& report) {
         return known(numbers, table, line, column, code, expected, report);
     };
     for (auto& [line, row] : table.lines) {
+        if (!report.goesOn()) break;
         FlightRecord& f = row.record;
         f.OriginIndex =
             static_cast<std::int16_t>(find(codes.airports, line, "origin", f.OriginIata.view(), anAirport));
@@ -150,6 +157,7 @@ void limitFlights(const Table<FlightRow>& table, const char* column, std::int16_
     constexpr int kMost = 32767;
     std::unordered_map<int, int> counts;
     for (const auto& [line, row] : table.lines) {
+        if (!report.goesOn()) break;
         if (++counts[row.record.*airport] != kMost + 1) continue;
         report.error(table.place(line, column), "at most 32767 flights of one airport", "one more");
     }
@@ -177,6 +185,50 @@ Numbers aircraftCodes(const World& world) {
     return out;
 }
 
+/// The region of a row, which another row of the same point must not gainsay.
+template<class Row>
+void addRegion(const Table<Row>& table, const typename Table<Row>::Line& line, RegionEntry point,
+               World& world, Report& report) {
+    point.region = line.row.region.trimmed();
+    if (point.region.empty()) return;
+    const std::string known(world.regions.find(point.kind, point.ident, point.latitude, point.longitude));
+    if (known.empty())
+        world.regions.add(std::move(point));
+    else if (known != point.region)
+        report.error(table.place(line.line, "region"), known + ", as another row of this point has it",
+                     inQuotes(point.region));
+}
+
+template<class Row>
+void takeNavaids(const std::filesystem::path& folder, char kind, std::vector<NavaidRecord>& records,
+                 World& world, Report& report) {
+    const auto table = readTable<Row>(folder, report);
+    for (const auto& line : table.lines) {
+        const NavaidRecord& r = line.row.record;
+        records.push_back(r);
+        addRegion(table, line, {kind, std::string(r.navaidId.trimmed()), r.latitude, r.longitude, ""}, world,
+                  report);
+    }
+}
+
+void takeFixes(const std::filesystem::path& folder, World& world, Report& report) {
+    const auto fixes = readTable<FixRow>(folder, report);
+    for (const auto& line : fixes.lines) {
+        const FixRecord& r = line.row.record;
+        world.fixes.push_back(r);
+        addRegion(fixes, line, {'I', std::string(r.fixName.trimmed()), r.latitude, r.longitude, ""}, world,
+                  report);
+    }
+    const auto jets = readTable<JetRow>(folder, report);
+    for (const auto& line : jets.lines) {
+        const JetRecord& r = line.row.record;
+        world.jets.push_back(r);
+        addRegion(jets, line,
+                  {r.jetKind.view()[0], std::string(r.jetName.trimmed()), r.latitude, r.longitude, ""}, world,
+                  report);
+    }
+}
+
 } // namespace
 
 World readWorld(const std::filesystem::path& folder, Report& report) {
@@ -185,10 +237,9 @@ World readWorld(const std::filesystem::path& folder, Report& report) {
         aircraft, "code", [](const AircraftRow& r) { return r.record.Code.str(); }, report);
     World world;
     world.aircraft = recordsOf(aircraft);
-    for (const auto& line : readTable<VorRow>(folder, report).lines) world.vor.push_back(line.row.record);
-    for (const auto& line : readTable<NdbRow>(folder, report).lines) world.ndb.push_back(line.row.record);
-    world.fixes = recordsOf(readTable<FixRow>(folder, report));
-    world.jets = recordsOf(readTable<JetRow>(folder, report));
+    takeNavaids<VorRow>(folder, 'V', world.vor, world, report);
+    takeNavaids<NdbRow>(folder, 'N', world.ndb, world, report);
+    takeFixes(folder, world, report);
     return world;
 }
 
@@ -202,7 +253,9 @@ DataSet readDataSet(const std::filesystem::path& folder, const World& world, Rep
     const auto plans = readTable<PlanRow>(folder, report);
     set.airports = airportsOf(airports, report);
     set.airlines = airlinesOf(airlines, report);
-    if (report.anyUnreadable()) return set; // each reference to a missing table would be one more error
+    if (report.stopped() || report.anyUnreadable())
+        return set; // each reference to a missing table would be one more error
+    report.reached(kTablesRead);
 
     Codes codes{indexBy(airports, [](const AirportRow& r) { return r.record.Iata.str(); }),
                 indexBy(airlines, [](const AirlineRow& r) { return r.record.Code.str(); }),
@@ -212,6 +265,7 @@ DataSet readDataSet(const std::filesystem::path& folder, const World& world, Rep
     linkFlights(flights, codes, report);
     limitFlights(flights, "origin", &FlightRecord::OriginIndex, report);
     limitFlights(flights, "destination", &FlightRecord::DestIndex, report);
+    report.reached(kFlightsLinked);
     set.plans = linkPlans(plans, flights, world, report);
     set.flights = groupedByOrigin(flights);
     return set;

@@ -10,8 +10,8 @@ public:
         if (text_.starts_with("\xEF\xBB\xBF")) at_ = 3;
     }
 
-    CsvFile run() {
-        while (at_ < text_.size()) row();
+    CsvFile run(const std::function<bool()>& goesOn) {
+        while (at_ < text_.size() && (!goesOn || goesOn())) row();
         return std::move(out_);
     }
 
@@ -93,8 +93,8 @@ bool needsQuotes(const std::string& cell) {
 
 } // namespace
 
-CsvFile parseCsv(std::string_view text) {
-    return Parser(text).run();
+CsvFile parseCsv(std::string_view text, const std::function<bool()>& goesOn) {
+    return Parser(text).run(goesOn);
 }
 
 std::string csvLine(const std::vector<std::string>& cells) {

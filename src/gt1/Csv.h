@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -24,8 +25,8 @@ struct CsvFile {
 };
 
 /// Comma-separated values: fields with commas, quotes or line ends in double quotes, quotes inside doubled;
-/// LF or CR LF; a byte-order mark is skipped.
-CsvFile parseCsv(std::string_view text);
+/// LF or CR LF; a byte-order mark is skipped. `goesOn` is asked before each row, false ends the reading.
+CsvFile parseCsv(std::string_view text, const std::function<bool()>& goesOn = {});
 
 /// One line with its LF.
 std::string csvLine(const std::vector<std::string>& cells);

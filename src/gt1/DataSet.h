@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plan/NavRecords.h"
+#include "plan/Regions.h"
 #include "schedule/Records.h"
 
 #include <string>
@@ -34,6 +35,7 @@ struct World {
     std::vector<NavaidRecord> ndb;
     std::vector<FixRecord> fixes;
     std::vector<JetRecord> jets;
+    Regions regions; // of the vor, ndb, fixes and jets, as far as they are known
 };
 
 /// Names by which a plan refers to the records of one navigation file: the record's own key, or key.2, key.3

@@ -107,6 +107,8 @@ std::vector<PackedFile> packWorld(const World& world) {
     out.push_back({"NDB.gt1", packed(world.ndb)});
     out.push_back({"ISC.gt1", packed(world.fixes)});
     out.push_back({"JRT.gt1", packed(world.jets)});
+    const std::string regions = regionsText(world.regions);
+    if (!regions.empty()) out.push_back({kRegionsFile, Bytes(regions.begin(), regions.end())});
     return out;
 }
 

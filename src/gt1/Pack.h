@@ -20,7 +20,7 @@ struct PackedFile {
 /// hold.
 std::vector<PackedFile> packDataSet(DataSet set, Report& report);
 
-/// aircraft, VOR, NDB, ISC and JRT.
+/// aircraft, VOR, NDB, ISC and JRT, and where regions are known the file of them.
 std::vector<PackedFile> packWorld(const World& world);
 
 /// The position, from 1, of what follows `bytesBefore` in a file, as the records hold it; an error in the

@@ -97,6 +97,7 @@ std::map<int, PlanEnds> endsOf(const Table<FlightRow>& flights) {
 
 void checkFlightPlans(const Table<FlightRow>& flights, const std::map<int, Lines>& byNumber, Report& report) {
     for (const auto& [line, row] : flights.lines) {
+        if (!report.goesOn()) break;
         const int number = row.record.PlanNumber;
         if (number > 0 && !byNumber.contains(number))
             report.error(flights.place(line, "plan"), "the number of a plan in plans.csv",
@@ -118,7 +119,7 @@ std::vector<std::vector<RouteEntry>> linkPlans(const Table<PlanRow>& plans, cons
     const WorldNames names(world);
     std::map<int, Lines> byNumber;
     for (const auto& line : plans.lines)
-        if (line.row.plan > 0) byNumber[line.row.plan].push_back(&line);
+        if (report.goesOn() && line.row.plan > 0) byNumber[line.row.plan].push_back(&line);
 
     checkFlightPlans(flights, byNumber, report);
     auto ends = endsOf(flights);
@@ -126,6 +127,7 @@ std::vector<std::vector<RouteEntry>> linkPlans(const Table<PlanRow>& plans, cons
     std::vector<std::vector<RouteEntry>> out;
     int next = 1;
     for (const auto& [number, lines] : byNumber) {
+        if (!report.goesOn()) break;
         if (number != next)
             report.error(plans.place(lines[0]->line, "plan"),
                          "plan " + std::to_string(next) + ": the numbers run from 1 without gaps",

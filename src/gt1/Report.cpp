@@ -27,6 +27,16 @@ void Report::warning(const Place& place, std::string_view message) {
     warnings_.push_back(textOf(place) + std::string(message));
 }
 
+void Report::reached(double share) {
+    share_ = share;
+    goesOnNow();
+}
+
+bool Report::goesOnNow() {
+    stopped_ = stopped_ || (watch_ && !watch_(share_));
+    return !stopped_;
+}
+
 std::string inQuotes(std::string_view text) {
     constexpr std::size_t longest = 60;
     if (text.size() <= longest) return "\"" + std::string(text) + "\"";

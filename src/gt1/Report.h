@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,12 +27,30 @@ public:
     void unreadable(const Place& place, std::string_view expected, std::string_view found);
     void warning(const Place& place, std::string_view message);
 
-    [[nodiscard]] bool failed() const { return !errors_.empty(); }
+    /// Who watches a long run: is told how much of it is done, 0 to 1, and answers whether it is to go on.
+    using Watch = std::function<bool(double share)>;
+    void watchedBy(Watch watch) { watch_ = std::move(watch); }
+    /// So much of the run is done, 0 to 1.
+    void reached(double share);
+    /// To be asked for every row of a long loop: false when the run is to end. Most of the time it costs
+    /// nothing; the watcher is asked for one row in kRowsBetweenLooks.
+    [[nodiscard]] bool goesOn() { return ++rows_ % kRowsBetweenLooks != 0 ? !stopped_ : goesOnNow(); }
+    /// The same, where the watcher is asked in any case.
+    bool goesOnNow();
+    static constexpr std::uint32_t kRowsBetweenLooks = 256;
+
+    [[nodiscard]] bool stopped() const { return stopped_; }
+    /// An error, or an end before its time: nothing is to be written.
+    [[nodiscard]] bool failed() const { return stopped_ || !errors_.empty(); }
     [[nodiscard]] bool anyUnreadable() const { return unreadable_; }
     [[nodiscard]] const std::vector<std::string>& errors() const { return errors_; }
     [[nodiscard]] const std::vector<std::string>& warnings() const { return warnings_; }
 
 private:
+    Watch watch_;
+    double share_ = 0;
+    std::uint32_t rows_ = 0;
+    bool stopped_ = false;
     std::vector<std::string> errors_;
     std::vector<std::string> warnings_;
     bool unreadable_ = false;

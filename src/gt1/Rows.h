@@ -20,6 +20,8 @@
 //     bits     names of bits, written one after the other
 //     letter   one of the letters given
 //     word     a text of any length
+//     region   two capital letters or digits, or nothing; the column may be missing, and is where no row has
+//     one
 
 namespace gatewise::gt1 {
 
@@ -151,6 +153,7 @@ struct FlightRow {
 /// vor.csv and ndb.csv have the same columns.
 struct NavaidRow {
     NavaidRecord record;
+    FixedText<2> region;
 
     static void columns(auto& r, auto&& c) {
         c.code("ident", r.record.navaidId, 1);
@@ -158,6 +161,7 @@ struct NavaidRow {
         c.real("latitude", r.record.latitude, -90, 90);
         c.real("longitude", r.record.longitude, -180, 180);
         c.text("frequency", r.record.frequency);
+        c.region("region", r.region);
     }
 };
 struct VorRow : NavaidRow {
@@ -170,18 +174,21 @@ struct NdbRow : NavaidRow {
 struct FixRow {
     static constexpr std::string_view file = "fixes.csv";
     FixRecord record;
+    FixedText<2> region;
 
     static void columns(auto& r, auto&& c) {
         c.code("name", r.record.fixName, 1);
         c.code("key", r.record.fixId, 1);
         c.real("latitude", r.record.latitude, -90, 90);
         c.real("longitude", r.record.longitude, -180, 180);
+        c.region("region", r.region);
     }
 };
 
 struct JetRow {
     static constexpr std::string_view file = "jets.csv";
     JetRecord record;
+    FixedText<2> region;
 
     static void columns(auto& r, auto&& c) {
         c.code("key", r.record.jetId, 1);
@@ -191,6 +198,7 @@ struct JetRow {
         c.real("longitude", r.record.longitude, -180, 180);
         c.letter("kind", r.record.jetKind, "VNI");
         c.text("frequency", r.record.frequency);
+        c.region("region", r.region);
     }
 };
 

@@ -9,8 +9,12 @@ namespace gatewise::gt1 {
 namespace {
 
 /// Every name once, and no other.
-bool headerFits(const CsvRow& header, std::string_view file, const std::vector<std::string>& names,
+bool headerFits(const CsvRow& header, std::string_view file, const ColumnNames& columns,
                 std::vector<std::size_t>& order, Report& report) {
+    const std::vector<std::string>& names = columns.names;
+    const auto mayMiss = [&](const std::string& name) {
+        return std::find(columns.mayMiss.begin(), columns.mayMiss.end(), name) != columns.mayMiss.end();
+    };
     bool good = true;
     for (std::size_t i = 0; i < header.cells.size(); ++i) {
         const std::string& name = header.cells[i];
@@ -25,7 +29,7 @@ bool headerFits(const CsvRow& header, std::string_view file, const std::vector<s
     for (const std::string& name : names) {
         const auto cell = std::find(header.cells.begin(), header.cells.end(), name);
         order.push_back(static_cast<std::size_t>(cell - header.cells.begin()));
-        if (cell != header.cells.end()) continue;
+        if (cell != header.cells.end() || mayMiss(name)) continue;
         report.unreadable({std::string(file), header.line, 0, ""}, "a column " + name, "none in the header");
         good = false;
     }
@@ -35,8 +39,7 @@ bool headerFits(const CsvRow& header, std::string_view file, const std::vector<s
 } // namespace
 
 std::optional<CsvFile> readCsv(const std::filesystem::path& folder, std::string_view file,
-                               const std::vector<std::string>& names, std::vector<std::size_t>& order,
-                               Report& report) {
+                               const ColumnNames& names, std::vector<std::size_t>& order, Report& report) {
     const Place whole{std::string(file), 0, 0, ""};
     std::error_code error;
     const auto bytes = files::readAll(files::textOf(folder / file), &error);
@@ -44,7 +47,8 @@ std::optional<CsvFile> readCsv(const std::filesystem::path& folder, std::string_
         report.unreadable(whole, "this table in " + folder.string(), error.message());
         return std::nullopt;
     }
-    CsvFile csv = parseCsv(asText(*bytes));
+    CsvFile csv = parseCsv(asText(*bytes), [&report] { return report.goesOn(); });
+    if (report.stopped()) return std::nullopt; // half a table
     for (const BadQuote& bad : csv.badQuotes) {
         const auto column = static_cast<std::size_t>(bad.column);
         const bool named = !csv.rows.empty() && column <= csv.rows[0].cells.size();

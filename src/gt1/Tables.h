@@ -4,7 +4,9 @@
 #include "gt1/Csv.h"
 #include "gt1/Report.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -30,10 +32,10 @@ template<class Row> struct Table {
 };
 
 /// The rows of a table's file with the header checked against `names`; nothing, with errors in the report,
-/// when the file is missing, no CSV, or has other columns. `order` receives the cell of each name.
+/// when the file is missing, no CSV, or has other columns. `order` receives the cell of each name, one past
+/// the last cell for a column that is missing and may be.
 std::optional<CsvFile> readCsv(const std::filesystem::path& folder, std::string_view file,
-                               const std::vector<std::string>& names, std::vector<std::size_t>& order,
-                               Report& report);
+                               const ColumnNames& names, std::vector<std::size_t>& order, Report& report);
 
 /// False, with an error in the report, when a line has too many or too few cells.
 bool fullLine(const CsvRow& line, std::size_t columns, std::string_view file, Report& report);
@@ -45,7 +47,7 @@ template<class Row> Table<Row> readTable(const std::filesystem::path& folder, Re
     if (!csv) return table;
     table.header = csv->rows[0].cells;
     table.lines.reserve(csv->rows.size() - 1);
-    for (std::size_t i = 1; i < csv->rows.size(); ++i) {
+    for (std::size_t i = 1; i < csv->rows.size() && report.goesOn(); ++i) {
         const CsvRow& line = csv->rows[i];
         if (!fullLine(line, table.header.size(), Row::file, report)) continue;
         Row row{};
@@ -56,11 +58,26 @@ template<class Row> Table<Row> readTable(const std::filesystem::path& folder, Re
     return table;
 }
 
-/// The text of a table with its header.
-template<class Row> std::string tableText(const std::vector<Row>& rows) {
-    std::string out = csvLine(columnNames<Row>());
+/// Whether a table is to have a column of regions: where a row knows one.
+template<class Row> bool anyRegion(const std::vector<Row>& rows) {
+    if constexpr (requires(const Row& row) { row.region; })
+        return std::any_of(rows.begin(), rows.end(),
+                           [](const Row& row) { return !row.region.trimmed().empty(); });
+    else
+        return false;
+}
+
+/// The text of a table with its header. `goesOn` is asked before each row; false ends the work, and the text
+/// is of no use.
+template<class Row>
+std::string tableText(const std::vector<Row>& rows, const std::function<bool()>& goesOn = {}) {
+    const bool regions = anyRegion(rows);
+    ColumnNames names = columnNames<Row>();
+    if (!regions) names.names.resize(names.names.size() - names.mayMiss.size()); // they are the last ones
+    std::string out = csvLine(names.names);
     for (const Row& row : rows) {
-        CellWriter cells;
+        if (goesOn && !goesOn()) break;
+        CellWriter cells(regions);
         Row::columns(row, cells);
         out += csvLine(cells.cells);
     }

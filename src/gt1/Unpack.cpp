@@ -95,6 +95,16 @@ void checkAirportNumbers(const DataSet& set, Report& report) {
     }
 }
 
+/// A world without this file knows no region.
+Regions regionsOf(const std::filesystem::path& folder, Report& report) {
+    const std::string file = files::textOf(folder / kRegionsFile);
+    const Bytes bytes = files::fileExists(file) ? read(folder, kRegionsFile, report) : Bytes();
+    return regionsIn(asText(bytes), [&](int line) {
+        report.error({kRegionsFile, line, 0, ""}, "kind, ident, latitude, longitude and region",
+                     "another line");
+    });
+}
+
 } // namespace
 
 DataSet unpackDataSet(const std::filesystem::path& folder, Report& report) {
@@ -124,6 +134,7 @@ World unpackWorld(const std::filesystem::path& folder, Report& report) {
     world.ndb = records<NavaidRecord>(folder, "NDB.gt1", report);
     world.fixes = records<FixRecord>(folder, "ISC.gt1", report);
     world.jets = records<JetRecord>(folder, "JRT.gt1", report);
+    world.regions = regionsOf(folder, report);
     return world;
 }
 

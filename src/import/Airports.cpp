@@ -13,8 +13,9 @@ class AirportMaker {
 public:
     explicit AirportMaker(Findings& findings) : findings_(findings) {}
 
-    void add(const std::vector<AirportIn>& rows, bool zonesOnly) {
+    void add(const std::vector<AirportIn>& rows, bool zonesOnly, Walk walk) {
         for (const AirportIn& row : rows) {
+            if (!walk.goesOn()) return;
             if (row.closed || !row.land || row.iata.empty()) continue;
             if (const int known = out_.find(row.iata); known >= 0) {
                 merge(out_.all[static_cast<std::size_t>(known)], row, zonesOnly);
@@ -67,8 +68,9 @@ private:
 };
 
 /// An airport without a zone keeps the clock of the nearest one that has one.
-void lendZones(Airports& airports) {
+void lendZones(Airports& airports, Walk walk) {
     for (Airport& airport : airports.all) {
+        if (!walk.goesOn()) return;
         if (!airport.zone.empty()) continue;
         double best = 1e9;
         for (const Airport& other : airports.all) {
@@ -90,14 +92,15 @@ void Airports::index() {
     }
 }
 
-Airports makeAirports(const RawTables& raw, Findings& findings) {
+Airports makeAirports(const RawTables& raw, Findings& findings, const Job& job) {
     AirportMaker maker(findings);
-    maker.add(raw.airports.rows, false);
-    maker.add(raw.worldAirports.rows, !raw.airports.rows.empty());
+    maker.add(raw.airports.rows, false, Walk(job, raw.airports.rows.size(), 0, 0.1));
+    maker.add(raw.worldAirports.rows, !raw.airports.rows.empty(),
+              Walk(job, raw.worldAirports.rows.size(), 0.1, 0.2));
     Airports out = maker.finish();
-    lendZones(out);
-    addRunways(out, raw, findings);
-    addRadios(out, raw);
+    lendZones(out, Walk(job, out.all.size(), 0.2, 0.3));
+    addRunways(out, raw, findings, job);
+    if (!job.cancelled()) addRadios(out, raw, job);
     return out;
 }
 

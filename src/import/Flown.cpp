@@ -11,11 +11,30 @@ namespace gatewise::importer {
 
 namespace {
 
+/// How much of a timetable is made.
+constexpr double kRowsSorted = 0.2;
+constexpr double kTailsKnown = 0.3;
+constexpr double kFlightsKnown = 0.6;
+
 using Rows = std::span<const OnTimeRow>;
 
 /// 0 Monday to 6 Sunday.
 int weekdayOf(std::int32_t day) {
     return (day + 5) % 7; // day 0 was a Saturday
+}
+
+/// A sort that looks up now and then: parts of the rows first, then twos of parts joined. Not done when the
+/// job was cancelled.
+template<class Row, class Less> void sortInParts(std::vector<Row>& rows, Less less, const Job& job) {
+    constexpr std::size_t part = 65536;
+    const auto at = [&](std::size_t i) {
+        return rows.begin() + static_cast<std::ptrdiff_t>(std::min(i, rows.size()));
+    };
+    for (std::size_t from = 0; from < rows.size() && !job.cancelled(); from += part)
+        std::sort(at(from), at(from + part), less);
+    for (std::size_t width = part; width < rows.size(); width *= 2)
+        for (std::size_t from = 0; from + width < rows.size() && !job.cancelled(); from += 2 * width)
+            std::inplace_merge(at(from), at(from + width), at(from + 2 * width), less);
 }
 
 auto flightOf(const OnTimeRow& r) {
@@ -25,7 +44,7 @@ auto flightOf(const OnTimeRow& r) {
 /// Numbers become places in the alphabet, so that the order of rows is that of their texts.
 class Sorted {
 public:
-    explicit Sorted(OnTimeData& data) : data_(data) {
+    Sorted(OnTimeData& data, const Job& job) : data_(data) {
         const auto carriers = data.carriers.ranks();
         const auto airports = data.airports.ranks();
         const auto tails = data.tails.ranks();
@@ -33,16 +52,18 @@ public:
             return std::tuple(carriers[r.carrier], r.number, airports[r.origin], airports[r.destination],
                               r.departure, r.day, r.arrival, tails[r.tail], r.miles);
         };
-        std::sort(data.rows.begin(), data.rows.end(),
-                  [&](const OnTimeRow& a, const OnTimeRow& b) { return key(a) < key(b); });
+        sortInParts(
+            data.rows, [&](const OnTimeRow& a, const OnTimeRow& b) { return key(a) < key(b); }, job);
+        if (job.cancelled()) return;
         const auto same = [&](const OnTimeRow& a, const OnTimeRow& b) { return key(a) == key(b); };
         data.rows.erase(std::unique(data.rows.begin(), data.rows.end(), same), data.rows.end());
     }
 
     /// Calls `each` with the rows of every carrier's number between two airports, by departure.
-    template<class Each> void groups(Each each) const {
+    template<class Each> void groups(const Job& job, Each each) const {
         const Rows all(data_.rows);
-        for (std::size_t from = 0, to = 0; from < all.size(); from = to) {
+        Walk walk(job, all.size(), kTailsKnown, kFlightsKnown);
+        for (std::size_t from = 0, to = 0; from < all.size() && walk.goesOn(); from = to) {
             while (to < all.size() && flightOf(all[to]) == flightOf(all[from])) ++to;
             each(all.subspan(from, to - from));
         }
@@ -112,13 +133,17 @@ Flight flightOf(const std::vector<OnTimeRow>& rows, const OnTimeData& data, bool
 } // namespace
 
 std::vector<Flight> flownFlights(RawTables& raw, const AircraftTypes& types, bool everyFlight,
-                                 Findings& findings) {
+                                 Findings& findings, const Job& job) {
     OnTimeData& data = raw.onTime;
-    const Sorted sorted(data);
-    const TailTypes tails(raw, types);
+    const Sorted sorted(data, job);
+    if (job.cancelled()) return {};
+    job.progress(kRowsSorted);
+    const TailTypes tails(raw, types, job);
+    if (job.cancelled()) return {};
+    job.progress(kTailsKnown);
     const std::vector<bool> longOnes = longCarriers(data);
     std::vector<Flight> out;
-    sorted.groups([&](Rows group) {
+    sorted.groups(job, [&](Rows group) {
         for (const auto& rows : clusters(group)) {
             bool many = false;
             Flight flight = flightOf(rows, data, many);

@@ -72,7 +72,7 @@ void Graph::addEdge(std::uint32_t from, std::uint32_t to, const Edge& like) {
     edges.push_back(edge);
 }
 
-void Graph::addOceans(const Network& network) {
+void Graph::addOceans(const Network& network, const Job& job) {
     const auto airwayNodes = static_cast<std::uint32_t>(nodes.size());
     std::vector<std::uint32_t> grid;
     for (std::uint32_t i = 0; i < network.points.size(); ++i)
@@ -81,6 +81,7 @@ void Graph::addOceans(const Network& network) {
     Edge direct;
     direct.high = true;
     for (const std::uint32_t a : grid) {
+        if (job.cancelled()) return;
         for (const std::uint32_t b : grid)
             if (a != b && neighbours(place(a), place(b))) addEdge(a, b, direct);
         std::vector<std::pair<Cost, std::uint32_t>> shore;
@@ -97,8 +98,9 @@ void Graph::addOceans(const Network& network) {
     }
 }
 
-Graph::Graph(const Network& network) : nodeOfPoint_(network.points.size(), kNone) {
-    for (std::size_t i = 0; i < network.legs.size(); ++i) {
+Graph::Graph(const Network& network, const Job& job) : nodeOfPoint_(network.points.size(), kNone) {
+    Walk walk(job, 0);
+    for (std::size_t i = 0; i < network.legs.size() && walk.goesOn(); ++i) {
         const Leg& leg = network.legs[i];
         const std::uint32_t from = nodeOf(network, leg.from);
         const std::uint32_t to = nodeOf(network, leg.to);
@@ -109,7 +111,7 @@ Graph::Graph(const Network& network) : nodeOfPoint_(network.points.size(), kNone
         if (leg.forward) addEdge(from, to, edge);
         if (leg.backward) addEdge(to, from, edge);
     }
-    addOceans(network);
+    addOceans(network, job);
     const auto order = [&](const Edge& e) { return std::tuple(e.from, points[e.to], !e.high, e.leg); };
     std::sort(edges.begin(), edges.end(), [&](const Edge& a, const Edge& b) { return order(a) < order(b); });
     first.assign(nodes.size() + 1, 0);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/Job.h"
 #include "import/Network.h"
 #include "import/Sphere.h"
 
@@ -27,7 +28,8 @@ struct Edge {
 /// The airways as nodes and directed edges, and between the grid fixes of the oceans (named like 53N20 or
 /// 5320N) direct legs, tied to the airways at their shores.
 struct Graph {
-    explicit Graph(const Network& network);
+    /// Not all of it when the job was cancelled.
+    explicit Graph(const Network& network, const Job& job = Job());
 
     std::vector<std::uint32_t> points; // of each node, in the network's points
     std::vector<Vector> nodes;
@@ -37,7 +39,7 @@ struct Graph {
 private:
     std::uint32_t nodeOf(const Network& network, std::uint32_t point);
     void addEdge(std::uint32_t from, std::uint32_t to, const Edge& like);
-    void addOceans(const Network& network);
+    void addOceans(const Network& network, const Job& job);
 
     std::vector<std::uint32_t> nodeOfPoint_;
 };

@@ -31,6 +31,7 @@ std::string newKey(std::unordered_set<std::string>& taken, const std::string& id
 SharedTables::SharedTables(gt1::World world) : world_(std::move(world)) {
     before_ = {world_.aircraft.size(), world_.vor.size(), world_.ndb.size(), world_.fixes.size(),
                world_.jets.size()};
+    regionsBefore_ = world_.regions.entries().size();
     for (std::size_t i = 0; i < world_.vor.size(); ++i) vor_.emplace(world_.vor[i].navaidId.trimmed(), i);
     for (std::size_t i = 0; i < world_.ndb.size(); ++i) ndb_.emplace(world_.ndb[i].navaidId.trimmed(), i);
     for (std::size_t i = 0; i < world_.fixes.size(); ++i) {
@@ -72,6 +73,15 @@ std::size_t SharedTables::aid(std::vector<NavaidRecord>& records, Places& places
 }
 
 std::size_t SharedTables::record(const Point& point) {
+    const std::size_t number = numberOf(point);
+    constexpr std::string_view userRegion = "ZZ"; // of points that a user made up: it names no place
+    if (point.region != userRegion)
+        world_.regions.add({point.kind, point.ident, static_cast<float>(point.place.latitude),
+                            static_cast<float>(point.place.longitude), point.region});
+    return number;
+}
+
+std::size_t SharedTables::numberOf(const Point& point) {
     if (point.kind == 'V') return aid(world_.vor, vor_, point);
     if (point.kind == 'N') return aid(world_.ndb, ndb_, point);
     const long long known = find(fixes_, world_.fixes, point, [&](const FixRecord& r) {

@@ -1,5 +1,6 @@
 #include "import/Import.h"
 
+#include "gt1/Commands.h"
 #include "gt1/Rows.h"
 #include "gt1/Tables.h"
 #include "import/Airlines.h"
@@ -10,16 +11,27 @@
 
 #include <algorithm>
 #include <cmath>
+#include <functional>
 #include <map>
 
 namespace gatewise::importer {
 
 namespace {
 
+/// How much of the step that makes the tables is done.
+constexpr double kFlightsFrom = 0.1;
+constexpr double kPlansFrom = 0.3;
+constexpr double kSharedFrom = 0.6;
+
 using PairKey = std::pair<std::string, std::string>; // IATA, the first in the alphabet first
 
 PairKey keyOf(const Flight& flight) {
     return std::minmax(flight.origin, flight.destination);
+}
+
+/// The question that the writing of tables asks for every row.
+std::function<bool()> asking(const Job& job) {
+    return [walk = Walk(job, 0)]() mutable { return walk.goesOn(); };
 }
 
 /// The rows of the records of one kind.
@@ -64,26 +76,31 @@ public:
         return numbers_.at(keyOf(flight)) + (isBack(flight) ? 1 : 0);
     }
 
-    gt1::NamedTable plans(SharedTables& shared) const {
+    gt1::NamedTable plans(SharedTables& shared, const Job& job) const {
         struct Entry {
             char kind = 'I';
             std::size_t record = 0;
         };
         std::map<std::pair<std::uint32_t, bool>, Entry> entries;
+        Walk walk(job, 3 * routes_.size(), kPlansFrom, kSharedFrom);
         for (const RoutePair& pair : routes_)
-            for (const RoutePoint& p : pair.there.points) remember(p, shared, entries);
+            for (const RoutePoint& p : pair.there.points)
+                if (walk.goesOn()) remember(p, shared, entries);
         for (const RoutePair& pair : routes_)
-            for (const RoutePoint& p : pair.back.points) remember(p, shared, entries);
+            for (const RoutePoint& p : pair.back.points)
+                if (walk.goesOn()) remember(p, shared, entries);
+        if (job.cancelled()) return {};
         const gt1::WorldNames names(shared.world());
         std::vector<gt1::PlanRow> rows;
         std::size_t index = 0;
         for (const auto& [key, number] : numbers_) {
+            if (!walk.goesOn()) return {};
             const RoutePair& pair = routes_[index];
             addPlan(number, key.first, key.second, used_[index][0], pair.there, names, entries, rows);
             addPlan(number + 1, key.second, key.first, used_[index][1], pair.back, names, entries, rows);
             ++index;
         }
-        return {std::string(gt1::PlanRow::file), gt1::tableText(rows)};
+        return {std::string(gt1::PlanRow::file), gt1::tableText(rows, asking(job))};
     }
 
     void count(ImportCounts& counts) const {
@@ -143,10 +160,12 @@ int hhmm(int minutes) {
     return minutes / 60 * 100 + minutes % 60;
 }
 
-gt1::NamedTable flightTable(const std::vector<Flight>& flights, const Planner& planner) {
+gt1::NamedTable flightTable(const std::vector<Flight>& flights, const Planner& planner, const Job& job) {
     std::vector<gt1::FlightRow> rows;
     rows.reserve(flights.size());
+    Walk walk(job, flights.size(), kFlightsFrom, kPlansFrom);
     for (const Flight& flight : flights) {
+        if (!walk.goesOn()) return {};
         gt1::FlightRow row;
         FlightRecord& r = row.record;
         r.OriginIata = flight.origin;
@@ -164,7 +183,7 @@ gt1::NamedTable flightTable(const std::vector<Flight>& flights, const Planner& p
         r.PlanNumber = planner.plan(flight);
         rows.push_back(row);
     }
-    return {std::string(gt1::FlightRow::file), gt1::tableText(rows)};
+    return {std::string(gt1::FlightRow::file), gt1::tableText(rows, asking(job))};
 }
 
 void airportTables(const Airports& airports, std::vector<gt1::NamedTable>& out) {
@@ -183,20 +202,17 @@ void airportTables(const Airports& airports, std::vector<gt1::NamedTable>& out) 
 }
 
 void growShared(SharedTables& shared, const Network& network, const std::vector<Flight>& flights,
-                const AircraftTypes& types) {
+                const AircraftTypes& types, const Job& job) {
     std::set<std::string> codes;
     for (const Flight& flight : flights) codes.insert(flight.type);
     for (const AircraftType& type : types.all())
         if (codes.contains(type.code)) shared.aircraft(type.record);
+    Walk walk(job, network.points.size(), 0, kFlightsFrom);
     for (const Point& point : network.points) {
+        if (!walk.goesOn()) return;
         shared.record(point);
         if (point.high) shared.jet(point);
     }
-}
-
-std::vector<gt1::NamedTable> sharedTables(const gt1::World& world) {
-    return {table<gt1::AircraftRow>(world.aircraft), table<gt1::VorRow>(world.vor),
-            table<gt1::NdbRow>(world.ndb), table<gt1::FixRow>(world.fixes), table<gt1::JetRow>(world.jets)};
 }
 
 void countFlights(const std::vector<Flight>& flights, ImportCounts& counts) {
@@ -211,9 +227,11 @@ void build(RawTables& raw, const gt1::World& given, const ImportOptions& options
            const Job& job, Imported& out) {
     job.step("Airports");
     const AircraftTypes types;
-    Airports airports = makeAirports(raw, findings);
+    Airports airports = makeAirports(raw, findings, job);
+    if (job.cancelled()) return;
     job.step("Timetable");
-    std::vector<Flight> flights = makeTimetable(raw, airports, types, options.everyFlight, findings);
+    std::vector<Flight> flights = makeTimetable(raw, airports, types, options.everyFlight, findings, job);
+    if (job.cancelled()) return;
     std::set<std::string> used, codes;
     for (const Flight& flight : flights) {
         used.insert({flight.origin, flight.destination});
@@ -222,26 +240,30 @@ void build(RawTables& raw, const gt1::World& given, const ImportOptions& options
     keepUsed(airports, used, findings);
     if (airports.all.empty())
         out.faults.emplace_back("no airports: the sources have no table of airports with both codes");
-    if (job.cancelled()) return;
+    if (!out.faults.empty()) return;
     job.step("Navigation");
     const Network network = makeNetwork(raw, findings, job);
+    if (job.cancelled()) return;
     job.step("Routes");
     Planner planner(network, airports, flights);
     planner.find(job);
-    if (job.cancelled() || !out.faults.empty()) return;
+    if (job.cancelled()) return;
     planner.measure();
     job.step("Tables");
     SharedTables shared(given);
-    growShared(shared, network, flights, types);
+    growShared(shared, network, flights, types, job);
     if (job.cancelled()) return;
     airportTables(airports, out.tables);
     const auto airlines = makeAirlines(raw, codes, findings);
     out.tables.push_back(table<gt1::AirlineRow>(airlines));
-    out.tables.push_back(flightTable(flights, planner));
-    out.tables.push_back(planner.plans(shared));
-    out.shared = sharedTables(shared.world());
+    out.tables.push_back(flightTable(flights, planner, job));
+    out.tables.push_back(planner.plans(shared, job));
+    if (job.cancelled()) return;
+    job.progress(kSharedFrom);
+    out.shared = gt1::worldTables(shared.world(), asking(job));
     out.world = shared.world();
-    out.counts = {airports.all.size(), airlines.size(), 0, 0, 0, 0, 0, 0, shared.grown()};
+    out.counts = {airports.all.size(),   airlines.size(), 0, 0, 0, 0, 0, 0,
+                  shared.grownRegions(), shared.grown()};
     countFlights(flights, out.counts);
     planner.count(out.counts);
 }
@@ -257,6 +279,7 @@ Imported makeImport(const std::vector<Source>& sources, const gt1::World& shared
     out.name = options.name.empty() ? defaultName(raw) : options.name;
     if (out.faults.empty() && !job.cancelled()) build(raw, shared, options, findings, job, out);
     out.cancelled = job.cancelled();
+    if (out.cancelled) out.tables.clear();
     out.sources = sourcesText(raw);
     out.report = reportText(out, raw, findings);
     return out;

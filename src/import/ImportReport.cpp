@@ -41,6 +41,7 @@ std::string made(const ImportCounts& c) {
                                                      "fixes on high airways"};
     for (std::size_t i = 0; i < c.grown.size(); ++i)
         out += count(c.grown[i], std::string(tables[i]) + " added to the tables that all sets share");
+    if (c.regions > 0) out += count(c.regions, "regions of them added to the list that all sets share");
     return out;
 }
 

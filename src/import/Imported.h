@@ -19,6 +19,7 @@ struct ImportCounts {
     std::size_t airports = 0, airlines = 0;
     std::size_t own = 0, flown = 0, made = 0;         // flights
     std::size_t pairs = 0, byNavaids = 0, direct = 0; // airport pairs; those without a way along airways
+    std::size_t regions = 0;                          // added to those that all sets share
     std::vector<std::size_t> grown;                   // shared records added: aircraft, vor, ndb, fixes, jets
 };
 

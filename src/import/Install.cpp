@@ -101,7 +101,10 @@ private:
 std::vector<gt1::PackedFile> grownFiles(const gt1::World& world, const fs::path& data, Report& report) {
     std::vector<gt1::PackedFile> out;
     for (gt1::PackedFile& file : gt1::packWorld(world)) {
-        const auto old = files::readAll(files::textOf(data / file.name));
+        const std::string place = files::textOf(data / file.name);
+        // There are no regions before the first source that knows any.
+        const bool first = file.name == kRegionsFile && !files::fileExists(place);
+        const auto old = first ? std::optional(Bytes()) : files::readAll(place);
         const bool begins = old && old->size() <= file.bytes.size() &&
                             std::equal(old->begin(), old->end(), file.bytes.begin());
         if (!begins)
@@ -124,6 +127,28 @@ void putInShared(const std::vector<gt1::PackedFile>& grown, const fs::path& from
         if (!report.failed()) fs::rename(from / file.name, data / file.name, error);
         if (error) tell(report, data / file.name, "a file that can be replaced", error.message());
     }
+}
+
+/// Everything that is to be put in, in the fresh place: the set, and the shared files that are returned. What
+/// stops it is the report's failure.
+std::vector<gt1::PackedFile> makeFiles(const Imported& imported, const FreshPlace& fresh,
+                                       const fs::path& data, Report& report, const Job& job) {
+    report.watchedBy([&job](double share) {
+        if (!job.cancelled()) job.progress(share);
+        return !job.cancelled();
+    });
+    job.step("Writing tables");
+    gt1::writeTables(imported.tables, fresh.tables(), report);
+    gt1::writeTables(imported.shared, fresh.tables() / "shared", report);
+    if (report.goesOnNow()) job.step("Compiling");
+    if (!report.failed()) gt1::compileFolder(fresh.tables(), fresh.set(), fresh.tables() / "shared", report);
+    std::vector<gt1::PackedFile> grown;
+    if (!report.failed()) writeFile(fresh.set() / "SOURCES.txt", viewOf(imported.sources), report);
+    if (!report.failed()) grown = grownFiles(imported.world, data, report);
+    for (const gt1::PackedFile& file : grown)
+        if (report.goesOnNow()) writeFile(fresh.root() / file.name, file.bytes, report);
+    report.watchedBy({});
+    return grown;
 }
 
 } // namespace
@@ -151,15 +176,9 @@ bool install(const Imported& imported, const fs::path& programFolder, Report& re
     }
     const fs::path data = files::target(files::textOf(programFolder) + "\\Data");
     FreshPlace fresh(programFolder, name, report);
-    gt1::writeTables(imported.tables, fresh.tables(), report);
-    gt1::writeTables(imported.shared, fresh.tables() / "shared", report);
+    const auto grown = makeFiles(imported, fresh, data, report, job);
     if (report.failed() || job.cancelled()) return false;
-    job.step("Compiling");
-    gt1::compileFolder(fresh.tables(), fresh.set(), fresh.tables() / "shared", report);
-    writeFile(fresh.set() / "SOURCES.txt", viewOf(imported.sources), report);
-    const auto grown = grownFiles(imported.world, data, report);
-    for (const gt1::PackedFile& file : grown) writeFile(fresh.root() / file.name, file.bytes, report);
-    if (report.failed() || job.cancelled()) return false;
+    job.step("Putting in");
     putInShared(grown, fresh.root(), data, report);
     return !report.failed() && fresh.putIn();
 }

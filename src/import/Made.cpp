@@ -11,6 +11,9 @@ namespace gatewise::importer {
 
 namespace {
 
+/// How much of a timetable is made where the flights as flown are.
+constexpr double kFlownShare = 0.6;
+
 /// A number that looks drawn, but follows from the text.
 std::uint64_t drawn(std::string_view text) {
     std::uint64_t hash = 14695981039346656037ULL;
@@ -39,14 +42,16 @@ public:
             ahead_.push_back(zones.minutesAhead(airport.zone, month.year, month.month));
     }
 
-    void take(const std::vector<RouteIn>& routes, const std::vector<Flight>& real) {
+    void take(const std::vector<RouteIn>& routes, const std::vector<Flight>& real, const Job& job) {
+        Walk walk(job, 2 * routes.size(), kFlownShare, 0.8);
         for (const Flight& flight : real)
             flown_.insert(directed(flight.airline, flight.origin, flight.destination));
         std::set<std::pair<std::size_t, std::size_t>> owned;
         for (const RouteIn& row : routes)
-            if (!row.codeshare && usable(row, false)) owned.insert(ends(row));
+            if (walk.goesOn() && !row.codeshare && usable(row, false)) owned.insert(ends(row));
         std::map<Directed, const RouteIn*> chosen;
         for (const RouteIn& row : routes) {
+            if (!walk.goesOn()) return;
             if (!usable(row, true)) continue;
             const auto [from, to] = ends(row);
             if (row.codeshare && owned.contains({from, to})) {
@@ -60,7 +65,7 @@ public:
         for (const auto& [key, row] : chosen) services_.push_back(serviceOf(*row));
     }
 
-    std::vector<Flight> fly(Numbering& numbers) {
+    std::vector<Flight> fly(Numbering& numbers, const Job& job) {
         std::map<std::tuple<std::string, double, std::size_t, std::size_t>, std::array<const Service*, 2>>
             pairs;
         for (const Service& s : services_) {
@@ -69,7 +74,9 @@ public:
                  [out ? 0 : 1] = &s; // long ways first: they have an airline's low numbers
         }
         std::vector<Flight> out;
-        for (const auto& [key, both] : pairs) flyPair(both, numbers, out);
+        Walk walk(job, pairs.size(), 0.8);
+        for (const auto& [key, both] : pairs)
+            if (walk.goesOn()) flyPair(both, numbers, out);
         return out;
     }
 
@@ -204,11 +211,11 @@ private:
 
 std::vector<Flight> madeFlights(const std::vector<RouteIn>& routes, const Airports& airports,
                                 const AircraftTypes& types, const Zones& zones, CycleMonth month,
-                                const std::vector<Flight>& real, Findings& findings) {
+                                const std::vector<Flight>& real, Findings& findings, const Job& job) {
     Numbering numbers(real);
     FlightMaker maker(airports, types, zones, month, findings);
-    maker.take(routes, real);
-    return maker.fly(numbers);
+    maker.take(routes, real, job);
+    return job.cancelled() ? std::vector<Flight>() : maker.fly(numbers, job);
 }
 
 } // namespace gatewise::importer

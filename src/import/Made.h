@@ -2,6 +2,7 @@
 
 #include "import/Airport.h"
 #include "import/Flight.h"
+#include "import/Job.h"
 #include "import/Sources.h"
 #include "import/Zones.h"
 
@@ -16,6 +17,6 @@ namespace gatewise::importer {
 /// airline that flies the pair itself. Flight numbers are those that the airline's real flights leave free.
 std::vector<Flight> madeFlights(const std::vector<RouteIn>& routes, const Airports& airports,
                                 const AircraftTypes& types, const Zones& zones, CycleMonth month,
-                                const std::vector<Flight>& real, Findings& findings);
+                                const std::vector<Flight>& real, Findings& findings, const Job& job = Job());
 
 } // namespace gatewise::importer

@@ -46,11 +46,15 @@ public:
 
     Network run(const Job& job) {
         addAids();
-        addRadioAids();
+        Walk aids(job, raw_.radioAids.rows.size(), 0, 0.1);
+        addRadioAids(aids);
         addFixes();
+        if (job.cancelled()) return {};
+        job.progress(0.2);
         sortPoints();
-        for (std::size_t i = 0; i < raw_.airways.rows.size() && !job.cancelled(); ++i)
-            addLeg(raw_.airways.rows[i]);
+        Walk legs(job, raw_.airways.rows.size(), 0.4, 1);
+        for (const AirwayIn& row : raw_.airways.rows)
+            if (legs.goesOn()) addLeg(row);
         return std::move(out_);
     }
 
@@ -78,8 +82,9 @@ private:
         index();
     }
 
-    void addRadioAids() {
+    void addRadioAids(Walk& walk) {
         for (const NavAidIn& aid : raw_.radioAids.rows) {
+            if (!walk.goesOn()) return;
             const Place place{aid.latitude, aid.longitude};
             if (nearest(aid.ident, aid.row == 2 ? "N" : "V", place, kSameAid) < 0) addAid(aid);
         }

@@ -45,9 +45,11 @@ std::string radioText(double megahertz) {
 
 } // namespace
 
-void addRadios(Airports& airports, const RawTables& raw) {
+void addRadios(Airports& airports, const RawTables& raw, const Job& job) {
+    Walk walk(job, 2 * raw.radios.rows.size(), 0.9);
     for (const bool old : {true, false})
         for (const RadioIn& row : raw.radios.rows) {
+            if (!walk.goesOn()) return;
             if (row.megahertz < 118 || row.megahertz >= 137 || oldChannel(row.megahertz) != old) continue;
             const int number = airports.find(row.airport);
             const std::string type = upperAscii(row.type);

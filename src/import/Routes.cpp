@@ -155,7 +155,7 @@ private:
 
 std::vector<RoutePair> findRoutes(const Network& network, const std::vector<std::pair<Place, Place>>& pairs,
                                   const Job& job) {
-    const Graph graph(network);
+    const Graph graph(network, job);
     std::vector<RoutePair> out(pairs.size());
     std::atomic<std::size_t> next{0};
     const auto work = [&] {

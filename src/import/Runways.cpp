@@ -95,9 +95,11 @@ public:
     RunwayMaker(Airports& airports, const RawTables& raw, Findings& findings)
         : airports_(airports), raw_(raw), findings_(findings), variations_(variations(raw)) {}
 
-    void run() {
+    void run(const Job& job) {
         std::vector<const RunwayIn*> strange;
+        Walk walk(job, raw_.runways.rows.size(), 0.3, 0.8);
         for (const RunwayIn& row : raw_.runways.rows) {
+            if (!walk.goesOn()) return;
             const int number = airports_.find(row.airport);
             if (number >= 0)
                 add(airports_.all[static_cast<std::size_t>(number)], row);
@@ -107,8 +109,11 @@ public:
         std::vector<Airport*> bare;
         for (Airport& airport : airports_.all)
             if (airport.facilities.runways.empty()) bare.push_back(&airport);
-        for (const RunwayIn* row : strange) addMoved(bare, *row);
-        for (Airport& airport : airports_.all) finish(airport);
+        Walk second(job, strange.size() + airports_.all.size(), 0.8, 0.9);
+        for (const RunwayIn* row : strange)
+            if (second.goesOn()) addMoved(bare, *row);
+        for (Airport& airport : airports_.all)
+            if (second.goesOn()) finish(airport);
     }
 
 private:
@@ -199,8 +204,8 @@ private:
 
 } // namespace
 
-void addRunways(Airports& airports, const RawTables& raw, Findings& findings) {
-    RunwayMaker(airports, raw, findings).run();
+void addRunways(Airports& airports, const RawTables& raw, Findings& findings, const Job& job) {
+    RunwayMaker(airports, raw, findings).run(job);
 }
 
 } // namespace gatewise::importer

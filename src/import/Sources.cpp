@@ -108,10 +108,14 @@ SourceInfo lookAt(const Source& source) {
     return out;
 }
 
+void sortSources(std::vector<Source>& sources) {
+    std::stable_sort(sources.begin(), sources.end(),
+                     [](const Source& a, const Source& b) { return a.name < b.name; });
+}
+
 RawTables readSources(std::vector<Source> sources, bool skipUnknown, Findings& findings,
                       std::vector<std::string>& faults, const Job& job) {
-    std::sort(sources.begin(), sources.end(),
-              [](const Source& a, const Source& b) { return a.name < b.name; });
+    sortSources(sources);
     RawTables all;
     for (std::size_t i = 0; i < sources.size() && !job.cancelled(); ++i) {
         job.step("Reading " + sources[i].name);

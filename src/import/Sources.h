@@ -47,6 +47,9 @@ struct RawTables {
     Table<OwnFlightIn> ownFlights; // all files of a pilot's own, joined
 };
 
+/// Puts sources into the order in which they are read and listed: that of their names.
+void sortSources(std::vector<Source>& sources);
+
 /// Reads all sources. The result does not depend on their order. `findings` gets the rows that are no good;
 /// `faults` a line for each file that stops an import: broken, or of no known form unless `skipUnknown`.
 RawTables readSources(std::vector<Source> sources, bool skipUnknown, Findings& findings,

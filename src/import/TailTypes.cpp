@@ -22,12 +22,15 @@ struct MakerModel {
 using Models = std::unordered_map<std::string, MakerModel>;
 
 /// Both registries; what the plane data says comes before the other.
-Models modelsOf(const RawTables& raw) {
+Models modelsOf(const RawTables& raw, Walk walk) {
     Models out;
-    for (const TailIn& row : raw.tails.rows) out.try_emplace(row.tail, MakerModel{row.maker, row.model});
+    for (const TailIn& row : raw.tails.rows)
+        if (walk.goesOn()) out.try_emplace(row.tail, MakerModel{row.maker, row.model});
     std::unordered_map<std::string, const RegistryModelIn*> byCode;
-    for (const RegistryModelIn& row : raw.registryModels.rows) byCode.try_emplace(row.code, &row);
+    for (const RegistryModelIn& row : raw.registryModels.rows)
+        if (walk.goesOn()) byCode.try_emplace(row.code, &row);
     for (const RegistryIn& row : raw.registry.rows) {
+        if (!walk.goesOn()) return out;
         const auto model = byCode.find(row.modelCode);
         if (model != byCode.end())
             out.try_emplace(row.tail, MakerModel{model->second->maker, model->second->model});
@@ -37,8 +40,9 @@ Models modelsOf(const RawTables& raw) {
 
 } // namespace
 
-TailTypes::TailTypes(const RawTables& raw, const AircraftTypes& types) : types_(types) {
-    const Models models = modelsOf(raw);
+TailTypes::TailTypes(const RawTables& raw, const AircraftTypes& types, const Job& job) : types_(types) {
+    const Models models = modelsOf(raw, Walk(job, 0));
+    Walk walk(job, 0);
     for (std::uint32_t i = 0; i < raw.onTime.tails.size(); ++i) {
         std::string tail = upperAscii(raw.onTime.tails[i]);
         if (!tail.empty() && tail[0] >= '0' && tail[0] <= '9') tail.insert(tail.begin(), 'N');
@@ -46,7 +50,9 @@ TailTypes::TailTypes(const RawTables& raw, const AircraftTypes& types) : types_(
         ofTail_.push_back(model == models.end() ? nullptr
                                                 : types.ofModel(model->second.maker, model->second.model));
     }
+    if (job.cancelled()) return; // half of the tails
     for (const OnTimeRow& row : raw.onTime.rows) {
+        if (!walk.goesOn()) return;
         const AircraftType* type = ofTail_[row.tail];
         if (type == nullptr) continue;
         ++usual_[{row.carrier, bandOf(row.miles)}][type->code];

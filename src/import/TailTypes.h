@@ -1,6 +1,7 @@
 #pragma once
 
 #include "import/AircraftTypes.h"
+#include "import/Job.h"
 #include "import/Sources.h"
 
 #include <map>
@@ -11,7 +12,8 @@ namespace gatewise::importer {
 /// Which type flew: by the tail numbers, and for unknown ones by what else the carrier flies that far.
 class TailTypes {
 public:
-    TailTypes(const RawTables& raw, const AircraftTypes& types);
+    /// Of no use when the job was cancelled.
+    TailTypes(const RawTables& raw, const AircraftTypes& types, const Job& job);
 
     /// The most frequent type of the rows' tails, the first in the alphabet of those that are as frequent;
     /// for rows without a known tail the carrier's usual type at their distance.

@@ -41,16 +41,17 @@ void serveAll(std::vector<Flight>& flights, const Airports& airports, const Airc
 } // namespace
 
 std::vector<Flight> makeTimetable(RawTables& raw, const Airports& airports, const AircraftTypes& types,
-                                  bool everyFlight, Findings& findings) {
+                                  bool everyFlight, Findings& findings, const Job& job) {
     std::vector<Flight> all = ownFlights(raw.ownFlights.rows, airports, types, findings);
-    std::vector<Flight> flown = flownFlights(raw, types, everyFlight, findings);
+    std::vector<Flight> flown = flownFlights(raw, types, everyFlight, findings, job);
+    if (job.cancelled()) return all;
     nameAirports(flown, airports, findings);
     serveAll(flown, airports, types);
     giveWay(flown, all);
     all.insert(all.end(), flown.begin(), flown.end());
     const Zones zones;
     const auto made =
-        madeFlights(raw.routes.rows, airports, types, zones, monthOfTimetable(raw), all, findings);
+        madeFlights(raw.routes.rows, airports, types, zones, monthOfTimetable(raw), all, findings, job);
     all.insert(all.end(), made.begin(), made.end());
     std::sort(all.begin(), all.end(), [](const Flight& a, const Flight& b) { return a.key() < b.key(); });
     return all;

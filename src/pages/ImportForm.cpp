@@ -28,20 +28,27 @@ struct ImportDesk {
 
 void showProgress(forms::ImportForm& f, const ImportJob& job) {
     f.progress_LABEL.text = textFromUtf8(job.words());
+    f.progressBAR.value = job.percent();
+}
+
+/// What can be done to the list: everything while nothing runs behind it.
+void showKeys(forms::ImportForm& f, const ImportDesk& desk, bool running) {
+    f.sourceTEXT.enabled = f.nameTEXT.enabled = !running;
+    f.addButton.enabled = f.folderButton.enabled = f.fileButton.enabled = !running;
+    f.startButton.enabled = !running && !desk.sources.empty();
+    f.removeButton.enabled = !running && f.sourceList.picked >= 0;
+    f.cancelButton.enabled = running;
+    f.progressTimer.enable(running);
 }
 
 /// Runs a job while the window stays alive; the screen offers to stop it and nothing else meanwhile.
 Waited runJob(Program& p, ImportDesk& desk, const std::function<void()>& work) {
     auto& f = p.forms.ImportForm;
     desk.job.begin();
-    f.startButton.enabled = f.addButton.enabled = false;
-    f.cancelButton.enabled = true;
-    f.progressTimer.enable(true);
+    showKeys(f, desk, true);
     p.machine.loop.work(work);
-    f.progressTimer.enable(false);
-    f.cancelButton.enabled = false;
-    f.addButton.enabled = true;
-    f.startButton.enabled = !desk.sources.empty();
+    showKeys(f, desk, false);
+    f.progressBAR.value = 0;
     f.progress_LABEL.text = desk.job.cancelled() ? "Cancelled" : "";
     return waited(p);
 }
@@ -55,12 +62,9 @@ ListView::Row rowOf(const SourceInfo& info) {
              from, flown ? importer::dayText(info.lastDay) : ""}};
 }
 
-Waited addSource(Program& p, ImportDesk& desk) {
+/// Reads what is at a path, a folder or a file, and adds it to the list.
+Waited addPath(Program& p, ImportDesk& desk, const std::string& path) {
     auto& f = p.forms.ImportForm;
-    if (!f.addButton.enabled) return waited(p);
-    std::string path(trimmed(f.sourceTEXT.text));
-    if (path.empty()) path = p.machine.desktop.askFolder("Folder with downloaded tables").value_or("");
-    if (path.empty()) return waited(p);
     std::vector<std::string> faults;
     std::vector<importer::Source> sources = desk.sources;
     importer::RawTables raw;
@@ -69,17 +73,44 @@ Waited addSource(Program& p, ImportDesk& desk) {
             sources.push_back(std::move(source));
         importer::Findings findings;
         std::vector<std::string> told; // the list shows them at their files
+        importer::sortSources(sources);
         raw = importer::readSources(sources, true, findings, told, desk.job);
     });
     if (answer == Waited::Ended || desk.job.cancelled()) return answer;
     if (!faults.empty()) f.progress_LABEL.text = textFromUtf8(faults.front());
     desk.sources = std::move(sources);
-    f.sourceList.rows.clear();
+    f.sourceList.clear();
     for (const SourceInfo& info : raw.files) f.sourceList.rows.push_back(rowOf(info));
-    f.startButton.enabled = !desk.sources.empty();
-    if (trimmed(f.nameTEXT.text).empty() && !desk.sources.empty())
-        f.nameTEXT.text = importer::defaultName(raw);
+    showKeys(f, desk, false);
+    const bool own = !trimmed(f.nameTEXT.text).empty() && f.nameTEXT.text != desk.proposed;
+    if (!own && !desk.sources.empty()) f.nameTEXT.text = desk.proposed = importer::defaultName(raw);
     return answer;
+}
+
+Waited addSource(Program& p, ImportDesk& desk) {
+    const auto& f = p.forms.ImportForm;
+    const std::string path(trimmed(f.sourceTEXT.text));
+    if (!f.addButton.enabled || path.empty()) return waited(p);
+    return addPath(p, desk, path);
+}
+
+/// What the pilot finds with the system's own screens stands in the field, as if typed.
+Waited addFound(Program& p, ImportDesk& desk, const std::optional<std::string>& path) {
+    if (!path) return waited(p);
+    p.forms.ImportForm.sourceTEXT.text = *path;
+    return addPath(p, desk, *path);
+}
+
+/// Takes the picked table out of the list. A name that was proposed for what stood there goes with it: the
+/// set is named anew when it is made.
+void removeSource(forms::ImportForm& f, ImportDesk& desk) {
+    const int place = f.sourceList.picked;
+    if (!f.removeButton.enabled || place < 0 || place >= static_cast<int>(desk.sources.size())) return;
+    desk.sources.erase(desk.sources.begin() + place);
+    f.sourceList.rows.erase(f.sourceList.rows.begin() + place);
+    f.sourceList.picked = std::min(place, static_cast<int>(f.sourceList.rows.size()) - 1);
+    if (f.nameTEXT.text == desk.proposed) f.nameTEXT.text.clear();
+    showKeys(f, desk, false);
 }
 
 /// Offers the new set beside the others and turns to it.
@@ -118,11 +149,16 @@ Waited startImport(Program& p, ImportDesk& desk) {
             put = importer::install(made, folder, report, desk.job);
     });
     if (answer == Waited::Ended) return answer;
-    std::string text = report.failed() ? "" : made.report; // what was made came to nothing
+    const bool whole = !report.failed() && !desk.job.cancelled();
+    std::string text = put || whole ? made.report : ""; // what was made came to nothing
     for (const std::string& error : report.errors()) text += "error: " + error + "\n";
     f.reportTEXT.text = textFromUtf8(text);
-    if (!desk.job.cancelled()) f.progress_LABEL.text = put ? "Done" : "Nothing was written";
-    if (put) chooseSet(p, textFromUtf8(made.name));
+    // A press that came when everything was being put in came too late.
+    if (put || !desk.job.cancelled()) f.progress_LABEL.text = put ? "Done" : "Nothing was written";
+    if (put) {
+        f.progressBAR.value = f.progressBAR.max;
+        chooseSet(p, textFromUtf8(made.name));
+    }
     return waited(p);
 }
 
@@ -154,6 +190,15 @@ void bindImportForm(Program& p) {
     f.BG.on(Event::Move, [&f] { restorePictures(f); });
     f.addButton.on(Event::Click, [&p, desk] { return addSource(p, *desk); });
     f.sourceTEXT.on(Event::Enter, [&p, desk] { return addSource(p, *desk); });
+    f.folderButton.on(Event::Click, [&p, desk] {
+        return addFound(p, *desk, p.machine.desktop.askFolder("Folder with downloaded tables"));
+    });
+    f.fileButton.on(Event::Click, [&p, desk] {
+        const std::string& last = p.forms.ImportForm.sourceTEXT.text;
+        return addFound(p, *desk, p.machine.desktop.askOpenPath("A downloaded table", last));
+    });
+    f.sourceList.on(Event::Click, [&f, desk] { showKeys(f, *desk, f.cancelButton.enabled); });
+    f.removeButton.on(Event::Click, [&f, desk] { removeSource(f, *desk); });
     f.startButton.on(Event::Click, [&p, desk] { return startImport(p, *desk); });
     f.cancelButton.on(Event::Click, [desk] { desk->job.cancel(); });
     f.progressTimer.on(Event::Tick, [&p, desk] {

@@ -2,6 +2,7 @@
 
 #include "import/Job.h"
 
+#include <algorithm>
 #include <atomic>
 #include <mutex>
 #include <string>
@@ -26,6 +27,9 @@ public:
     }
     void progress(double share) const override { percent_ = static_cast<int>(share * 100); }
     [[nodiscard]] bool cancelled() const override { return cancelled_; }
+
+    /// How much of the step is done, 0 to 100.
+    [[nodiscard]] int percent() const { return std::clamp<int>(percent_, 0, 100); }
 
     /// The step's name and how far it is: "Routes 40 %", UTF-8.
     [[nodiscard]] std::string words() const {

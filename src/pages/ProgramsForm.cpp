@@ -18,7 +18,7 @@ using programs::Sent;
 
 programs::Dispatch dispatchOf(const Program& p) {
     const Session& s = p.session;
-    return programDispatch(s.plan, s.schedule, s.dispatch, p.machine);
+    return programDispatch(s.AppDir, s.plan, s.schedule, s.dispatch, p.machine);
 }
 
 void keepChoices(Program& p, const Choices& choices) {
@@ -74,9 +74,10 @@ Waited exportToPrograms(Program& p) {
     auto& f = p.forms.ProgramsForm;
     const Choices choices = shownChoices(f);
     keepChoices(p, choices);
-    const auto sent = sendTicked(choices, dispatchOf(p));
+    const programs::Dispatch dispatch = dispatchOf(p);
+    const auto sent = sendTicked(choices, dispatch);
     showResults(f, sent);
-    if (const std::string text = clipboardText(choices, dispatchOf(p)); !text.empty())
+    if (const std::string text = clipboardText(choices, dispatch); !text.empty())
         p.machine.desktop.copy(text);
     return ShowMsgBox(p, sent.empty() ? "No program is ticked." : summaryOf(sent));
 }

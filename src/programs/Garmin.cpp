@@ -29,7 +29,7 @@ void addTablePoint(Xml& xml, const RoutePoint& point) {
     xml.open("waypoint");
     xml.leaf("identifier", point.ident);
     xml.leaf("type", typeOf(point));
-    xml.leaf("country-code", ""); // the region, which our data does not know
+    xml.leaf("country-code", point.region); // empty where it is unknown
     xml.leaf("lat", exactFigure(point.latitude));
     xml.leaf("lon", exactFigure(point.longitude));
     xml.leaf("comment", garminText(point.name));
@@ -50,7 +50,7 @@ void addRoutePoint(Xml& xml, const RoutePoint& point) {
     xml.open("route-point");
     xml.leaf("waypoint-identifier", point.ident);
     xml.leaf("waypoint-type", typeOf(point));
-    xml.leaf("waypoint-country-code", "");
+    xml.leaf("waypoint-country-code", point.region);
     xml.close();
 }
 

@@ -28,6 +28,7 @@ void addNavmapPoint(Xml& xml, const RoutePoint& point) {
     xml.open("Waypoint");
     if (!point.name.empty()) xml.leaf("Name", point.name);
     xml.leaf("Ident", point.ident);
+    if (!point.region.empty()) xml.leaf("Region", point.region);
     if (!point.airway.empty()) xml.leaf("Airway", point.airway);
     xml.leaf("Type", kNavmapTypes[static_cast<int>(point.fix)]);
     xml.empty("Pos", {{"Lon", fixedFigure(point.longitude, 6)},

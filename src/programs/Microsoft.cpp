@@ -31,6 +31,7 @@ const char* waypointType(const RoutePoint& point) {
 
 void addIcao(Xml& xml, const RoutePoint& point) {
     xml.open("ICAO");
+    if (!point.region.empty()) xml.leaf("ICAORegion", point.region);
     xml.leaf("ICAOIdent", point.ident);
     xml.close();
 }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 namespace gatewise::programs {
 
@@ -14,6 +15,7 @@ namespace {
 constexpr int kLowest = -9999; // feet: every format has room for what lies between
 constexpr int kHighest = 99900;
 constexpr int kLongest = 9999; // minutes
+constexpr std::size_t kLongestIdent = 5;
 
 struct FixRow {
     std::string_view pointType;
@@ -56,7 +58,7 @@ RoutePoint enRoutePoint(const PlanPoint& from) {
     point.fix = fixOf(from);
     point.computed = from.computed();
     point.high = from.pointType.view().starts_with('H');
-    point.ident = codeText(from.pointName.view(), 5);
+    point.ident = codeText(from.pointName.view(), kLongestIdent);
     point.name = lineText(from.pointDescription.view());
     point.latitude = decimalOf(from.pointLatitude);
     point.longitude = decimalOf(from.pointLongitude);
@@ -86,8 +88,22 @@ void setAirways(std::vector<RoutePoint>& points, const Airways& airways) {
     }
 }
 
+/// VOR, NDB or fix, as the regions tell them apart; a blank for what has none.
+char regionKind(Fix fix) {
+    constexpr std::string_view kKinds = " VNI "; // by Fix
+    return kKinds[static_cast<std::size_t>(fix)];
+}
+
+/// What became a point of the user's has lost its place in the world's tables, and its region with it.
+void setRegions(std::vector<RoutePoint>& points, const Regions& regions) {
+    for (RoutePoint& point : points) {
+        if (regionKind(point.fix) == ' ') continue;
+        point.region = regions.find(regionKind(point.fix), point.ident, point.latitude, point.longitude);
+    }
+}
+
 /// The top of climb may have taken the departure's place in the table, the airports are those of the blocks.
-std::vector<RoutePoint> pointsOf(const Plan& plan, bool withComputed) {
+std::vector<RoutePoint> pointsOf(const Plan& plan, bool withComputed, const Regions& regions) {
     std::vector<RoutePoint> points{airportPoint(plan.departureAirport)};
     Airways airways;
     for (int i = 0; i < plan.planLast && i < kPlanPoints; ++i) {
@@ -100,6 +116,7 @@ std::vector<RoutePoint> pointsOf(const Plan& plan, bool withComputed) {
     points.push_back(airportPoint(plan.destinationAirport));
     setAirways(points, airways);
     nameApart(points);
+    setRegions(points, regions);
     return points;
 }
 
@@ -128,9 +145,17 @@ std::string oneAirway(std::string_view airway, std::string_view next) {
     return names.empty() ? std::string() : names.front();
 }
 
-Route routeOf(const Plan& plan, std::string_view stem, const DateTime& utc, bool withComputed) {
+Regions regionsOf(const Plan& plan, std::string_view text) {
+    std::set<std::string, std::less<>> idents;
+    for (int i = 1; i < plan.planLast && i < kPlanPoints; ++i)
+        idents.insert(codeText(plan.at(i).pointName.view(), kLongestIdent));
+    return regionsIn(text, {}, [&](std::string_view ident) { return idents.contains(ident); });
+}
+
+Route routeOf(const Plan& plan, std::string_view stem, const DateTime& utc, bool withComputed,
+              const Regions& regions) {
     Route route;
-    route.points = pointsOf(plan, withComputed);
+    route.points = pointsOf(plan, withComputed, regions);
     route.flight = lineText(stem);
     route.cruiseAltitude = std::clamp(plan.peakAltitude, 0, kHighest);
     route.trueAirspeed = knots(plan);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plan/PlanTable.h"
+#include "plan/Regions.h"
 #include "platform/Machine.h"
 #include "programs/RoutePoint.h"
 
@@ -29,8 +30,12 @@ struct Route {
 /// The route of a plan, for the flight that `stem` names. Top and step points are in it only `withComputed`.
 /// A point whose position is none is left out. An identifier that another place of its kind has already gets
 /// a number and is a point of the user's, as is a point of no known type; what has no identifier is "WP" and
-/// a number.
-Route routeOf(const Plan& plan, std::string_view stem, const DateTime& utc, bool withComputed);
+/// a number. Fixes and navaids get the regions that `regions` has for their identifier and place.
+Route routeOf(const Plan& plan, std::string_view stem, const DateTime& utc, bool withComputed,
+              const Regions& regions = {});
+
+/// The regions of a plan's points, out of the text of a file of regions; the others are left out.
+Regions regionsOf(const Plan& plan, std::string_view text);
 
 /// The one name of an airway: of joined names ("J13-J14") the one by which the next leg goes on, else the
 /// first.

@@ -12,6 +12,7 @@ struct RoutePoint {
     bool high = false;     // of the high-altitude network
     std::string ident;     // 1 to 8 upper-case letters and digits, the same for no two places of one kind
     std::string name;      // a text of the program in one line, may be empty
+    std::string region;    // two upper-case letters or digits; empty: unknown, an airport or a user point
     std::string airway;    // the one that leads here, upper-case letters and digits; empty: direct
     double latitude = 0;   // degrees, north positive, -90 to 90
     double longitude = 0;  // degrees, east positive, -180 to 180

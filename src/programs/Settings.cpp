@@ -24,7 +24,8 @@ ProfileValue tick(std::string_view key, bool on) {
 }
 
 Route routeFor(const Choices& choices, const Dispatch& dispatch, const Format& format) {
-    return routeOf(dispatch.plan, dispatch.stem, dispatch.utc, choices.withComputed && format.takesComputed);
+    return routeOf(dispatch.plan, dispatch.stem, dispatch.utc, choices.withComputed && format.takesComputed,
+                   dispatch.regions);
 }
 
 } // namespace

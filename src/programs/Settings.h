@@ -35,6 +35,7 @@ struct Dispatch {
     const Plan& plan;
     std::string stem;
     DateTime utc;
+    Regions regions = {}; // of the plan's points
 };
 
 /// Writes the plan for each ticked line, whatever becomes of the others. In the table's order, one result for

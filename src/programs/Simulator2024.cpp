@@ -8,7 +8,7 @@ namespace gatewise::programs {
 
 namespace {
 
-/// Without the regions that the simulator would look a fix up by, its position finds it.
+/// The simulator looks a fix up by its region; where that is unknown, the position finds it.
 void addTabletPoint(Xml& xml, const RoutePoint& point) {
     if (point.fix == Fix::User)
         xml.open("ATCWaypoint", {{"id", point.ident}});

@@ -3,8 +3,7 @@
 #include "programs/Microsoft.h"
 
 // Plans of FSX, Prepar3D and MSFS 2020: one form, told apart by the version of the simulator that it names.
-// Their identifiers of regions are not in our data and are left out, as are names of runways: the plan
-// chooses none.
+// Regions stand where our data knows them. Names of runways are left out: the plan chooses none.
 
 namespace gatewise::programs {
 

@@ -1,5 +1,6 @@
 #include "work/ProgramChoices.h"
 
+#include "platform/Files.h"
 #include "programs/Cycle.h"
 #include "schedule/FlightTexts.h"
 #include "work/ConfigFile.h"
@@ -20,10 +21,12 @@ std::error_code writeChoices(const std::string& AppDir, const programs::Choices&
     return WriteValues(values, configPath(AppDir));
 }
 
-programs::Dispatch programDispatch(const PlanDesk& desk, const Schedule& schedule, const Dispatch& dispatch,
-                                   const Machine& machine) {
+programs::Dispatch programDispatch(const std::string& AppDir, const PlanDesk& desk, const Schedule& schedule,
+                                   const Dispatch& dispatch, const Machine& machine) {
+    const Bytes regions = files::readAll(regionsPath(AppDir)).value_or(Bytes());
     return {desk.plan, flightStem(schedule.tables, dispatch.CurrentFlight),
-            programs::utcOf(machine.clock.now(), machine.clock.bias())};
+            programs::utcOf(machine.clock.now(), machine.clock.bias()),
+            programs::regionsOf(desk.plan, asText(regions))};
 }
 
 } // namespace gatewise

@@ -48,6 +48,61 @@ TEST(RoundTrip, TheSampleWorld) {
     expectInverse(sampleFolder());
 }
 
+/// The tables of the tiny world with a region for each point.
+Files tinyWorldWithRegions() {
+    Files world = tinyWorld();
+    for (const char* table : {"vor.csv", "ndb.csv", "fixes.csv", "jets.csv"}) {
+        std::string out;
+        for (std::size_t at = 0; at < world[table].size();) {
+            const std::size_t end = world[table].find('\n', at);
+            out += world[table].substr(at, end - at) + (at == 0 ? ",region\n" : ",K7\n");
+            at = end + 1;
+        }
+        world[table] = out;
+    }
+    return world;
+}
+
+TEST(RoundTrip, RegionsAreAColumnAndAFile) {
+    const test::TempFolder folder;
+    writeFolder(tinyWorldWithRegions(), folder / "tables");
+    const Files bytes = compiled(folder / "tables", folder / "one");
+    ASSERT_EQ(bytes.size(), 12U);
+    EXPECT_NE(bytes.at("Regions.txt").find(" K7\n"), std::string::npos) << bytes.at("Regions.txt");
+    EXPECT_EQ(dumped(folder / "one", folder / "again"), readFolder(folder / "tables"));
+    EXPECT_EQ(compiled(folder / "again", folder / "two"), bytes);
+    // The .gt1 files are those of the world without regions, and over an older world they go.
+    writeFolder(tinyWorld(), folder / "plain");
+    Files plain = compiled(folder / "plain", folder / "one");
+    for (const auto& [name, content] : bytes)
+        EXPECT_EQ(plain.at(name), name == "Regions.txt" ? "" : content) << name;
+}
+
+TEST(RoundTrip, ARegionThatIsNoneAndTwoOfOnePointAreErrors) {
+    const test::TempFolder folder;
+    Files world = tinyWorldWithRegions();
+    std::string& vor = world["vor.csv"];
+    vor.replace(vor.find(",K7\n"), 4, ",k7\n");
+    writeFolder(world, folder / "tables");
+    Report report;
+    compileFolder(folder / "tables", folder / "one", std::nullopt, report);
+    ASSERT_EQ(report.errors().size(), 1U);
+    EXPECT_NE(report.errors()[0].find("vor.csv:2: column 6 (region): expected a region"), std::string::npos)
+        << report.errors()[0];
+    const test::TempFolder other;
+    world = tinyWorldWithRegions();
+    std::string& fixes = world["fixes.csv"];
+    std::string again =
+        fixes.substr(fixes.find('\n') + 1, fixes.find('\n', fixes.find('\n') + 1) - fixes.find('\n'));
+    again.replace(again.size() - 3, 2, "ED");
+    fixes += again;
+    writeFolder(world, other / "tables");
+    Report second;
+    compileFolder(other / "tables", other / "one", std::nullopt, second);
+    ASSERT_EQ(second.errors().size(), 1U);
+    EXPECT_NE(second.errors()[0].find("as another row of this point has it"), std::string::npos);
+}
+
 TEST(RoundTrip, AFurtherSetUsesTheWorldOfTheFolderAbove) {
     const test::TempFolder folder;
     compiled(sampleFolder(), folder / "Data");

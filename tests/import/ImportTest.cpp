@@ -7,9 +7,11 @@
 #include "unpack/OpenSources.h"
 
 #include <algorithm>
+#include <atomic>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <limits>
 #include <map>
 
 namespace gatewise::importer {
@@ -221,6 +223,78 @@ TEST(Import, ACancelledJobMakesNothing) {
         EXPECT_TRUE(made.cancelled) << step;
         EXPECT_TRUE(made.tables.empty()) << step;
     }
+}
+
+/// Is cancelled when it has been asked so many times. Counts what is still begun and told behind that.
+class CancelledLook : public Job {
+public:
+    explicit CancelledLook(int look) : look_(look) {}
+    void step(std::string_view) const override { late_ += over_; }
+    void progress(double share) const override {
+        late_ += over_;
+        outside_ += share < 0 || share > 1;
+    }
+    [[nodiscard]] bool cancelled() const override {
+        over_ = over_ || ++asked_ >= look_;
+        return over_;
+    }
+    [[nodiscard]] int asked() const { return asked_; }
+    [[nodiscard]] int late() const { return late_; }
+    [[nodiscard]] int outside() const { return outside_; }
+
+private:
+    int look_;
+    mutable std::atomic<bool> over_ = false; // told once and for all
+    mutable std::atomic<int> asked_ = 0, late_ = 0, outside_ = 0;
+};
+
+bool importedWith(const Folder& folder, const Job& job) {
+    const Imported made = imported(folder, allSources(), job);
+    gt1::Report report;
+    return !made.cancelled && install(made, folder.path(), report, job);
+}
+
+/// Whenever the press comes, nothing is begun behind it and nothing has changed in the folder.
+TEST(Import, ACancelAtAnyMomentLeavesAllAsItWas) {
+    const Folder folder;
+    const auto before = folder.files();
+    const CancelledLook never(std::numeric_limits<int>::max());
+    {
+        const Folder whole;
+        EXPECT_TRUE(importedWith(whole, never));
+        EXPECT_EQ(never.outside(), 0);
+        EXPECT_GT(never.asked(), 60);
+    }
+    for (int look = 1; look <= never.asked(); look += 3) {
+        const CancelledLook job(look);
+        EXPECT_FALSE(importedWith(folder, job)) << look;
+        EXPECT_EQ(job.late(), 0) << look;
+        EXPECT_EQ(folder.files(), before) << look;
+    }
+}
+
+TEST(Import, RegionsOfTheSourcesGoBesideTheNavigationFiles) {
+    const Folder folder;
+    const std::vector<Source> old{textSource("a", kAirportsDat), textSource("b", kRoutesDat),
+                                  textSource("c", kFixesOld), textSource("d", kNavOld)};
+    EXPECT_EQ(put(folder, imported(folder, old)), std::vector<std::string>{});
+    EXPECT_FALSE(folder.files().contains("Data/Regions.txt")) << "a form without regions brings none";
+    const Imported made = imported(folder, allSources());
+    EXPECT_EQ(put(folder, made), std::vector<std::string>{});
+    const std::string first = folder.files().at("Data/Regions.txt");
+    EXPECT_NE(first.find("I FIXAA 40.2 -98 K3\n"), std::string::npos) << first;
+    EXPECT_NE(made.report.find("regions of them added"), std::string::npos);
+    // A fix that stood without one, made by the older form, has its region now; what is new comes to the end.
+    std::string more = kFixesNew;
+    more.insert(more.rfind("99\n"), " 10.00000000 10.00000000 NEWFX ENRT DN 4530263\n"
+                                    " 40.20000000 -98.00000000 FIXAA ENRT ED 4530263\n"
+                                    " 11.00000000 11.00000000 USERX ENRT ZZ 4530263\n");
+    more.replace(more.find("2107"), 4, "2108");
+    auto sources = allSources();
+    sources.push_back(textSource("newer", more));
+    EXPECT_EQ(put(folder, imported(folder, sources)), std::vector<std::string>{});
+    const std::string second = folder.files().at("Data/Regions.txt");
+    EXPECT_EQ(second, first + "I NEWFX 10 10 DN\n");
 }
 
 void pack(const fs::path& folder, const std::string& command) {

@@ -14,14 +14,15 @@ constexpr double kSix = 0.5e-6 + 1e-12;
 constexpr double kSeconds = 0.005 / 3600 + 1e-9; // half a hundredth of a second
 
 const FormatTest kTests[] = {
-    // key             reader            tolerance kinds  airways altitudes cruise
+    // key             reader            tolerance kinds  airways altitudes cruise, the ends' altitudes,
+    // broken, regions
     {"XPlane", readXPlane, kSix, true, true, true, false, true, true},
-    {"FSX", readFsx, kSeconds, true, true, true, true},
-    {"MSFS2020", readMsfs2020, kSeconds, true, true, true, true},
-    {"MSFS2024", readMsfs2024, kSeconds, true, true, true, true, false},
+    {"FSX", readFsx, kSeconds, true, true, true, true, true, false, true},
+    {"MSFS2020", readMsfs2020, kSeconds, true, true, true, true, true, false, true},
+    {"MSFS2024", readMsfs2024, kSeconds, true, true, true, true, false, false, true},
     {"FlightGear", readFlightGear, 0, false, true, true, true, false},
-    {"LittleNavmap", readLittleNavmap, kSix, true, true, true, true},
-    {"Garmin", readGarmin, 0, true, false, false, false},
+    {"LittleNavmap", readLittleNavmap, kSix, true, true, true, true, true, false, true},
+    {"Garmin", readGarmin, 0, true, false, false, false, true, false, true},
     {"GPX", readGpx, 0, true, true, true, false},
     {"KML", readKml, 0, false, false, true, false},
     {"GeoJSON", readGeoJson, 0, true, true, true, true},
@@ -65,6 +66,7 @@ private:
         if (std::isnan(read.latitude) && !text && !(std::string(test_.key) == "MSFS2024" && end))
             say(i, "no position");
         if (test_.airways && read.airway != airway(i)) say(i, "airway " + read.airway);
+        if (read.region != (test_.regions ? point.region : "")) say(i, "region " + read.region);
         if (test_.altitudes && (!end || test_.endAltitudes) &&
             std::abs(read.altitude - point.altitude) > 1e-6)
             say(i, "altitude " + std::to_string(read.altitude));

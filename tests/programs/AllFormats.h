@@ -15,6 +15,7 @@ struct FormatTest {
     bool kinds, airways, altitudes, cruise;
     bool endAltitudes = true;       // the airports' elevations too
     bool brokenAtUserPoint = false; // no airway to or from a point of the user's
+    bool regions = false;
 };
 
 const FormatTest& testOf(const programs::Format& format);

@@ -77,8 +77,21 @@ DateTime testMoment() {
     return moment;
 }
 
-programs::Route routeOfPlan(const Plan& plan, bool withComputed) {
-    return programs::routeOf(plan, "Orrery Airways Flight 421 ATL to MIA", testMoment(), withComputed);
+programs::Route routeOfPlan(const Plan& plan, bool withComputed, const Regions& regions) {
+    return programs::routeOf(plan, "Orrery Airways Flight 421 ATL to MIA", testMoment(), withComputed,
+                             regions);
+}
+
+Regions mixedRegions() {
+    Regions regions;
+    regions.add({'V', "ATL", 33.629074F, -84.43504F, "K7"});
+    regions.add({'I', "ICBOD", 47.5F, 8, "LS"});
+    regions.add({'I', "ICBOD", 32.6354F, -83.9502F, "K7"});
+    regions.add({'I', "GNV", 29.69F, -82.27F, "XX"});
+    regions.add({'N', "GNV", 29.69F, -82.27F, "K7"});
+    regions.add({'N', "GNV", 27, -80.75F, "MU"});
+    regions.add({'V', "ORL", 28.5427F, -81.335F, "K7"});
+    return regions;
 }
 
 } // namespace gatewise::test

@@ -36,6 +36,9 @@ Plan directPlan();
 /// 17 June 2002, 11:05 UTC.
 DateTime testMoment();
 
-programs::Route routeOfPlan(const Plan& plan, bool withComputed = false);
+programs::Route routeOfPlan(const Plan& plan, bool withComputed = false, const Regions& regions = {});
+
+/// The regions of the mixed plan's points, those of another GNV and of a point far from ICBOD among them.
+Regions mixedRegions();
 
 } // namespace gatewise::test

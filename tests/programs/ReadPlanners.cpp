@@ -59,6 +59,7 @@ ReadPoint navmapPoint(const XmlNode& node) {
     require(isCode(point.ident, 10, "_"), "ident " + point.ident);
     if (const XmlNode* airway = node.maybe("Airway")) point.airway = airway->text;
     point.kind = wordOf(kinds, node.one("Type").text);
+    if (const XmlNode* region = node.maybe("Region")) point.region = regionOf(region->text, point.kind);
     const XmlNode& pos = node.one("Pos");
     pos.onlyAttributes("Lon Lat Alt");
     point.longitude = decimalIn(pos.attribute("Lon"), -180, 180, 6);
@@ -133,6 +134,8 @@ ReadPlan readGarmin(const std::string& bytes) {
         point.kind = wordOf(kinds, node.one("type").text);
         point.latitude = decimalIn(node.one("lat").text, -90, 90);
         point.longitude = decimalIn(node.one("lon").text, -180, 180);
+        const std::string& region = node.one("country-code").text;
+        if (!region.empty()) point.region = regionOf(region, point.kind);
         require(table.emplace(std::pair(point.ident, node.one("type").text), point).second,
                 "twice in the table");
     }
@@ -140,7 +143,8 @@ ReadPlan readGarmin(const std::string& bytes) {
     for (const XmlNode* node : root.one("route").all("route-point")) {
         const auto found =
             table.find({node->one("waypoint-identifier").text, node->one("waypoint-type").text});
-        require(found != table.end(), "a point outside the table");
+        require(found != table.end() && found->second.region == node->one("waypoint-country-code").text,
+                "a point outside the table");
         plan.points.push_back(found->second);
     }
     return plan;

@@ -83,7 +83,9 @@ ReadPoint readWaypoint(const XmlNode& node, std::size_t longestUser) {
         require(isCode(point.airway, 7), "no airway: " + point.airway);
     }
     if (const XmlNode* icao = node.maybe("ICAO")) {
-        icao->inOrder("ICAOIdent");
+        icao->inOrder("ICAORegion? ICAOIdent");
+        if (const XmlNode* region = icao->maybe("ICAORegion"))
+            point.region = regionOf(region->text, point.kind);
         point.ident = icao->one("ICAOIdent").text;
     }
     require(point.kind == "user" || !point.ident.empty(), "a fix without ICAO");

@@ -36,6 +36,12 @@ double decimalIn(const std::string& text, double low, double high, int places) {
     return value;
 }
 
+std::string regionOf(const std::string& text, const std::string& kind) {
+    require(text.size() == 2 && isCode(text, 2), "no region: " + text);
+    require(kind == "vor" || kind == "ndb" || kind == "fix", "a region of a point that has none");
+    return text;
+}
+
 std::string wordOf(const std::map<std::string, std::string>& words, const std::string& word) {
     const auto found = words.find(word);
     require(found != words.end(), "unknown word: " + word);

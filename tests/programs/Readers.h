@@ -17,6 +17,7 @@ struct ReadPoint {
     std::string ident;
     std::string kind;           // "airport", "vor", "ndb", "fix", "user"; empty where the format has none
     std::string airway;         // empty: direct, or the format has none
+    std::string region;         // empty: unknown, or the format has none
     double latitude = kUnsaid;  // degrees
     double longitude = kUnsaid; // degrees
     double altitude = kUnsaid;  // feet
@@ -39,6 +40,8 @@ std::vector<std::string> linesOf(const std::string& text);
 bool isCode(const std::string& text, std::size_t longest, const std::string& also = {});
 /// A plain decimal without exponent in [low, high], with just so many places where `places` is not negative.
 double decimalIn(const std::string& text, double low, double high, int places = -1);
+/// A region: two capital letters or digits, and only for what has one in other programs' data.
+std::string regionOf(const std::string& text, const std::string& kind);
 /// The word that a table has for another.
 std::string wordOf(const std::map<std::string, std::string>& words, const std::string& word);
 

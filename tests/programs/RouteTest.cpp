@@ -45,6 +45,29 @@ TEST(Route, ComputedPointsAreUserPointsOnNoAirway) {
     }
 }
 
+std::vector<std::string> regionsIn(const Route& route) {
+    std::vector<std::string> regions;
+    for (const RoutePoint& point : route.points) regions.push_back(point.region);
+    return regions;
+}
+
+/// By kind, ident and place: ICBOD is not the one of the other continent, GNV not the fix of its name. The
+/// other GNV is a point of the user's by then.
+TEST(Route, ARegionIsThatOfThePointAtItsPlace) {
+    EXPECT_EQ(regionsIn(routeOfPlan(mixedPlan(), false, mixedRegions())),
+              (std::vector<std::string>{"", "K7", "K7", "", "K7", "K7", "", "", ""}));
+    EXPECT_EQ(regionsIn(routeOfPlan(mixedPlan())), std::vector<std::string>(9));
+}
+
+TEST(Route, OnlyItsOwnRegionsAreReadFromTheFile) {
+    const std::string text = regionsText(mixedRegions()) + "I FAR 1 2 ED\nnothing\nV ORL 91 0 K7\n";
+    const Regions regions = programs::regionsOf(mixedPlan(), text);
+    EXPECT_EQ(regions.entries().size(), mixedRegions().entries().size());
+    EXPECT_EQ(regionsIn(routeOfPlan(mixedPlan(), false, regions)),
+              regionsIn(routeOfPlan(mixedPlan(), false, mixedRegions())));
+    EXPECT_TRUE(programs::regionsOf(directPlan(), text).entries().empty());
+}
+
 TEST(Route, AnAirwayHasOneName) {
     EXPECT_EQ(airwaysOf(routeOfPlan(mixedPlan())),
               (std::vector<std::string>{"", "", "J8", "Q9", "Q9", "J55", "", "V3", ""}));

@@ -80,7 +80,7 @@ TEST(Send, AFileStandsUnderTheFlightsName) {
     }
     EXPECT_TRUE(std::filesystem::exists(folder.path("/Orrery Airways Flight 421 ATL to MIA.fms")));
     EXPECT_TRUE(std::filesystem::exists(folder.path("/Orrery Airways Flight 421 ATL to MIA MSFS 2024.pln")));
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 11);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), kFormatCount);
 }
 
 TEST(Send, AnOlderFileIsReplaced) {
@@ -143,6 +143,15 @@ TEST(Send, AFullDiskLeavesTheOldFileWhole) {
     EXPECT_EQ(sent.reason, "the disk is full");
     EXPECT_EQ(folder.read("/F.gpx"), "older");
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+}
+
+/// The system's own folder of devices takes no file of anybody's, not even the administrator's.
+TEST(Send, AFolderThatTakesNoFileSaysSo) {
+    if (!std::filesystem::is_directory("/sys/kernel")) GTEST_SKIP() << "no such folder on this system";
+    const Sent sent = sendTo(formatOf("GPX"), "/sys/kernel", "F", routeOfPlan(directPlan()));
+    EXPECT_EQ(sent.reason, "the folder is read-only");
+    EXPECT_EQ(sent.file, "");
+    EXPECT_FALSE(std::filesystem::exists("/sys/kernel/F.gpx"));
 }
 
 TEST(Send, ReasonsAreThePilots) {

@@ -52,6 +52,17 @@ TEST_P(EveryPlan, IsReadBackByEveryFormat) {
 INSTANTIATE_TEST_SUITE_P(Plans, EveryPlan, testing::Values("mixed", "pacific", "direct"),
                          [](const auto& plan) { return plan.param; });
 
+/// Formats that have room for regions write them where they are known, the others the same bytes as ever.
+TEST(Writers, RegionsStandWhereAFormatHasRoom) {
+    for (const Format& format : formats()) {
+        const auto route = routeOfPlan(mixedPlan(), format.takesComputed, mixedRegions());
+        const std::string bytes = format.write(route);
+        const std::string name = testOf(format).regions ? "regions" : "mixed";
+        EXPECT_EQ(bytes, golden(goldenName(format, name))) << format.name;
+        EXPECT_EQ(faultsOf(format, bytes, route), "");
+    }
+}
+
 TEST(Writers, FileNamesDiffer) {
     std::set<std::string> names;
     std::set<std::string> keys;
@@ -109,6 +120,11 @@ TEST(Readers, TakeNoFileThatIsWrong) {
         {"Garmin", "<waypoint-identifier>ORL<", "<waypoint-identifier>ORK<"},
         {"Garmin", "05:00Z", "05:00+00:00"},
         {"Garmin", "<flight-plan-index>1<", "<flight-plan-index>99<"},
+        {"FSX", "<ICAOIdent>ATL", "<ICAORegion>K</ICAORegion><ICAOIdent>ATL"},
+        {"MSFS2024", "<ICAOIdent>WP1", "<ICAORegion>K7</ICAORegion><ICAOIdent>WP1"},
+        {"LittleNavmap", "<Airway>J8", "<Region>K7</Region><Airway>J8"},
+        {"Garmin", "<waypoint-country-code></waypoint-country-code>",
+         "<waypoint-country-code>K7</waypoint-country-code>"},
         {"GPX", "lon=\"-84.4281\"", "lon=\"-184.4281\""},
         {"GPX", "<name>ORL</name>", "<name>ORL</name><ele>1</ele>"},
         {"KML", "<altitudeMode>", "<altitudeMode>x"},
