@@ -14,6 +14,13 @@ if(NOT GATEWISE_RELEASE_DATE)
 endif()
 
 set(GATEWISE_APP_ID org.gatewise.terminal)
+# Shops show pictures from the web alone. Until the project has an address there the metainfo names none.
+set(GATEWISE_HOMEPAGE "" CACHE STRING "The project's address on the web, without a slash at its end")
+set(GATEWISE_ON_THE_WEB "")
+if(GATEWISE_HOMEPAGE)
+  file(READ "${PROJECT_SOURCE_DIR}/packaging/linux/on-the-web.xml.in" GATEWISE_ON_THE_WEB)
+  string(CONFIGURE "${GATEWISE_ON_THE_WEB}" GATEWISE_ON_THE_WEB @ONLY)
+endif()
 set(packaging "${PROJECT_SOURCE_DIR}/packaging/linux")
 
 foreach(program gtdrive gt1)

@@ -24,6 +24,10 @@ std::unique_ptr<Processes> systemProcesses(Notify notify);
 /// Seeded afresh at every start.
 std::unique_ptr<Random> systemRandom();
 
+/// What the program says on its standard output reaches the console that it was started from, where programs
+/// with a window have none of their own.
+void useCallersConsole();
+
 /// A parameter as Windows programs read their command line: in quotes where it has blanks or quotes of its
 /// own. Empty for an empty one.
 std::string commandLineWord(const std::string& parameter);

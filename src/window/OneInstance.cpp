@@ -2,6 +2,10 @@
 
 #include <QFile>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 namespace gatewise::window {
 
 OneInstance::OneInstance(const QString& folder)
@@ -16,6 +20,10 @@ OneInstance::OneInstance(const QString& folder)
 }
 
 void OneInstance::callFirst() const {
+#ifdef Q_OS_WIN
+    // Only the program that the pilot has just started may bring a window to the front, or let another do it.
+    AllowSetForegroundWindow(ASFW_ANY);
+#endif
     QFile call(call_);
     (void)call.open(QIODevice::WriteOnly);
 }

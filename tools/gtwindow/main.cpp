@@ -1,4 +1,5 @@
 #include "drive/Session.h"
+#include "gtwindow/OffscreenDesk.h"
 #include "gtwindow/WindowBackend.h"
 #include "platform/Files.h"
 #include "platform/NativePath.h"
@@ -20,7 +21,7 @@ void useWideDesk(const std::filesystem::path& folder) {
     const auto file = folder / "desk.json";
     std::ofstream(file) << R"({"windowFrameMargins":false,"screens":[{"name":"desk","x":-4000,"y":-4000,)"
                            R"("width":6400,"height":6400,"logicalDpi":96,"dpr":1}]})";
-    qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString("offscreen:configfile=" + file.string()));
+    qputenv("QT_QPA_PLATFORM", gatewise::gtwindow::offscreenDesk(file));
 }
 
 QtMessageHandler printMessage = nullptr;
@@ -52,7 +53,8 @@ int main(int count, char** arguments) {
     auto scratch = std::make_unique<QTemporaryDir>(); // the process ends without unwinding
     // Who names the platform alone gets its wide desk too: its own is smaller than two windows.
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
-    if (platform.isEmpty() || platform == "offscreen") useWideDesk(scratch->path().toStdString());
+    if (platform.isEmpty() || platform == "offscreen")
+        useWideDesk(files::pathOfUtf8(scratch->path().toStdString()));
     printMessage = qInstallMessageHandler(quietHandler);
     QApplication application(count, arguments);
     scratch.reset();

@@ -9,16 +9,34 @@ version=$(sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
 out=$PWD/build/packages
 mkdir -p "$out"
 
-# Builds a preset's program and resources without tests. The folder of the build stands in no file that ships.
+# Builds a preset's program and resources without tests.
 build_shipped() { # folder, install prefix, further options
   local folder=$1 prefix=$2
   shift 2
   mkdir -p "$folder"
   # shellcheck disable=SC2046
   cmake -G Ninja -S . -B "$folder" -DCMAKE_BUILD_TYPE=Release -DCMAKE_INSTALL_PREFIX="$prefix" -DGATEWISE_TESTS=OFF \
-    -DGATEWISE_BENCH=OFF -DCMAKE_CXX_FLAGS="${shipped_flags:-} -ffile-prefix-map=$PWD=." $(launcher) "$@" >"$folder/configure.log" ||
+    -DGATEWISE_BENCH=OFF -DCMAKE_CXX_FLAGS="${shipped_flags:-}" $(launcher) "$@" >"$folder/configure.log" ||
     { cat "$folder/configure.log" >&2; return 1; }
   cmake --build "$folder"
+}
+
+# The programs for this system with their resources, once for all packages, hardened as the distribution asks for.
+build_linux() {
+  local linker
+  shipped_flags="$(dpkg-buildflags --get CXXFLAGS | sed 's/-ffile-prefix-map=[^ ]*//; s/-g //; s/-O2 //') $(dpkg-buildflags --get CPPFLAGS) -ffile-prefix-map=$PWD=."
+  linker="$(dpkg-buildflags --get LDFLAGS) -Wl,-z,now -pie"
+  build_shipped build/package-linux /usr -DCMAKE_EXE_LINKER_FLAGS="$linker" -DCMAKE_POSITION_INDEPENDENT_CODE=ON
+  shipped_flags=""
+}
+
+# The folder of the build stands in no file that ships.
+no_traces() { # folder
+  local found
+  found=$(grep -rlF "$PWD" "$1" || true)
+  [ -z "$found" ] && return 0
+  echo "The folder of the build stands in: $found" >&2
+  return 1
 }
 
 # All files of a folder carry the same date.

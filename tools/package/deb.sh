@@ -7,18 +7,15 @@ need_packages "${BUILD_PACKAGES[@]}" "${PACKAGE_PACKAGES[@]}"
 . tools/package/common.sh
 
 architecture=$(dpkg --print-architecture)
-# Hardened as the distribution asks for.
-shipped_flags="$(dpkg-buildflags --get CXXFLAGS | sed 's/-ffile-prefix-map=[^ ]*//; s/-g //; s/-O2 //') $(dpkg-buildflags --get CPPFLAGS)"
-build_shipped build/package-deb /usr -DCMAKE_EXE_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS) -Wl,-z,now -pie" \
-  -DCMAKE_POSITION_INDEPENDENT_CODE=ON
+build_linux
 
-stage=$PWD/build/package-deb/stage
+stage=$PWD/build/package-linux/deb
 rm -rf "$stage"
-DESTDIR=$stage cmake --install build/package-deb --strip >/dev/null
+DESTDIR=$stage cmake --install build/package-linux --strip >/dev/null
 mkdir -p "$stage/DEBIAN" "$stage/usr/share/doc/gatewise"
 gzip -9n "$stage"/usr/share/man/man1/*.1
 cp packaging/linux/copyright "$stage/usr/share/doc/gatewise/copyright"
-[ -e THIRD-PARTY.md ] && cp THIRD-PARTY.md "$stage/usr/share/doc/gatewise/"
+cp THIRD-PARTY.md "$stage/usr/share/doc/gatewise/"
 {
   echo "gatewise ($version) stable; urgency=medium"
   echo
@@ -27,18 +24,39 @@ cp packaging/linux/copyright "$stage/usr/share/doc/gatewise/copyright"
   echo " -- The Gatewise developers <gatewise@localhost>  $(date -R -d "@$SOURCE_DATE_EPOCH")"
 } | gzip -9n >"$stage/usr/share/doc/gatewise/changelog.gz"
 
+# Typefaces that a package of the distribution brings stand there once.
+fonts=$stage/usr/share/gatewise/Fonts
+font_packages=""
+for font in "$fonts"/*.[ot]tf; do
+  while IFS=: read -r owner file; do
+    file=${file# }
+    cmp -s "$font" "$file" || continue
+    ln -sf "$(realpath -m --relative-to=/usr/share/gatewise/Fonts "$file")" "$font"
+    font_packages+=", $owner"
+    break
+  done < <(dpkg -S "*/$(basename "$font")" 2>/dev/null)
+done
+font_packages=$(tr ',' '\n' <<<"$font_packages" | sed 's/^ //; /^$/d' | sort -u | sed 's/^/, /' | tr -d '\n')
+
+# The project has no address of its own yet; everything else is as the distribution wants it.
+mkdir -p "$stage/usr/share/lintian/overrides"
+printf 'gatewise: bogus-mail-host Maintainer gatewise@localhost\ngatewise: bogus-mail-host-in-debian-changelog gatewise@localhost *\n' \
+  >"$stage/usr/share/lintian/overrides/gatewise"
+
 # The tool that finds dependencies wants a source control file beside it.
-mkdir -p build/package-deb/debian
-printf 'Source: gatewise\n\nPackage: gatewise\nArchitecture: any\n' >build/package-deb/debian/control
-depends=$(cd build/package-deb && dpkg-shlibdeps -O --ignore-missing-info stage/usr/bin/* 2>/dev/null | sed 's/^shlibs:Depends=//')
+mkdir -p build/package-linux/debian
+printf 'Source: gatewise\n\nPackage: gatewise\nArchitecture: any\n' >build/package-linux/debian/control
+depends=$(cd build/package-linux && dpkg-shlibdeps -O --ignore-missing-info deb/usr/bin/* 2>/dev/null | sed 's/^shlibs:Depends=//')
 cat >"$stage/DEBIAN/control" <<CONTROL
 Package: gatewise
 Version: $version
 Architecture: $architecture
 Maintainer: The Gatewise developers <gatewise@localhost>
 Installed-Size: $(du -sk --apparent-size "$stage/usr" | cut -f1)
-Depends: $depends
-Section: games
+Depends: $depends$font_packages
+Recommends: qt6-wayland
+Suggests: wine, wmctrl
+Section: misc
 Priority: optional
 Description: airline departures board, flight plans and pilot's log book
  Gatewise Terminal turns a database of airline schedules into an airline
@@ -47,8 +65,9 @@ Description: airline departures board, flight plans and pilot's log book
  edit and print, plans for simulators and their add-ons, and a log book.
 CONTROL
 (cd "$stage" && find usr -type f -print0 | sort -z | xargs -0 md5sum >DEBIAN/md5sums)
+no_traces "$stage"
 same_dates "$stage"
 package=$out/gatewise_${version}_$architecture.deb
 dpkg-deb --root-owner-group -Zxz --build "$stage" "$package" >/dev/null
-lintian --fail-on error,warning "$package"
+lintian --allow-root --fail-on error,warning "$package"
 echo "$package"

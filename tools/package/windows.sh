@@ -8,9 +8,8 @@ need_packages "${BUILD_PACKAGES[@]}" "${PACKAGE_PACKAGES[@]}" "${WINDOWS_PACKAGE
 . tools/package/common.sh
 
 qt=$(tools/package/windows_qt.sh)
-mkdir -p build/package-resources
 # Resources are drawn and spoken by this machine's tools; the programs are the other system's.
-build_shipped build/package-resources /usr -DGATEWISE_WINDOW=OFF
+build_linux
 build_shipped build/package-windows /usr -DCMAKE_TOOLCHAIN_FILE="$PWD/tools/package/mingw-qt.cmake" \
   -DCMAKE_PREFIX_PATH="$qt" -DCMAKE_FIND_ROOT_PATH="/usr/x86_64-w64-mingw32;$qt" \
   -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH -DQT_HOST_PATH=/usr \
@@ -21,28 +20,32 @@ stage=$PWD/build/package-windows/stage
 folder=$stage/$name
 rm -rf "$stage"
 mkdir -p "$folder/platforms"
-DESTDIR=$stage/installed cmake --install build/package-resources >/dev/null
+DESTDIR=$stage/installed cmake --install build/package-linux >/dev/null
 cp -r "$stage/installed/usr/share/gatewise/." "$folder/"
 rm -rf "$stage/installed"
-cp build/package-windows/Gatewise/gatewise.exe "$folder/"
-for tool in gtdrive gtwindow gt1; do
-  [ -e "build/package-windows/bin/$tool.exe" ] && cp "build/package-windows/bin/$tool.exe" "$folder/"
-done
-cp THIRD-PARTY.md "$folder/" 2>/dev/null || true
+cp build/package-windows/Gatewise/gatewise.exe build/package-windows/bin/gtdrive.exe build/package-windows/bin/gt1.exe "$folder/"
+cp THIRD-PARTY.md "$folder/"
 cp packaging/linux/copyright "$folder/LICENCE.txt"
+cp packaging/windows/qt.conf "$folder/"
 
-for library in Qt6Core Qt6Gui Qt6Widgets Qt6PrintSupport Qt6Test; do
-  cp "$qt/bin/$library.dll" "$folder/" 2>/dev/null || [ "$library" = Qt6Test ]
-done
+for library in Qt6Core Qt6Gui Qt6Widgets Qt6PrintSupport; do cp "$qt/bin/$library.dll" "$folder/"; done
 for platform in qwindows qoffscreen; do cp "$qt/plugins/platforms/$platform.dll" "$folder/platforms/"; done
 for library in libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll; do
-  cp "$(x86_64-w64-mingw32-g++-posix -print-file-name=$library)" "$folder/" 2>/dev/null ||
-    cp "/usr/x86_64-w64-mingw32/lib/$library" "$folder/"
+  found=$(x86_64-w64-mingw32-g++-posix -print-file-name=$library)
+  [ -e "$found" ] || found=/usr/x86_64-w64-mingw32/lib/$library
+  cp "$found" "$folder/"
 done
 find "$folder" \( -name '*.exe' -o -name '*.dll' \) -exec x86_64-w64-mingw32-strip --strip-unneeded {} +
 
+no_traces "$stage"
 same_dates "$stage"
 archive=$out/$name.zip
 rm -f "$archive"
 (cd "$stage" && find "$name" -type f | sort | zip -X -q -9 "$archive" -@)
+
+# The same folder with the tools that try it, which no pilot needs.
+tried=$PWD/build/package-windows/tried
+rm -rf "$tried"
+cp -a "$folder" "$tried"
+cp build/package-windows/bin/gtwindow.exe build/package-windows/bin/tour.exe "$qt/bin/Qt6Test.dll" "$tried/"
 echo "$archive"

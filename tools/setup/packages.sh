@@ -1,12 +1,13 @@
-# Installs what a command of this house needs; sourced by ./run and ./test.
+# Installs what a command of this house needs; sourced by ./run, ./test and ./package.
 # Usage: need_packages NAME...   (Debian 12, as root or with sudo)
+# Elsewhere nothing is installed: the build looks itself for what it takes and names what is missing.
 
 need_packages() {
   local id="" missing=() package
   [ -r /etc/os-release ] && id=$(. /etc/os-release && echo "${ID:-}${VERSION_ID:-}")
   if [ "$id" != debian12 ] || ! command -v apt-get >/dev/null; then
-    echo "This command sets itself up on Debian 12 only; elsewhere install the equivalents of these packages and build with CMake's preset 'release': $*." >&2
-    exit 1
+    need_tools
+    return
   fi
   for package in "$@"; do
     dpkg-query -W -f '${db:Status-Status}' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
@@ -28,8 +29,21 @@ need_packages() {
   }
 }
 
+# What has to be there before the build can look for the rest.
+need_tools() {
+  local missing=()
+  command -v cmake >/dev/null || missing+=("CMake 3.25 or newer")
+  command -v ninja >/dev/null || missing+=("Ninja")
+  command -v c++ >/dev/null || command -v g++ >/dev/null || command -v clang++ >/dev/null ||
+    missing+=("a C++20 compiler (GCC 12 or Clang 14, or newer)")
+  [ ${#missing[@]} -eq 0 ] && return 0
+  printf 'This command sets itself up on Debian 12 only. Missing here:\n' >&2
+  printf '  - %s\n' "${missing[@]}" >&2
+  exit 1
+}
+
 # Everything that the build of the program and its folder takes.
-BUILD_PACKAGES=(g++ cmake ninja-build python3 qt6-base-dev libqt6svg6-dev libgl-dev libopenal-dev libarchive-dev librsvg2-bin
+BUILD_PACKAGES=(g++ cmake ninja-build python3 qt6-base-dev libgl-dev libopenal-dev libarchive-dev librsvg2-bin
   fontconfig fonts-b612 fonts-roboto-unhinted fonts-dseg fonts-ocr-b python3-fonttools flite sox)
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libsqlite3-dev clang clang-format clang-tidy libclang-rt-14-dev git desktop-file-utils appstream
   libxml2-dev libxml2-utils gpsbabel  # read back the plans that are written for other programs
@@ -37,7 +51,7 @@ TEST_PACKAGES=(libgtest-dev libbenchmark-dev libsqlite3-dev clang clang-format c
   xvfb dbus at-spi2-core python3-gi gir1.2-atspi-2.0) # the window as a screen reader finds it
 
 # What the packages take besides.
-PACKAGE_PACKAGES=(git dpkg-dev lintian patchelf xz-utils file)
+PACKAGE_PACKAGES=(git dpkg-dev lintian patchelf xz-utils file qt6-wayland)
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 zip)
 
 launcher() { command -v ccache >/dev/null && echo "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache" || true; }

@@ -79,9 +79,9 @@ def copy_to(folder, layout):
         else:
             refresh(path, target)
         package, licence = PACKAGES[family]
-        refresh(os.path.join(DOCUMENTS, package, 'copyright'), os.path.join(folder, package + '-licence.txt'))
+        refresh_licence(os.path.join(DOCUMENTS, package, 'copyright'), os.path.join(folder, package + '-licence.txt'))
         if licence:
-            refresh(os.path.join(LICENCES, licence), os.path.join(folder, licence + '.txt'))
+            refresh_licence(os.path.join(LICENCES, licence), os.path.join(folder, licence + '.txt'))
 
 
 def is_cubic(path):
@@ -129,6 +129,14 @@ def refresh(source, target):
         if old.st_size == new.st_size and old.st_mtime >= new.st_mtime:
             return
     shutil.copyfile(source, target)
+
+
+def refresh_licence(source, target):
+    """As `refresh`; a system that keeps its licences elsewhere builds for itself, not to pass on."""
+    if os.path.isdir(LICENCES):
+        refresh(source, target)
+    else:
+        print('not found, put it beside the typeface before you pass the program on: ' + source, file=sys.stderr)
 
 
 class Metrics:
@@ -199,3 +207,22 @@ def wrap(layout, role, text, width):
                 line = longer
         lines.append(line)
     return lines
+
+
+def missing():
+    """What is not installed of the typefaces that pictures and program are drawn with, a line for each."""
+    out = []
+    for family in PACKAGES:
+        try:
+            find(family, WEIGHTS['bold' if family == 'DSEG7 Classic' else 'regular'])
+        except FontMissing as failure:
+            out.append(str(failure))
+    try:
+        converter()
+    except FontMissing as failure:
+        out.append(str(failure))
+    return out
+
+
+if __name__ == '__main__':
+    print('\n'.join(missing()))

@@ -1,7 +1,9 @@
 #include "tour/Stage.h"
 
+#include "gtwindow/OffscreenDesk.h"
 #include "input/UserEvents.h"
 #include "platform/Files.h"
+#include "platform/NativePath.h"
 #include "platform/Profile.h"
 
 #include <QApplication>
@@ -18,14 +20,24 @@ namespace fs = std::filesystem;
 
 void useRoomyDesk(const std::string& scratch) {
     const double scale = qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble();
-    const std::string file = scratch + "/desk.json";
+    const fs::path file = files::pathOfUtf8(scratch + "/desk.json");
     std::ofstream(file)
         << "{\"windowFrameMargins\":false,\"screens\":[{\"name\":\"desk\",\"x\":0,\"y\":0,\"width\":"
         << 1920 * scale << ",\"height\":" << 1200 * scale << ",\"logicalDpi\":96,\"dpr\":1}]}";
-    qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString("offscreen:configfile=" + file));
+    qputenv("QT_QPA_PLATFORM", gtwindow::offscreenDesk(file));
 }
 
 namespace {
+
+/// A link to a file or folder; a copy of it where the system makes no links.
+void link(const fs::path& from, const fs::path& to) {
+    std::error_code error;
+    if (fs::is_directory(from))
+        fs::create_directory_symlink(from, to, error);
+    else
+        fs::create_symlink(from, to, error);
+    if (error) fs::copy(from, to, fs::copy_options::recursive);
+}
 
 /// A folder of its own with links to the files of another: what the program writes there stays there.
 void linkFiles(const fs::path& from, const fs::path& to) {
@@ -35,22 +47,22 @@ void linkFiles(const fs::path& from, const fs::path& to) {
         if (entry.is_directory())
             linkFiles(entry.path(), to / entry.path().filename());
         else
-            fs::create_symlink(entry.path(), to / entry.path().filename());
+            link(entry.path(), to / entry.path().filename());
     }
 }
 
 } // namespace
 
 std::string makeProgramFolder(const std::string& program, const std::string& scratch) {
-    const fs::path from = program;
-    const fs::path to = fs::path(scratch) / "Gatewise";
-    const fs::path simulator = fs::path(scratch) / "FS2002";
+    const fs::path from = files::pathOfUtf8(program);
+    const fs::path to = files::pathOfUtf8(scratch) / "Gatewise";
+    const fs::path simulator = files::pathOfUtf8(scratch) / "FS2002";
     fs::create_directories(to);
     fs::create_directories(simulator);
     // The log book comes to lie beside the data: that folder is a copy.
     if (fs::exists(from / "Data")) fs::copy(from / "Data", to / "Data", fs::copy_options::recursive);
     for (const char* folder : {"Images", "Fonts", "help"}) {
-        if (fs::exists(from / folder)) fs::create_directory_symlink(from / folder, to / folder);
+        if (fs::exists(from / folder)) link(from / folder, to / folder);
     }
     linkFiles(from / "Wavs", to / "Wavs");
     const std::string config = files::textOf(to / "GT.cfg");

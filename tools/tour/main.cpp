@@ -1,4 +1,6 @@
+#include "platform/AppFolder.h"
 #include "platform/Files.h"
+#include "platform/NativePath.h"
 #include "tour/Tour.h"
 
 #include <QApplication>
@@ -15,6 +17,12 @@
 namespace {
 
 namespace fs = std::filesystem;
+
+/// The program folder that the tour stands in, else that of the build.
+fs::path program() {
+    const fs::path own = gatewise::programFolder();
+    return fs::is_directory(own / "Images") ? own : fs::path(GATEWISE_PROGRAM_DIR);
+}
 
 using Times = std::map<fs::path, fs::file_time_type>;
 
@@ -51,10 +59,11 @@ void keepPrints(const std::vector<gatewise::simulated::PrintedText>& prints, con
 }
 
 int play(const std::string& folder, const std::string& out, bool fine) {
-    gatewise::stage::Stage stage(gatewise::stage::makeProgramFolder(GATEWISE_PROGRAM_DIR, folder));
+    gatewise::stage::Stage stage(
+        gatewise::stage::makeProgramFolder(gatewise::files::utf8Of(program()), folder));
     stage.machine.registry.folder = gatewise::files::textOf(fs::path(folder) / "FS2002");
     const Times before = filesOf(folder);
-    const Times delivered = filesOf(GATEWISE_PROGRAM_DIR);
+    const Times delivered = filesOf(program());
     gatewise::tour::Tour tour(stage, out, fine);
     tour.play();
     for (const auto& picture : tour.pictures()) std::cout << picture << '\n';
@@ -64,7 +73,7 @@ int play(const std::string& folder, const std::string& out, bool fine) {
     }
     for (const auto& complaint : tour.complaints()) std::cerr << "tour: " << complaint << '\n';
     for (const auto& miss : stage.misses) std::cerr << "tour: " << miss << '\n';
-    const bool untouched = filesOf(GATEWISE_PROGRAM_DIR) == delivered;
+    const bool untouched = filesOf(program()) == delivered;
     if (!untouched) std::cerr << "tour: the delivered folder has changed\n";
     return untouched && tour.complaints().empty() && stage.misses.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }

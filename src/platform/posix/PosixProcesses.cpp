@@ -107,4 +107,6 @@ std::unique_ptr<Processes> systemProcesses(Notify notify) {
     return std::make_unique<PosixProcesses>(std::move(notify));
 }
 
+void useCallersConsole() {} // it has it already
+
 } // namespace gatewise::native

@@ -6,6 +6,7 @@
 #include "platform/Text.h"
 
 #include <array>
+#include <cstdio>
 #include <map>
 
 #ifndef NOMINMAX
@@ -184,6 +185,14 @@ std::unique_ptr<Registry> systemRegistry() {
 /// A start that fails is not reported.
 std::unique_ptr<Processes> systemProcesses(Notify) {
     return std::make_unique<WindowsProcesses>();
+}
+
+void useCallersConsole() {
+    const HANDLE output = GetStdHandle(STD_OUTPUT_HANDLE);
+    if (output != nullptr && output != INVALID_HANDLE_VALUE) return; // a file or a pipe
+    if (AttachConsole(ATTACH_PARENT_PROCESS) == 0) return;
+    (void)std::freopen("CONOUT$", "w", stdout);
+    (void)std::freopen("CONOUT$", "w", stderr);
 }
 
 } // namespace gatewise::native

@@ -43,8 +43,9 @@ soundDevice([[maybe_unused]] gatewise::window::WindowProgram*& window) {
 
 int main(int count, char** arguments) {
     using namespace gatewise;
+    native::useCallersConsole();
     if (count == 2 && std::string_view(arguments[1]) == "--version") {
-        std::cout << "Gatewise Terminal " GATEWISE_VERSION "\n";
+        std::cout << "Gatewise Terminal " GATEWISE_VERSION << std::endl;
         return EXIT_SUCCESS;
     }
     QApplication application(count, arguments);
