@@ -68,7 +68,9 @@ void recalculateShownPlan(Program& p) {
 Waited removeShownPoint(Program& p) {
     const auto& f = p.forms.ViewPlan;
     if (f.PlanList.picked < 0) return waited(p);
-    switch (removePlanPoint(p.session.plan.plan, planInput(p), f.PlanList.picked + 1, f.AltUpDown.value)) {
+    PlanDesk& desk = p.session.plan;
+    Plan before = desk.plan;
+    switch (removePlanPoint(desk.plan, planInput(p), f.PlanList.picked + 1, f.AltUpDown.value)) {
     case Removal::Nothing:
         break;
     case Removal::AirportRefused:
@@ -76,10 +78,19 @@ Waited removeShownPoint(Program& p) {
     case Removal::ComputedRefused:
         return ShowMsgBox(p, std::string(kComputedRefusal));
     case Removal::Done:
+        desk.before.push_back(std::move(before));
         fillPlanList(p);
         break;
     }
     return waited(p);
+}
+
+void undoRemoval(Program& p) {
+    PlanDesk& desk = p.session.plan;
+    if (desk.before.empty()) return;
+    desk.plan = std::move(desk.before.back());
+    desk.before.pop_back();
+    fillPlanList(p);
 }
 
 Waited printFlightPlan(Program& p) {

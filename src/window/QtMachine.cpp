@@ -78,6 +78,16 @@ void QtDesktop::notify(const std::string& text) {
     if (desk_ != nullptr) desk_->showNote(toQt(text));
 }
 
+void QtDesktop::notifyFile(const std::string& text, const std::string& file) {
+    if (desk_ != nullptr) desk_->showNote(toQt(text), nativePath(file));
+}
+
+void QtDesktop::open(const std::string& path) {
+    const QString native = nativePath(path);
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(native)))
+        notify("No program of this computer opens " + fromQt(native));
+}
+
 void QtDesktop::copy(const std::string& text) {
     QGuiApplication::clipboard()->setText(toQt(text));
 }
