@@ -23,7 +23,7 @@ bool press(Control& key) {
     return true;
 }
 
-bool help(Program& p) {
+bool helpHere(Program& p) {
     p.machine.desktop.showHelp(p.session.appPath("\\GThelp.chm::/" + helpPageOf(p)));
     return true;
 }
@@ -73,7 +73,7 @@ template<int Pages> bool turn(Program& p) {
 }
 
 constexpr ShortCut kShortCuts[] = {
-    {"F1", "Everywhere", "Opens the help page of the screen in front.", help},
+    {"F1", "Everywhere", "Opens the help page of the screen in front.", helpHere},
     {"Alt", "Everywhere",
      "While it is held, each key and field shows a letter. That letter presses or enters it."},
     {"Tab", "Everywhere", "Next control, with Shift the previous one. The one in force has a cyan ring."},
@@ -113,7 +113,8 @@ constexpr HelpRow kHelpPages[] = {
     {"SettingsForm", "settings.htm"}, {"OptionsForm", "boards.htm"}, {"DirForm", "settings.htm"},
     {"ImportForm", "settings.htm"},   {"ExportForm", "exports.htm"}, {"DirExportForm", "exports.htm"},
     {"ProgramsForm", "exports.htm"},  {"ViewPlan", "plan.htm"},      {"PlanCharts", "plan.htm"},
-    {"FlyForm", "flying.htm"},        {"LogEntry", "logbook.htm"},   {"ClockForm", "logbook.htm"},
+    {"FlyForm", "flying.htm"},        {"RoutesForm", "boards.htm"},  {"CareerForm", "logbook.htm"},
+    {"LogEntry", "logbook.htm"},      {"ClockForm", "logbook.htm"},
 };
 
 } // namespace

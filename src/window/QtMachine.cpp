@@ -41,8 +41,12 @@ void QtDesktop::setPointer(bool busy) {
 }
 
 std::optional<std::string> QtDesktop::askSavePath(const std::string& title, const std::string& proposal) {
+    const QString path = nativePath(proposal);
+    const QString ending = QFileInfo(path).suffix();
+    const QString kinds =
+        ending.isEmpty() ? QString() : ending.toUpper() + " files (*." + ending + ");;All files (*)";
     const QString name =
-        QFileDialog::getSaveFileName(QApplication::activeWindow(), toQt(title), nativePath(proposal));
+        QFileDialog::getSaveFileName(QApplication::activeWindow(), toQt(title), path, kinds);
     return name.isEmpty() ? std::nullopt : std::optional(pathText(name));
 }
 

@@ -18,6 +18,7 @@ PAGES = (
     ('logbook.htm', 'Log book', 'The log book'),
     ('settings.htm', 'Settings', 'Settings'),
     ('keyboard.htm', 'Keyboard', 'Keyboard'),
+    ('shortcuts.htm', 'Short cuts', 'Short cuts'),
 )
 
 
