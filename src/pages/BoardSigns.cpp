@@ -1,6 +1,6 @@
 #include "pages/BoardSigns.h"
 
-#include "pages/MainBoard.h"
+#include "board/Paging.h"
 
 namespace gatewise {
 
@@ -35,7 +35,6 @@ void showBoardSigns(Program& p, const BoardChoice& choice) {
 
 void bindBoardSigns(Program& p) {
     auto& f = p.forms.MainForm;
-    f.status_pic.on(Event::Turn, [&p](const EventArgs& args) { turnPages(p, args.value); });
     f.anyDayButton.on(Event::Click, [&f] { f.dayCombo.select(0); });
 }
 

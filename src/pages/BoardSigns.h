@@ -9,7 +9,7 @@ namespace gatewise {
 /// goes.
 void showBoardSigns(Program& p, const BoardChoice& choice);
 
-/// The wheel and the keys turn the board; the key of an empty board shows any day.
+/// The key of an empty board shows any day.
 void bindBoardSigns(Program& p);
 
 } // namespace gatewise
