@@ -48,7 +48,7 @@ public:
         const double step = std::find_if(std::begin(kGrid), std::end(kGrid), [&](const GridRow& r) {
                                 return span_ <= r.span;
                             })->step;
-        const Spot middle = map::spotOf(view_.projection().middle());
+        const Spot middle = spotOf(view_.projection().middle());
         const double reach = view_.reach() / kDegree;
         // Where a pole is near, every meridian is.
         const bool polar = std::fabs(middle.latitude) + reach > 85;

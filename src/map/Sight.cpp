@@ -15,7 +15,7 @@ constexpr double kLeastFit = 0.35;     // degrees
 constexpr double kSampleStep = 2 * kDegree;
 
 MapSight withMiddle(const MapSight& sight, const Vector& middle) {
-    const Spot spot = map::spotOf(middle);
+    const Spot spot = spotOf(middle);
     return {{std::clamp(spot.latitude, -kMostLatitude, kMostLatitude), spot.longitude}, sight.span};
 }
 
