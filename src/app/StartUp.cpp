@@ -1,5 +1,6 @@
 #include "app/StartUp.h"
 
+#include "pages/ComeBack.h"
 #include "pages/DirForm.h"
 #include "pages/LoadSettings.h"
 #include "pages/MainData.h"
@@ -94,8 +95,11 @@ void startUp(Program& p) {
     s.desk.StartupDone = kTrue;
     disableProFlight(p);
     hideScreen(p, p.forms.SplashForm);
-    if (s.settings.StatusBoard == 1 && StartBoard(p) == Waited::Ended) return;
+    if (comeBackToAirport(p) == Waited::Ended) return;
+    const bool board = s.settings.StatusBoard == 1 && s.settings.ComeBack != 1;
+    if (board && StartBoard(p) == Waited::Ended) return;
     showScreen(p, p.forms.MainForm);
+    if (comeBackToPage(p) == Waited::Ended) return;
     sayUnread(p);
 }
 

@@ -69,11 +69,13 @@ enum class Event {
     Column, // head of a list view clicked
     Pick,   // a mark or route of a chart clicked
     Hover,  // the mouse rests on another one, or on none any more
+    Turn,   // the wheel or a key turns the pages of a table
     Tick    // a timer
 };
 
 struct EventArgs {
-    int value = 0;     // column of Event::Column, id of Event::Pick and Event::Hover (-1: none)
+    int value = 0;     // column of Event::Column, id of Event::Pick and Event::Hover (-1: none); of
+                       // Event::Turn the pages, negative: back
     int x = 0, y = 0;  // mouse position of Press, Release, Move, in pixels of the screen's ground
     bool left = false; // left button held during Move
 };
@@ -118,12 +120,16 @@ struct HitArea : Control {
         : Control(screen, std::move(name), Kind::HitArea, index) {}
 };
 
+/// What a label says besides its words: it names the page in view, or the column that a table is sorted by.
+enum class Mark { None, Current, Sorted };
+
 struct Label : Control {
     Label(Screen& screen, std::string name, std::string text = {}, int index = -1)
         : Control(screen, std::move(name), Kind::Label, index), text(std::move(text)) {}
     std::string text;
     Color color{255, 255, 255};
     bool highlighted = false; // a marked row of the log
+    Mark mark = Mark::None;
 };
 
 struct Frame : Control {
@@ -384,6 +390,7 @@ struct Screen {
     bool loaded = false;
     std::vector<Control*> controls; // in the order of their declaration
     std::vector<Control*> closedBy; // see closingControl; empty: its closeButton
+    Control* first = nullptr;       // where the keyboard starts; nullptr: at the first control of the order
     bool heedsEscape = true;        // else only the window manager closes it
     std::function<void()> load;     // the first time that the screen is needed
     std::function<void()> activate; // each time that it is shown

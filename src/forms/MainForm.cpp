@@ -32,6 +32,9 @@ MainForm::MainForm() : Screen("MainForm", "Gatewise Terminal", 800, 600, "\\Imag
     routesButton.toolTip = boardroutesButton.toolTip = "Map of all destinations";
     careerButton.toolTip = "Hours, miles, routes and airports of the whole Log Book";
     logprintButton.toolTip = "Print this page of the Log Book";
+    nowButton.toolTip = "Set the clock back to the time of this computer";
+    nowButton.visible = shift_LABEL.visible = anyDayButton.visible = false;
+    boardEmpty_LABEL.visible = logEmpty_LABEL.visible = false;
     fltnum_LABEL(20).text = " FLIGHT";
     city_LABEL(20).text = " DEPARTING TO";
     time_LABEL(20).text = "TIME";

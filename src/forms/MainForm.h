@@ -20,6 +20,8 @@ struct MainForm : Screen {
     SkinnedButton gt_hrdnButton{*this, "gt_hrdnButton", Kind::FormButton, "hr_dn", "minus_regular"};
     SkinnedButton gt_minupButton{*this, "gt_minupButton", Kind::FormButton, "min_up", "plus_regular"};
     SkinnedButton gt_mindnButton{*this, "gt_mindnButton", Kind::FormButton, "min_dn", "minus_regular"};
+    Label shift_LABEL{*this, "shift_LABEL"};
+    PushButton nowButton{*this, "nowButton", "Now"};
     ControlArray<Label> clock_time = labels(*this, "clock_time", 3, "00:00");
     ControlArray<Label> cityTime = labels(*this, "cityTime", 4);
     SkinnedButton timeSwitch{*this, "timeSwitch", Kind::FormButton, "time", "switch_regular"};
@@ -109,6 +111,9 @@ struct MainForm : Screen {
     ControlArray<Label> city_LABEL = labels(*this, "city_LABEL", 20, " ");
     ControlArray<Label> time_LABEL = labels(*this, "time_LABEL", 20, " ");
     ControlArray<Label> status_LABEL = labels(*this, "status_LABEL", 20, " ");
+    Label boardPage_LABEL{*this, "boardPage_LABEL"};
+    Label boardEmpty_LABEL{*this, "boardEmpty_LABEL"};
+    PushButton anyDayButton{*this, "anyDayButton", "Show Any Day"};
     ControlArray<SkinnedButton> boardButton = buttons(*this, "boardButton", Kind::boardButton,
                                                       {{"prev1", "prev1_regular", 1},
                                                        {"next1", "next1_regular", 1},
@@ -121,6 +126,8 @@ struct MainForm : Screen {
     Label log_pilotName{*this, "log_pilotName"};
     Label curPage{*this, "curPage", "1"};
     Label pageMAX{*this, "pageMAX", "1"};
+    Label logEmpty_LABEL{*this, "logEmpty_LABEL",
+                         "No entry yet.  Put a flight on the boarding pass and press Send to Log Book."};
     ControlArray<Label> dept_back = labels(*this, "dept_back", 6);
     ControlArray<Label> log_dept = labels(*this, "log_dept", 6);
     ControlArray<Label> log_arr = labels(*this, "log_arr", 6);

@@ -9,6 +9,8 @@ struct MsgForm : Screen {
     Container BG{*this, "BG"};
     Label type_LABEL{*this, "type_LABEL", "Information"};
     Label Msg_LABEL{*this, "Msg_LABEL"};
+    Label file_LABEL{*this, "file_LABEL"};
+    PushButton openButton{*this, "openButton", "Open Folder"};
     SkinnedButton okButton{*this, "okButton", Kind::midButton, "ok", "ok_regular"};
     SkinnedButton cancelButton{*this, "cancelButton", Kind::midButton, "cancel", "cancel_regular"};
 };

@@ -5,6 +5,7 @@ namespace gatewise::forms {
 SelectForm::SelectForm()
     : Screen("SelectForm", "Gatewise Terminal - Select", 440, 400, "\\Images\\Select_BG.bmp") {
     List1.sorted = true;
+    empty_LABEL.visible = false;
 }
 
 FlightForm::FlightForm()

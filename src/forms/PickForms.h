@@ -50,6 +50,8 @@ struct SelectForm : Screen {
     Label Label1{*this, "Label1", "Select Departure Airport"};
     SkinnedButton closeButton{*this, "closeButton", Kind::FormButton, "close_select", "close_regular"};
     ListBox List1{*this, "List1"};
+    Label empty_LABEL{*this, "empty_LABEL",
+                      "Nothing matches.  Close this list and search for another name, city or code."};
     SkinnedButton selectButton{*this, "selectButton", Kind::switchButton, "select", "select_disabled", 0};
 };
 

@@ -26,6 +26,7 @@ FlyForm::FlyForm()
     PlanList.columns.push_back({"Route", 10.0 / 67.0});
     PlanList.columns.push_back({"Altitude", 10.0 / 67.0});
     fuelSLIDER.page = 10;
+    acftEmpty_LABEL.visible = folderButton.visible = false;
     fuelSLIDER.toolTip = "Select fuel percentage by sliding pointer left or right";
 }
 

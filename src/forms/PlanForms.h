@@ -38,6 +38,9 @@ struct FlyForm : Screen {
     SkinnedButton closeButton{*this, "closeButton", Kind::FormButton, "close_fly", "close_regular"};
     Label acftCaption{*this, "acftCaption", " Select Aircraft for Flight"};
     Combo acftCOMBO{*this, "acftCOMBO"};
+    Label acftEmpty_LABEL{*this, "acftEmpty_LABEL"};
+    PushButton folderButton{*this, "folderButton", "Choose Folder"};
+    Timer scan_TIMER{*this, "scan_TIMER", 200};
     Label Label2{*this, "Label2", " Select Starting Position for Flight"};
     Combo posCOMBO{*this, "posCOMBO"};
     Label Label3{*this, "Label3", " Select Starting Waypoint (Only Available when Starting Inflight)"};

@@ -40,6 +40,7 @@ struct SettingsForm : Screen {
     Label Label11{*this, "Label11", " ProFlight 2000 Options"};
     Check pf2_FltNumCHECK{*this, "pf2_FltNumCHECK", "Send FLT Number"};
     Check pf2_CallsignCHECK{*this, "pf2_CallsignCHECK", "Send Airline Callsign"};
+    Check returnCHECK{*this, "returnCHECK", "Come Back to Where I Left"};
     SkinnedButton continueButton{*this, "continueButton", Kind::switchButton, "continue_set",
                                  "bclose_regular"};
 };
@@ -65,6 +66,11 @@ struct OptionsForm : Screen {
     SkinnedButton volDN{*this, "volDN", Kind::FormButton, "vol_dn", "minus_regular"};
     Label ambVol{*this, "ambVol", "100"};
     SkinnedButton volUP{*this, "volUP", Kind::FormButton, "vol_up", "plus_regular"};
+    Label Label4{*this, "Label4", " Announcement Volume Level"};
+    SkinnedButton annDN{*this, "annDN", Kind::FormButton, "ann_dn", "minus_regular"};
+    Label annVol{*this, "annVol", "100"};
+    SkinnedButton annUP{*this, "annUP", Kind::FormButton, "ann_up", "plus_regular"};
+    Check muteCHECK{*this, "muteCHECK", "Mute All Sounds"};
     SkinnedButton continueButton{*this, "continueButton", Kind::switchButton, "continue_opt", "cont_regular"};
 };
 
@@ -76,6 +82,8 @@ struct DirForm : Screen {
     PathList Drive1{*this, "Drive1", Kind::DriveList};
     PathList Dir1{*this, "Dir1", Kind::FolderList};
     PathList File1{*this, "File1", Kind::FileList};
+    Label seek_LABEL{*this, "seek_LABEL", "Looking for the folder of FS2002.exe.  Likely places:"};
+    Combo placesCOMBO{*this, "placesCOMBO"};
     SkinnedButton selectButton{*this, "selectButton", Kind::switchButton, "select_dir", "select_disabled", 0};
 };
 

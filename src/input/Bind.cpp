@@ -2,6 +2,7 @@
 
 #include "input/SkinnedButtons.h"
 #include "pages/BoardRows.h"
+#include "pages/BoardSigns.h"
 #include "pages/BoardTimers.h"
 #include "pages/CareerForm.h"
 #include "pages/ClockForm.h"
@@ -32,12 +33,13 @@
 namespace gatewise {
 
 void bindScreens(Program& p) {
-    for (auto* bind : {bindSkinnedButtons, bindMainForm,      bindMainTabs,  bindMainData,   bindMainClocks,
-                       bindBoardTimers,    bindBoardRows,     bindMainLog,   bindSelectForm, bindFlightForm,
-                       bindInfoForm,       bindMsgForm,       bindMsgBox,    bindWaitForm,   bindSettingsForm,
-                       bindOptionsForm,    bindDirForm,       bindViewPlan,  bindPlanCharts, bindExportForm,
-                       bindProgramsForm,   bindDirExportForm, bindFlyForm,   bindLogEntry,   bindClockForm,
-                       bindImportForm,     bindRoutesForm,    bindCareerForm}) {
+    for (auto* bind :
+         {bindSkinnedButtons, bindMainForm,      bindMainTabs,   bindMainData,   bindMainClocks,
+          bindBoardTimers,    bindBoardRows,     bindMainLog,    bindSelectForm, bindFlightForm,
+          bindInfoForm,       bindMsgForm,       bindMsgBox,     bindWaitForm,   bindSettingsForm,
+          bindOptionsForm,    bindDirForm,       bindViewPlan,   bindPlanCharts, bindExportForm,
+          bindProgramsForm,   bindDirExportForm, bindFlyForm,    bindLogEntry,   bindClockForm,
+          bindImportForm,     bindRoutesForm,    bindCareerForm, bindBoardSigns}) {
         bind(p);
     }
 }

@@ -115,6 +115,8 @@ constexpr Command kFormButton[] = {
     {"min_dn", typed<stepClock>},
     {"vol_dn", typed<changeVolume>},
     {"vol_up", typed<changeVolume>},
+    {"ann_dn", typed<changeAnnouncementVolume>},
+    {"ann_up", typed<changeAnnouncementVolume>},
     {"timeHr_up", typed<stepLogField>},
     {"timeHr_dn", typed<stepLogField>},
     {"timeMin_up", typed<stepLogField>},

@@ -1,5 +1,6 @@
 #include "input/Shutdown.h"
 
+#include "pages/ComeBack.h"
 #include "pages/SaveSettings.h"
 #include "pages/Screens.h"
 #include "sound/DS_Engine.h"
@@ -8,6 +9,7 @@ namespace gatewise {
 
 void Shutdown(Program& p) {
     if (p.ending) return;
+    rememberPlace(p);
     p.ending = true;
     p.session.board.board = {};
     p.session.schedule.DepartureFlights.clear();

@@ -123,6 +123,10 @@ void column(ListView& list, int column) {
     list.fire(Event::Column, {column, 0, 0, false});
 }
 
+void turn(Control& ground, int pages) {
+    if (ground.enabled && ground.visible) ground.fire(Event::Turn, {pages, 0, 0, false});
+}
+
 void widen(ListView& list, int column, int width) {
     const auto at = static_cast<std::size_t>(column);
     if (list.enabled && column >= 0 && at < list.columns.size()) list.columns[at].width = std::max(width, 0);

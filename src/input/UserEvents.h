@@ -28,6 +28,8 @@ bool choose(Control& control, int place);
 void check(Control& control, int value); // check or option box
 void slide(RangeControl& control, int value);
 void column(ListView& list, int column);
+/// Turns the pages that lie on a ground: so many on, or back when negative.
+void turn(Control& ground, int pages);
 /// Drags the edge of a column's head to `width` pixels.
 void widen(ListView& list, int column, int width);
 /// A mark or route of a chart is picked by its id; false when nothing there has it.

@@ -45,10 +45,11 @@ constexpr PlayTimer kPlayTimers[] = {
 /// Echoes are paused for in the middle of an announcement.
 Waited announce(Program& p, const DueAnnouncement& due, const AnnouncementDraws& draws) {
     p.forms.MainForm.waitPlayTimer.enable(true);
-    PlayAnnouncement(
-        *p.SoundEngine, p.session.AppDir,
-        {due.flightKey, due.kind, due.city, due.pan, due.volume, draws.echo, draws.frequency, draws.voice},
-        p.session.hall.PlayedFlags);
+    PlayAnnouncement(*p.SoundEngine, p.session.AppDir,
+                     {due.flightKey, due.kind, due.city, due.pan,
+                      announcementVolume(p.session.settings, due.volume), draws.echo, draws.frequency,
+                      draws.voice},
+                     p.session.hall.PlayedFlags);
     return waited(p);
 }
 
@@ -85,6 +86,7 @@ void checkOffsets(Program& p) {
 } // namespace
 
 void startSoundEngine(Program& p) {
+    p.SoundEngine->setMuted(p.session.settings.Muted == 1);
     p.SoundEngine->Initialize_Engine();
     p.SoundEngine->SetSpeakerConfig("stereo");
     std::string unused;

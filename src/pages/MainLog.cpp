@@ -73,6 +73,7 @@ void ShowLogPage(Program& p) {
     f.pic_prevpic.text = page.previousPilot;
     f.pic_totinst.text = page.totalInstrument;
     f.pic_totpic.text = page.totalPilot;
+    f.logEmpty_LABEL.visible = s.log.LogEntries.empty();
     f.log_pilotName.text = " " + s.settings.First + " " + s.settings.Last;
 }
 
@@ -107,12 +108,21 @@ Waited askToDelete(Program& p) {
     return Waited::Answered;
 }
 
+Waited undoDeletion(Program& p) {
+    LogDesk& log = p.session.log;
+    if (const auto notice = undoDeletion(bookFiles(p), p.machine.clock.now(), log))
+        return ShowMessage(p, *notice);
+    resetLogButtons(p);
+    ShowLogPage(p);
+    return waited(p);
+}
+
 Waited exportLogBook(Program& p) {
     const auto path = p.machine.desktop.askSavePath("Export Log Book", p.session.appPath("\\LogBook.csv"));
     if (!path || waited(p) == Waited::Ended) return waited(p);
     if (const auto error = files::replace(*path, logCsv(p.session.log.LogEntries)))
         return ShowMessage(p, failure(error, "ExportLogBook"));
-    p.machine.desktop.notify("The Log Book has been exported to " + *path);
+    p.machine.desktop.notifyFile("The Log Book has been exported to " + *path, *path);
     return waited(p);
 }
 

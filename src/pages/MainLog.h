@@ -16,6 +16,9 @@ Waited AddLogEntry(Program& p);
 Waited DeleteLogEntry(Program& p);
 Waited askToDelete(Program& p);
 
+/// Puts the entry back that was deleted last in this run.
+Waited undoDeletion(Program& p);
+
 /// The whole log book as CSV, in a file that the pilot names.
 Waited exportLogBook(Program& p);
 

@@ -1,5 +1,7 @@
 #include "pages/MainPages.h"
 
+#include <utility>
+
 namespace gatewise {
 
 namespace {
@@ -36,7 +38,12 @@ void runBoardTimers(forms::MainForm& f, bool on) {
 
 void showPage(Program& p, Container& page) {
     auto& f = p.forms.MainForm;
-    for (Container* each : {&f.main_pic, &f.status_pic, &f.log_pic}) each->visible = each == &page;
+    const std::pair<Container*, Label*> pages[] = {
+        {&f.main_pic, &f.main_LABEL}, {&f.status_pic, &f.statusboard_LABEL}, {&f.log_pic, &f.log_LABEL}};
+    for (const auto& [each, tab] : pages) {
+        each->visible = each == &page;
+        tab->mark = each->visible ? Mark::Current : Mark::None;
+    }
 }
 
 void showMainPage(Program& p) {

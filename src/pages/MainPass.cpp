@@ -9,6 +9,7 @@
 #include "pages/ViewPlan.h"
 #include "pages/WaitForm.h"
 #include "sound/Announcements.h"
+#include "work/HallWork.h"
 #include "work/PassTexts.h"
 #include "work/PlanWork.h"
 
@@ -89,6 +90,8 @@ Waited SelectFlight(Program& p, int index, FlightSource source) {
     retrievePlan(s.plan.plan, planInput(s.AppDir, s.settings, s.schedule, s.dispatch));
     f.export_LABEL.enabled = true;
     if (s.simulator.ProFlightFound != kFalse) f.pf2k_LABEL.enabled = true;
+    s.plan.before.clear(); // of another flight
+    s.desk.failedKind.clear();
     setFlightButtons(f, 1);
     SetWaitDots(p, 4);
     FindNearestAlternate(p);
@@ -99,6 +102,8 @@ Waited SelectFlight(Program& p, int index, FlightSource source) {
     const FlightRecord& flight = s.dispatch.CurrentFlight;
     PlayWelcome(*p.SoundEngine, s.AppDir, flight.AirlineCode.str() + std::to_string(flight.FlightNumber),
                 kWelcomeKind, flight.DestinationIata.str());
+    if (const auto volume = announcementVolume(s.settings, 0); volume != 0)
+        p.SoundEngine->SetVolume(kWelcomeChannel, volume);
     return waited(p);
 }
 

@@ -170,6 +170,7 @@ Waited takeBoardOptions(Program& p) {
 void bindMainTabs(Program& p) {
     bindTabs(p);
     auto& f = p.forms.MainForm;
+    f.status_pic.on(Event::Turn, [&p](const EventArgs& args) { turnPages(p, args.value); });
     const auto head = [&p](Label& label, BoardSort sort) {
         label.on(Event::DoubleClick, [&p, sort] { return sortBy(p, sort); });
     };

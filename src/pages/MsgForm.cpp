@@ -1,8 +1,11 @@
 #include "pages/MsgForm.h"
 
 #include "pages/Placement.h"
+#include "platform/Files.h"
 #include "platform/Text.h"
 #include "work/PlanWork.h"
+
+#include <algorithm>
 
 namespace gatewise {
 
@@ -93,13 +96,14 @@ struct ModeButtons {
     const char* mode;
     const char* okType; // its picture is okType + "_regular"
     bool cancel;
+    bool destroys; // the answer that harms nothing is the one at hand
 };
 
 constexpr ModeButtons kMessageModes[] = {
-    {"del_log", "ok", true},
-    {"path", "ok", true},
-    {"fly_now", "fly", true},
-    {"regular", "ok", false},
+    {"del_log", "ok", true, true},
+    {"path", "ok", true, false},
+    {"fly_now", "fly", true, false},
+    {"regular", "ok", false, false},
 };
 
 void regularPictures(forms::MsgForm& f) {
@@ -115,11 +119,32 @@ void setButtons(Program& p) {
         f.okButton.button_type = row.okType;
         f.okButton.picture = f.okButton.button_type + "_regular";
         f.cancelButton.visible = row.cancel;
+        f.first = row.destroys ? &f.cancelButton : nullptr;
     }
     f.okButton.visible = true;
 }
 
+/// What was written or not, in words and with its path as this computer spells it.
+void showFile(Program& p, const Notice& notice) {
+    auto& f = p.forms.MsgForm;
+    const bool told = !notice.file.empty();
+    const bool stands = told && notice.reason.empty();
+    p.session.desk.shownFile = notice.file;
+    f.file_LABEL.visible = told;
+    f.openButton.visible = stands;
+    const std::string path = told ? files::textOf(files::target(notice.file)) : std::string();
+    f.file_LABEL.toolTip = path;
+    f.file_LABEL.text =
+        told ? (stands ? "Written to" : "Not written: " + notice.reason) + "\n" + path : std::string();
+}
+
 } // namespace
+
+void openWrittenFolder(Program& p) {
+    const std::string path = files::textOf(files::target(p.session.desk.shownFile));
+    const auto end = path.find_last_of("/\\");
+    if (end != std::string::npos) p.machine.desktop.open(path.substr(0, std::max<std::size_t>(end, 1)));
+}
 
 Waited ShowMessage(Program& p, const Notice& notice) {
     auto& f = p.forms.MsgForm;
@@ -136,6 +161,7 @@ Waited ShowMessage(Program& p, const Notice& notice) {
         f.Msg_LABEL.text = replaceAll(text, "{error}", desk.ErrorText);
         desk.MessageMode = row.mode;
     }
+    showFile(p, notice);
     if (f.visible) {
         setButtons(p);
         return waited(p);
@@ -158,6 +184,7 @@ void bindMsgForm(Program& p) {
     auto& f = p.forms.MsgForm;
     f.load = [&p] { placeScreen(p, p.forms.MsgForm); };
     f.activate = [&p] { setButtons(p); };
+    f.openButton.on(Event::Click, [&p] { openWrittenFolder(p); });
     f.BG.on(Event::Move, [&f] { regularPictures(f); });
     f.Msg_LABEL.on(Event::Move, [&f] { regularPictures(f); });
 }

@@ -1,5 +1,7 @@
 #include "pages/OptionsForm.h"
 
+#include "pages/MainBoard.h"
+
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
 #include "pages/SettingControls.h"
@@ -14,24 +16,43 @@ namespace {
 using forms::OptionsForm;
 
 constexpr SettingBox<OptionsForm> kOptionBoxes[] = {
-    {&OptionsForm::d1_CHECK, &Settings::Dept1}, {&OptionsForm::d2_CHECK, &Settings::Dept2},
-    {&OptionsForm::d3_CHECK, &Settings::Dept3}, {&OptionsForm::a1_CHECK, &Settings::Arr1},
-    {&OptionsForm::a2_CHECK, &Settings::Arr2},  {&OptionsForm::a3_CHECK, &Settings::Arr3},
+    {&OptionsForm::d1_CHECK, &Settings::Dept1},  {&OptionsForm::d2_CHECK, &Settings::Dept2},
+    {&OptionsForm::d3_CHECK, &Settings::Dept3},  {&OptionsForm::a1_CHECK, &Settings::Arr1},
+    {&OptionsForm::a2_CHECK, &Settings::Arr2},   {&OptionsForm::a3_CHECK, &Settings::Arr3},
+    {&OptionsForm::muteCHECK, &Settings::Muted},
 };
+
+using forms::MainForm;
 
 struct SortOption {
     Option OptionsForm::*option;
     BoardSort sort;
+    ControlArray<Label> MainForm::*column; // of the board
 };
 
 constexpr SortOption kSorts[] = {
-    {&OptionsForm::timeOption, BoardSort::Time},
-    {&OptionsForm::cityOption, BoardSort::City},
-    {&OptionsForm::fltnumOption, BoardSort::FlightNumber},
+    {&OptionsForm::timeOption, BoardSort::Time, &MainForm::time_LABEL},
+    {&OptionsForm::cityOption, BoardSort::City, &MainForm::city_LABEL},
+    {&OptionsForm::fltnumOption, BoardSort::FlightNumber, &MainForm::fltnum_LABEL},
 };
 
+/// The head of the column that the board is sorted by carries a mark.
+void takeSort(Program& p, BoardSort sort) {
+    p.session.settings.sort = sort;
+    for (const auto& row : kSorts)
+        (p.forms.MainForm.*row.column)(kHeadingRow).mark = row.sort == sort ? Mark::Sorted : Mark::None;
+}
+
+std::string volumeText(int volume) {
+    return formatNumber("000", 100 + volume / 90.0);
+}
+
 void showVolume(Program& p) {
-    p.forms.OptionsForm.ambVol.text = formatNumber("000", 100 + p.session.settings.AmbienceVolume / 90.0);
+    p.forms.OptionsForm.ambVol.text = volumeText(p.session.settings.AmbienceVolume);
+}
+
+void showAnnouncementVolume(Program& p) {
+    p.forms.OptionsForm.annVol.text = volumeText(p.session.settings.AnnouncementVolume);
 }
 
 } // namespace
@@ -44,6 +65,15 @@ void changeVolume(Program& p, std::string_view type) {
     showVolume(p);
 }
 
+void changeAnnouncementVolume(Program& p, std::string_view type) {
+    stepAnnouncements(p.session.settings, type);
+    showAnnouncementVolume(p);
+}
+
+void muteSounds(Program& p) {
+    if (p.SoundEngine) p.SoundEngine->setMuted(p.session.settings.Muted == 1);
+}
+
 void chooseSort(Program& p, BoardSort sort) {
     for (const auto& row : kSorts) {
         if (row.sort == sort) (p.forms.OptionsForm.*row.option).set(true);
@@ -54,6 +84,7 @@ void showOptions(Program& p) {
     const Settings settings = p.session.settings; // the controls store back while they are filled
     chooseSort(p, settings.sort);
     showBoxes<OptionsForm>(p.forms.OptionsForm, settings, kOptionBoxes);
+    showAnnouncementVolume(p);
 }
 
 void bindOptionsForm(Program& p) {
@@ -67,12 +98,12 @@ void bindOptionsForm(Program& p) {
         CenterOnMain(p, p.forms.OptionsForm);
         showVolume(p);
     };
-    tieBoxes<OptionsForm>(f, settings, kOptionBoxes);
+    tieBoxes<OptionsForm>(f, settings, kOptionBoxes, [&p](const Check&) { muteSounds(p); });
     for (const auto& row : kSorts) {
         Option& option = f.*row.option;
-        option.on(Event::Click, [&settings, sort = row.sort] { settings.sort = sort; });
-        option.on(Event::Change, [&settings, sort = row.sort] { // turned off
-            if (settings.sort == sort) settings.sort = BoardSort::None;
+        option.on(Event::Click, [&p, sort = row.sort] { takeSort(p, sort); });
+        option.on(Event::Change, [&p, sort = row.sort] { // turned off
+            if (p.session.settings.sort == sort) takeSort(p, BoardSort::None);
         });
     }
     f.BG.on(Event::Move, [&f] { restorePictures(f); });

@@ -96,6 +96,7 @@ void restorePictures(Screen& screen) {
 }
 
 void playClick(Program& p) {
+    if (p.session.settings.Muted == 1) return;
     PlaySoundA(p.machine.sound, p.session.appPath("\\Wavs\\click.wav"));
 }
 

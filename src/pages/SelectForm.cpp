@@ -178,7 +178,10 @@ Waited activatePicker(Program& p) {
     const PickMode* mode = modeOf(p);
     if (mode == nullptr) return waited(p);
     f.Label1.text = mode->title;
-    return mode->fill(p);
+    f.empty_LABEL.visible = false;
+    const Waited filled = mode->fill(p);
+    f.empty_LABEL.visible = f.List1.count() == 0;
+    return filled;
 }
 
 /// Searches for the airports that "departure" and "home" offer.

@@ -21,6 +21,7 @@ constexpr SettingBox<SettingsForm> kBoxes[] = {
     {&SettingsForm::homeDeptCHECK, &Settings::SetDept},
     {&SettingsForm::homeDestCHECK, &Settings::SetDest},
     {&SettingsForm::anyairlineCHECK, &Settings::AnyAirline},
+    {&SettingsForm::returnCHECK, &Settings::ComeBack},
 };
 
 void allowDistance(SettingsForm& f) {

@@ -89,9 +89,10 @@ void pickOwnPoint(Program& p, std::ptrdiff_t before) {
 Waited removeShownPoint(Program& p) {
     const auto& f = p.forms.ViewPlan;
     if (f.PlanList.picked < 0) return waited(p);
-    const Plan& plan = p.session.plan.plan;
-    const auto before = ownPointsBefore(plan, std::min<int>(f.PlanList.picked, plan.planLast));
-    switch (removePlanPoint(p.session.plan.plan, planInput(p), f.PlanList.picked + 1, f.AltUpDown.value)) {
+    PlanDesk& desk = p.session.plan;
+    Plan old = desk.plan;
+    const auto before = ownPointsBefore(old, std::min<int>(f.PlanList.picked, old.planLast));
+    switch (removePlanPoint(desk.plan, planInput(p), f.PlanList.picked + 1, f.AltUpDown.value)) {
     case Removal::Nothing:
         break;
     case Removal::AirportRefused:
@@ -99,11 +100,20 @@ Waited removeShownPoint(Program& p) {
     case Removal::ComputedRefused:
         return ShowMsgBox(p, std::string(kComputedRefusal));
     case Removal::Done:
+        desk.before.push_back(std::move(old));
         fillPlanList(p);
         pickOwnPoint(p, before);
         break;
     }
     return waited(p);
+}
+
+void undoRemoval(Program& p) {
+    PlanDesk& desk = p.session.plan;
+    if (desk.before.empty()) return;
+    desk.plan = std::move(desk.before.back());
+    desk.before.pop_back();
+    fillPlanList(p);
 }
 
 Waited printFlightPlan(Program& p) {

@@ -17,6 +17,9 @@ void refreshShownPlan(Program& p);
 void recalculateShownPlan(Program& p);
 Waited removeShownPoint(Program& p);
 
+/// Puts back the point that was removed last.
+void undoRemoval(Program& p);
+
 /// Prints the dispatch release.
 Waited printFlightPlan(Program& p);
 

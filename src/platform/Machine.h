@@ -82,6 +82,14 @@ public:
     /// Tells the person at the desk something that the system's own screens have no words for (where a
     /// printout lies, what is missing to start the simulator). Does not wait.
     virtual void notify(const std::string& text) = 0;
+    /// The same about a file (a path) that the person may want to see: its folder can be opened from there,
+    /// and a page for the eye (PDF) itself.
+    virtual void notifyFile(const std::string& text, const std::string& file) {
+        (void)file;
+        notify(text);
+    }
+    /// Opens a folder, or a file with the program that the person uses for it.
+    virtual void open(const std::string& path) { (void)path; }
     /// Puts a text where other programs can paste it from.
     virtual void copy(const std::string& text) = 0;
 };

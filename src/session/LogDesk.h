@@ -8,10 +8,17 @@
 
 namespace gatewise {
 
+/// An entry that was deleted in this run, and where it stood.
+struct DeletedEntry {
+    std::size_t index = 0;
+    LogRecord entry;
+};
+
 /// The log book as it is leafed through and edited.
 struct LogDesk {
     std::vector<LogRecord> LogEntries; // 0 to LastLogIndex
     LogStore logStore;
+    std::vector<DeletedEntry> deleted; // latest last
     std::vector<LogRecord> unkept; // of LogEntries, those that no file took: filed when the book can be read
     LogRecord LogWorkingCopy;      // the entry as it was when its screen opened
     std::int16_t LogPage = 1;

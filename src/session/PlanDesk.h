@@ -3,6 +3,7 @@
 #include "plan/PlanTable.h"
 
 #include <cstdint>
+#include <vector>
 
 namespace gatewise {
 
@@ -15,6 +16,7 @@ struct GeometryState {
 /// The plan of the flight on the pass.
 struct PlanDesk {
     Plan plan;
+    std::vector<Plan> before; // the plan of this flight before each point that was removed, latest last
     GeometryState geometry;
 };
 

@@ -50,6 +50,14 @@ struct Settings {
     std::optional<int> MinDist; // nautical miles, one of kAlternateMiles; likewise
 
     int Fmc747 = 0, PF2Kfmc = 0, CPfmc = 0;
+    // Ours; what they are at the start changes nothing.
+    int AnnouncementVolume = 0; // of announcements, -9000 to 0 in hundredths of a decibel
+    int Muted = 0;
+    int ComeBack = 0;              // the next start is where this run ended:
+    int LastLeft = 0, LastTop = 0; // of the window, pixels of the desktop
+    int LastPage = 0;              // 0 main, 1 board, 2 log book
+    std::string LastAirport;       // ICAO code of the departure airport, empty: none
+
     std::map<std::string, ExportFolder, std::less<>> exportFolders; // by the export's word: "SB"
 };
 

@@ -5,6 +5,8 @@
 #include "simulator/StoredPositions.h"
 
 #include <cstdint>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +19,8 @@ struct SimulatorHandOff {
     std::string StartChoice;
     std::int16_t SelectedPoint = 0;             // of the plan, to start at in flight
     std::vector<ScannedAircraft> AircraftTable; // as found when the fly options were loaded
+    std::optional<std::string> scannedFolder;   // whose aircraft these are; nothing before the first scan
+    std::shared_ptr<ScanProgress> scan;         // that runs now
     StoredPositions storedPositions;            // of the departure airport
 };
 

@@ -147,7 +147,7 @@ std::vector<AircraftVariation> variationsOf(std::string_view content) {
     return variationsIn(asText(lines), coding);
 }
 
-std::vector<ScannedAircraft> FilesSearch(std::string_view path) {
+std::vector<ScannedAircraft> FilesSearch(std::string_view path, ScanProgress* progress) {
     std::string root(path);
     if (!root.ends_with('\\')) root += '\\';
     std::vector<ScannedAircraft> out;
@@ -158,6 +158,8 @@ std::vector<ScannedAircraft> FilesSearch(std::string_view path) {
     for (const auto& entry : files::entriesOf(native)) {
         if (!entry.folder) continue;
         if (++folders > kAircraftLimit) break;
+        if (progress != nullptr && progress->stop) break;
+        if (progress != nullptr) ++progress->folders;
         if (!addFolder(out, native / entry.name, root + files::textOf(entry.name), buffer)) break;
     }
     return out;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <atomic>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,7 +28,14 @@ struct AircraftVariation {
 /// title that begins with "title" counts as missing.
 std::vector<AircraftVariation> variationsOf(std::string_view content);
 
+/// A scan on its way, which another thread may watch and end.
+struct ScanProgress {
+    std::atomic<int> folders = 0; // looked into so far
+    std::atomic<bool> stop = false;
+};
+
 /// All aircraft with a panel below a folder: folders in the order of the file system, variations in theirs.
-std::vector<ScannedAircraft> FilesSearch(std::string_view path);
+/// A scan that was stopped has those that it had found.
+std::vector<ScannedAircraft> FilesSearch(std::string_view path, ScanProgress* progress = nullptr);
 
 } // namespace gatewise

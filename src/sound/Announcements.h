@@ -11,6 +11,9 @@ namespace gatewise {
 inline constexpr std::int16_t kAnnouncementKinds = 6;
 inline constexpr std::int16_t kWelcomeKind = 99;
 
+/// The channel of the welcome aboard.
+inline constexpr std::int16_t kWelcomeChannel = 9;
+
 /// The hall's own channel; an announcement of kind N speaks on channel N.
 inline constexpr std::int16_t kAmbienceChannel = 8;
 

@@ -11,6 +11,7 @@ namespace gatewise {
 namespace {
 
 constexpr std::int32_t kDefaultEchoDelay = 50;
+constexpr std::int32_t kSilent = -10000;
 
 struct ReadableVolume {
     std::int32_t atLeast;
@@ -83,6 +84,8 @@ void DS_Engine::LoadWavToChannel(std::int16_t channel, const std::string& path) 
     dropBuffer(target->buffer);
     target->buffer = made;
     target->loaded = true;
+    target->volume = 0;
+    if (muted_) setLoudness(*target, 0);
 }
 
 void DS_Engine::SetFrequency(std::int16_t channel, std::int32_t hertz) {
@@ -98,13 +101,15 @@ void DS_Engine::GetFrequency(std::int16_t channel, std::int32_t& hertz) {
 
 void DS_Engine::SetVolume(std::int16_t channel, std::int32_t volume) {
     report("SetVolume", {channel, volume});
-    if (const SoundBuffer buffer = loadedBuffer(channel); buffer != SoundBuffer::None)
-        device_.setVolume(buffer, volume);
+    if (Channel* target = channelAt(channel); loadedBuffer(channel) != SoundBuffer::None)
+        setLoudness(*target, volume);
 }
 
 void DS_Engine::GetVolume(std::int16_t channel, std::int32_t& volume) {
     report("GetVolume", {channel});
-    volume = device_.volume(loadedBuffer(channel)).value_or(volume);
+    const SoundBuffer buffer = loadedBuffer(channel);
+    volume = muted_ && buffer != SoundBuffer::None ? channelAt(channel)->volume
+                                                   : device_.volume(buffer).value_or(volume);
 }
 
 void DS_Engine::SetPan(std::int16_t channel, std::int32_t pan) {
@@ -137,6 +142,7 @@ void DS_Engine::PlayEcho(std::int16_t channel, std::int16_t count, std::int32_t 
         SoundBuffer& slot = source->echoes[static_cast<std::size_t>(i - 1)];
         dropBuffer(slot);
         slot = echo;
+        if (muted_) device_.setVolume(echo, kSilent);
         device_.play(echo, false);
         if (delay > 0) loop_.wait(std::int64_t{i} * delay);
     }
@@ -199,10 +205,26 @@ void DS_Engine::Pause(std::int32_t milliseconds) {
     if (milliseconds > 0) loop_.wait(milliseconds);
 }
 
+void DS_Engine::setLoudness(Channel& channel, std::int32_t volume) {
+    channel.volume = volume;
+    device_.setVolume(channel.buffer, muted_ ? kSilent : volume);
+}
+
+void DS_Engine::setMuted(bool muted) {
+    if (muted == muted_) return;
+    muted_ = muted;
+    for (Channel& channel : channels_) {
+        if (!channel.loaded) continue;
+        setLoudness(channel, channel.volume);
+        for (const SoundBuffer echo : channel.echoes) {
+            if (echo != SoundBuffer::None) device_.setVolume(echo, muted ? kSilent : channel.volume);
+        }
+    }
+}
+
 void DS_Engine::ChangeVolume(std::int16_t channel, std::int16_t volume) {
     report("ChangeVolume", {channel, volume});
-    if (const Channel* target = channelAt(channel); target != nullptr)
-        device_.setVolume(target->buffer, volume);
+    if (Channel* target = channelAt(channel); target != nullptr) setLoudness(*target, volume);
 }
 
 } // namespace gatewise

@@ -54,9 +54,13 @@ public:
     /// SetVolume for the fades: asks for no loaded channel.
     void ChangeVolume(std::int16_t channel, std::int16_t volume);
 
+    /// Nothing is heard of what plays, and of what plays from now on; unmuted, all is as loud as it was set.
+    void setMuted(bool muted);
+
 private:
     struct Channel {
         SoundBuffer buffer = SoundBuffer::None;
+        std::int32_t volume = 0; // that was set, heard or not
         bool loaded = false;
         std::array<SoundBuffer, kEchoes> echoes{};
     };
@@ -71,7 +75,11 @@ private:
 
     SoundDevice& device_;
     EventLoop& loop_;
+    /// Sets a channel's volume on the device, or none while muted.
+    void setLoudness(Channel& channel, std::int32_t volume);
+
     bool open_ = false;
+    bool muted_ = false;
     std::array<Channel, kChannels> channels_{};
 };
 

@@ -7,12 +7,6 @@
 
 namespace gatewise {
 
-namespace {
-
-constexpr std::int16_t kWelcomeChannel = 9;
-
-} // namespace
-
 void PlayWelcome(DS_Engine& engine, const std::string& appDir, const std::string& flightKey,
                  std::int16_t kind, const std::string& city) {
     if (kind != kWelcomeKind) return;

@@ -81,6 +81,10 @@ void ButtonView::sync() {
     update();
 }
 
+bool ButtonView::wordsOnPicture() const {
+    return !actor_.skin().caption(pictureTail()).isEmpty();
+}
+
 QString ButtonView::spokenName() const {
     const QString caption = actor_.skin().caption(pictureTail());
     return caption.isEmpty() || !place.says.isEmpty() ? View::spokenName() : caption;

@@ -19,6 +19,8 @@ public:
     [[nodiscard]] bool isKey() const override { return true; }
     void activate() override;
 
+    /// Whether the picture has words on it.
+    [[nodiscard]] bool wordsOnPicture() const;
     /// File of the form's picture below the program folder.
     [[nodiscard]] std::string pictureTail() const;
     /// File of the picture that is painted: that of a key that cannot be pressed where the form leaves a lit

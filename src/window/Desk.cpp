@@ -4,6 +4,7 @@
 #include "input/UserEvents.h"
 #include "window/Accessible.h"
 #include "window/QtText.h"
+#include "window/ToolTips.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -140,9 +141,9 @@ ScreenWindow* Desk::front() const {
     return forms_.front.empty() ? nullptr : &window(*forms_.front.front());
 }
 
-void Desk::showNote(const QString& text) {
+void Desk::showNote(const QString& text, const QString& file) {
     delete note_;
-    if (ScreenWindow* window = front()) note_ = new Note(text, *window, skin_);
+    if (ScreenWindow* window = front()) note_ = new Note(text, file, *window, skin_);
 }
 
 QString Desk::note() const {
@@ -158,10 +159,12 @@ void Desk::turnTo(ScreenWindow& window) {
 
 /// A press or a key in a window is the person's turning to it.
 bool Desk::eventFilter(QObject* object, QEvent* event) {
+    if (showTip(object, event)) return true;
     const bool turns = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress;
     if (turns && object->isWidgetType()) {
         auto* window = dynamic_cast<ScreenWindow*>(static_cast<QWidget*>(object)->window());
         if (window != nullptr && front() != window) turnTo(*window);
+        if (window != nullptr) window->touched(event->type() == QEvent::MouseButtonPress);
     }
     return QObject::eventFilter(object, event);
 }

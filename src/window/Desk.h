@@ -35,8 +35,8 @@ public:
     [[nodiscard]] ScreenWindow* front() const;
     [[nodiscard]] ScreenWindow& mainWindow() const { return window(forms_.MainForm); }
 
-    /// A note in the window in front.
-    void showNote(const QString& text);
+    /// A note in the window in front; with keys that open `file`, where there is one.
+    void showNote(const QString& text, const QString& file = {});
     [[nodiscard]] QString note() const;
 
 protected:

@@ -52,6 +52,7 @@ ControlLayout plainControl(const QJsonObject& o) {
     const QString ellipsis = o["ellipsis"].toString();
     c.ellipsis = ellipsis == "left" ? Ellipsis::Left : ellipsis == "right" ? Ellipsis::Right : Ellipsis::None;
     c.hit = o["hit"].toBool();
+    c.over = o["over"].toBool();
     c.multiline = o["multiline"].toBool();
     c.tab = o["tab"].toInt();
     c.text = text(o["text"]);

@@ -36,7 +36,8 @@ struct ControlLayout {
     bool wrap = false;
     int lines = 0; // 0: as many as there are
     Ellipsis ellipsis = Ellipsis::None;
-    bool hit = false; // a value that can be clicked
+    bool hit = false;  // a value that can be clicked
+    bool over = false; // lies over others that are empty then
     bool multiline = false;
     int tab = 0; // place in the order of the Tab key, 0: behind all others, in the order of the table
     std::string text;

@@ -1,5 +1,6 @@
 #include "window/Note.h"
 
+#include "window/NoteKeys.h"
 #include "window/ScreenWindow.h"
 #include "window/Skin.h"
 
@@ -17,6 +18,7 @@ constexpr int kTime = 15000; // milliseconds
 constexpr int kWidest = 480;
 constexpr int kEdge = 12; // free on all sides
 constexpr int kStep = 4;
+constexpr int kMargin = 10; // around the words
 
 /// Whether a person may want to reach the view while a note is up: keys and fields, not texts and lists,
 /// which show enough beside it.
@@ -61,16 +63,22 @@ QPoint freePlace(const ScreenWindow& window, QSize size) {
 
 } // namespace
 
-Note::Note(const QString& text, ScreenWindow& window, const Skin& skin) : QLabel(text, &window) {
+Note::Note(const QString& text, const QString& file, ScreenWindow& window, const Skin& skin)
+    : QLabel(text, &window) {
     setWordWrap(true);
     setFont(skin.font("data"));
     setTextFormat(Qt::PlainText);
-    setMargin(10);
+    setMargin(kMargin);
     setStyleSheet(QString("background:%1;color:%2;border-radius:4px")
                       .arg(skin.style("tooltip.back").name(), skin.style("tooltip.text").name()));
     setAccessibleName(text);
     setFixedWidth(std::min(window.width() - 2 * kEdge, kWidest));
     adjustSize();
+    if (QWidget* keys = makeOpenKeys(file, width() - 2 * kMargin, skin, this)) {
+        setAlignment(Qt::AlignTop);
+        keys->move(kMargin, height());
+        setFixedHeight(height() + keys->height() + kMargin);
+    }
     move(freePlace(window, size()));
     show();
     raise();

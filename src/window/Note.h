@@ -12,7 +12,7 @@ class Skin;
 class Note : public QLabel {
     Q_OBJECT
 public:
-    Note(const QString& text, ScreenWindow& window, const Skin& skin);
+    Note(const QString& text, const QString& file, ScreenWindow& window, const Skin& skin);
 
 protected:
     void mousePressEvent(QMouseEvent* event) override;

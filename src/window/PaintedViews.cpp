@@ -4,6 +4,7 @@
 #include "window/Drawing.h"
 #include "window/LabelText.h"
 #include "window/LinesTable.h"
+#include "window/Marks.h"
 #include "window/QtText.h"
 #include "window/ScreenNames.h"
 #include "window/Skin.h"
@@ -65,7 +66,7 @@ void LabelView::sync() {
     syncCommon();
     const Label& now = label();
     if (now.text == shownText_ && now.color == shownColor_ && now.enabled == shownEnabled_ &&
-        now.highlighted == shownMark_) {
+        now.highlighted == shownMark_ && now.mark == shownSign_) {
         return;
     }
     if (now.text != shownText_ && !place.quiet) {
@@ -76,6 +77,7 @@ void LabelView::sync() {
     shownColor_ = now.color;
     shownEnabled_ = now.enabled;
     shownMark_ = now.highlighted;
+    shownSign_ = now.mark;
     update();
 }
 
@@ -130,6 +132,7 @@ void LabelView::paintEvent(QPaintEvent*) {
         painter.fillRect(QRect(0, 0, 3, box.height()), kMarkEdge);
     }
     if (!place.font.empty()) drawText(painter, box, toQt(label().text), style());
+    drawMark(painter, box, label());
 }
 
 QString HitAreaView::spokenName() const {

@@ -48,6 +48,7 @@ private:
     Color shownColor_;
     bool shownEnabled_ = true;
     bool shownMark_ = false;
+    Mark shownSign_ = Mark::None;
 };
 
 /// An area without looks of its own above others.

@@ -41,8 +41,12 @@ void QtDesktop::setPointer(bool busy) {
 }
 
 std::optional<std::string> QtDesktop::askSavePath(const std::string& title, const std::string& proposal) {
+    const QString path = nativePath(proposal);
+    const QString ending = QFileInfo(path).suffix();
+    const QString kinds =
+        ending.isEmpty() ? QString() : ending.toUpper() + " files (*." + ending + ");;All files (*)";
     const QString name =
-        QFileDialog::getSaveFileName(QApplication::activeWindow(), toQt(title), nativePath(proposal));
+        QFileDialog::getSaveFileName(QApplication::activeWindow(), toQt(title), path, kinds);
     return name.isEmpty() ? std::nullopt : std::optional(pathText(name));
 }
 
@@ -76,6 +80,16 @@ void QtDesktop::showHelp(const std::string& page) {
 
 void QtDesktop::notify(const std::string& text) {
     if (desk_ != nullptr) desk_->showNote(toQt(text));
+}
+
+void QtDesktop::notifyFile(const std::string& text, const std::string& file) {
+    if (desk_ != nullptr) desk_->showNote(toQt(text), nativePath(file));
+}
+
+void QtDesktop::open(const std::string& path) {
+    const QString native = nativePath(path);
+    if (!QDesktopServices::openUrl(QUrl::fromLocalFile(native)))
+        notify("No program of this computer opens " + fromQt(native));
 }
 
 void QtDesktop::copy(const std::string& text) {

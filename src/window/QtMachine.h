@@ -30,6 +30,8 @@ public:
     std::optional<std::string> askOpenPath(const std::string& title, const std::string& proposal) override;
     std::optional<std::string> askFolder(const std::string& title) override;
     void notify(const std::string& text) override;
+    void notifyFile(const std::string& text, const std::string& file) override;
+    void open(const std::string& path) override;
     void copy(const std::string& text) override;
 
 private:

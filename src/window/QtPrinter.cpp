@@ -79,8 +79,9 @@ std::error_code QtPrinter::print(const std::string& font, int size, const std::s
     setMargins(pages);
     const bool drawn = printPages(pages, face, toQt(text), drawings);
     const std::string shown = drawn ? name + ".pdf" : name + ".txt";
-    desktop_.notify((info.isNull() ? "There is no printer" : "The printer took nothing") +
-                    std::string(". The pages lie in ") + fromQt(nativePath(shown)));
+    desktop_.notifyFile((info.isNull() ? "There is no printer" : "The printer took nothing") +
+                            std::string(". The pages lie in ") + fromQt(nativePath(shown)),
+                        shown);
     return {};
 }
 

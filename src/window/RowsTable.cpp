@@ -49,7 +49,7 @@ ListView* columnsOf(Control& control) {
 RowsTable::RowsTable(Actor& actor, Control& control, const ControlLayout& place, RowsModel& model,
                      QWidget* parent)
     : QTreeView(parent), actor_(actor), control_(control), place_(place), model_(model),
-      head_(new RowsHead(actor, columnsOf(control), this)) {
+      head_(new RowsHead(actor, columnsOf(control), this)), narrowing_(*this, actor.skin()) {
     setFrameShape(QFrame::NoFrame);
     setRootIsDecorated(false);
     setIndentation(0);
@@ -85,6 +85,7 @@ void RowsTable::sync() {
     const int row = picked();
     if (fresh || currentIndex().row() != row) {
         const QModelIndex at = row >= 0 && row < model_.rowCount() ? model_.index(row, 0) : QModelIndex();
+        if (fresh) narrowing_.reset();
         if (fresh) executeDelayedItemsLayout();
         if (at.isValid()) {
             if (fresh) verticalScrollBar()->setValue(top);
@@ -165,6 +166,12 @@ void RowsTable::focusInEvent(QFocusEvent* event) {
     syncing_ = before;
 }
 
+/// The next look at the list shows all of it.
+void RowsTable::hideEvent(QHideEvent* event) {
+    if (!event->spontaneous()) narrowing_.reset();
+    QTreeView::hideEvent(event);
+}
+
 void RowsTable::pressSpace() {
     if (control_.handles(Event::Space))
         actor_.act([&] { user::space(control_); });
@@ -172,7 +179,13 @@ void RowsTable::pressSpace() {
         choose(currentIndex().row());
 }
 
+/// A list of names is searched by typing.
+bool RowsTable::narrow(const QKeyEvent& event) {
+    return control_.kind == Kind::ListBox && narrowing_.key(event, [this](int row) { choose(row); });
+}
+
 void RowsTable::keyPressEvent(QKeyEvent* event) {
+    if (narrow(*event)) return;
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "window/LabelText.h"
+#include "window/Narrowing.h"
 #include "window/RowsHead.h"
 #include "window/RowsModel.h"
 #include "window/View.h"
@@ -25,6 +26,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
@@ -38,6 +40,7 @@ private:
     void pressRight(const QModelIndex& at);
     void open(void (*event)(Control&));
     void pressSpace();
+    bool narrow(const QKeyEvent& event);
     [[nodiscard]] int picked() const;
     /// Where a column's text stands in a row that begins at `top`.
     [[nodiscard]] QRectF cell(int column, int top) const;
@@ -48,6 +51,7 @@ private:
     RowsModel& model_;
     RowsHead* head_;
     bool syncing_ = false;
+    Narrowing narrowing_;
 };
 
 } // namespace gatewise::window

@@ -44,7 +44,9 @@ void ScreenWindow::sync() {
     if (isEnabled() != screen_.enabled) setEnabled(screen_.enabled);
     for (View* view : views_.all) view->sync();
     View* now = isActiveWindow() ? viewOf(focusWidget()) : nullptr;
-    const bool shown = now != nullptr && now->control != nullptr && now->widget()->isVisible();
+    const bool pressed = byMouse_ && dynamic_cast<PaintedView*>(now) != nullptr &&
+                         now->widget()->focusProxy() == nullptr; // a key that the mouse lit already
+    const bool shown = now != nullptr && now->control != nullptr && now->widget()->isVisible() && !pressed;
     ring_->surround(shown ? ringBox(*now) : QRect());
 }
 
@@ -70,6 +72,14 @@ void ScreenWindow::place() {
 
 bool ScreenWindow::focusNextPrevChild(bool next) {
     return walk_.step(viewOf(focusWidget()), next);
+}
+
+void ScreenWindow::focusFirst() {
+    View* wanted = screen_.first != nullptr ? view(*screen_.first) : nullptr;
+    if (wanted != nullptr && wanted->takesFocus())
+        wanted->widget()->setFocus(Qt::TabFocusReason);
+    else
+        walk_.first();
 }
 
 void ScreenWindow::focusMoved(QWidget* now) {

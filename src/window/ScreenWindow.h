@@ -17,7 +17,9 @@ public:
     /// Puts the window where the form says, moved onto a screen that can be seen.
     void place();
     /// Where the keyboard starts each time that the screen comes up.
-    void focusFirst() { walk_.first(); }
+    void focusFirst();
+    /// The person at the desk used the mouse, or the keyboard: the ring shows what keys would reach.
+    void touched(bool byMouse) { byMouse_ = byMouse; }
     /// The focus went to a widget of this window.
     void focusMoved(QWidget* now);
     /// Puts out what was lit under a mouse that is not there any more.
@@ -54,6 +56,7 @@ private:
     FocusRing* ring_;
     QPoint grip_; // of the mouse in the title strip that it holds
     bool gripped_ = false;
+    bool byMouse_ = false;
 };
 
 } // namespace gatewise::window

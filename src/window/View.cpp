@@ -52,6 +52,8 @@ void View::syncCommon() {
 PaintedView::PaintedView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent)
     : QWidget(parent), View(actor, control, place) {
     setMouseTracking(true);
+    const bool words = control != nullptr && control->kind == Kind::Label;
+    setAttribute(Qt::WA_TransparentForMouseEvents, words && place.over);
 }
 
 namespace {
@@ -101,6 +103,8 @@ void PaintedView::mousePressEvent(QMouseEvent* event) {
         handlesAny({Event::Press, Event::Release, Event::Click, Event::DoubleClick})) {
         const QPoint at = groundPosition(*control->screen, *event);
         held_ = true;
+        // What was pressed has the keyboard: after a dialog it comes back to where the hand was.
+        if (takesFocus()) setFocus(Qt::MouseFocusReason);
         actor_.act([&] { user::press(*control, at.x(), at.y()); });
     } else if (event->button() == Qt::RightButton && handlesAny({Event::RightPress})) {
         actor_.act([&] { user::rightPress(*control); });

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "pages/Program.h"
+#include "window/Accelerators.h"
+#include "window/ContextMenus.h"
 #include "window/Desk.h"
 #include "window/QtMachine.h"
+#include "window/ShortCutKeys.h"
 #include "window/Skin.h"
 
 namespace gatewise::window {
@@ -53,6 +56,11 @@ public:
     Program program;
     Skin skin;
     Desk desk;
+
+private:
+    ShortCutKeys shortCuts_{program, desk};
+    Accelerators accelerators_{desk};
+    ContextMenus contextMenus_{skin};
 };
 
 } // namespace gatewise::window

@@ -1,5 +1,8 @@
 #include "work/BoardWork.h"
 
+#include "platform/Numbers.h"
+#include "platform/TimeOfDay.h"
+#include "schedule/Lookups.h"
 #include "schedule/Readers.h"
 
 namespace gatewise {
@@ -52,6 +55,25 @@ void buildBoard(const Schedule& schedule, const BoardChoice& choice, StatusBoard
         BuildArrivals(schedule, choice, board, dots);
     else
         BuildDepartures(schedule, choice, board, dots);
+}
+
+std::optional<std::string> nextFlightTime(const Schedule& schedule, const BoardChoice& choice,
+                                          const StatusBoard& board) {
+    constexpr int kDay = kHoursOfDay * kMinutesOfHour;
+    const auto time =
+        board.BoardMode == "arriving" ? &FlightRecord::ArrivalTime : &FlightRecord::DepartureTime;
+    const int now = timeOfDay(choice.hoursText, choice.minutesText).value_or(0);
+    const bool any = board.BoardAirlineCode.view() == kAnyAirlineCode;
+    std::optional<int> nearest; // minutes from now
+    for (const FlightRecord& flight : schedule.BoardFlights) {
+        const auto minutes = timeOfDay(flight.*time);
+        if (!minutes || (!any && flight.AirlineCode.trimmed() != board.BoardAirlineCode.trimmed())) continue;
+        const int ahead = (*minutes - now + kDay) % kDay;
+        if (!nearest || ahead < *nearest) nearest = ahead;
+    }
+    if (!nearest) return std::nullopt;
+    const int at = (now + *nearest) % kDay;
+    return formatInteger("00", at / kMinutesOfHour) + ":" + formatInteger("00", at % kMinutesOfHour);
 }
 
 bool turnPage(StatusBoard& board, int step) {

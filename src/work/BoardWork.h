@@ -35,6 +35,11 @@ void BuildArrivals(const Schedule& schedule, const BoardChoice& choice, StatusBo
 void buildBoard(const Schedule& schedule, const BoardChoice& choice, StatusBoard& board,
                 const WaitDots& dots);
 
+/// "05:40": when the next flight of the board's airline goes after the board's clock, on any day; nothing
+/// without one. Behind midnight the first of the day is the next.
+std::optional<std::string> nextFlightTime(const Schedule& schedule, const BoardChoice& choice,
+                                          const StatusBoard& board);
+
 /// Another page; false when there is none.
 bool turnPage(StatusBoard& board, int step);
 

@@ -1,5 +1,9 @@
 #include "work/Clocks.h"
 
+#include "platform/Numbers.h"
+
+#include <cstdlib>
+
 namespace gatewise {
 
 namespace {
@@ -30,6 +34,17 @@ void stepBoardClock(BoardClock& clock, std::string_view type) {
     for (const auto& row : kSteps) {
         if (row.type == type) clock.*row.offset = static_cast<std::int16_t>(clock.*row.offset + row.step);
     }
+}
+
+void unshiftClock(BoardClock& clock) {
+    clock.HourOffset = clock.MinuteOffset = 0;
+}
+
+std::string clockShift(const BoardClock& clock) {
+    const int minutes = clock.HourOffset * 60 + clock.MinuteOffset;
+    if (minutes == 0) return {};
+    const int size = std::abs(minutes);
+    return (minutes < 0 ? "-" : "+") + std::to_string(size / 60) + ":" + formatInteger("00", size % 60);
 }
 
 void nextClockRegion(BoardClock& clock) {

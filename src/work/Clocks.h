@@ -2,6 +2,7 @@
 
 #include "board/Clock.h"
 
+#include <string>
 #include <string_view>
 
 namespace gatewise {
@@ -11,6 +12,12 @@ void takeTimeZone(BoardClock& clock, int bias);
 
 /// "hr_up", "hr_dn", "min_up", "min_dn"
 void stepBoardClock(BoardClock& clock, std::string_view type);
+
+/// Takes the pilot's shift away: the clock shows the time of the computer.
+void unshiftClock(BoardClock& clock);
+
+/// "+1:30" of a clock that the pilot has shifted, empty of one that shows the time of the computer.
+std::string clockShift(const BoardClock& clock);
 
 void nextClockRegion(BoardClock& clock);
 

@@ -85,6 +85,9 @@ bool take(Settings& settings, const std::string& AppDir, const Profile& profile,
                      std::numeric_limits<std::int16_t>::max());
     case ConfigValue::Sort:
         return takeSort(settings, key.sort, boolean(text()));
+    case ConfigValue::Whole:
+        settings.*key.number = wholeNumber(text()).value_or(0);
+        return true;
     case ConfigValue::Minutes:
         settings.PreFlight = isChoice(kPreFlightMinutes, number()) ? number() : kPreFlightMinutes.front();
         return true;
@@ -111,6 +114,26 @@ std::string written(const Settings& settings, const ConfigKey& key) {
     }
 }
 
+/// The keys of old, up to the first that cannot be converted. False when there is one.
+bool readKeys(const std::string& AppDir, const Profile& profile, Settings& settings) {
+    std::vector<ConfigKey> keys(configKeys().begin(), configKeys().end());
+    std::stable_sort(keys.begin(), keys.end(),
+                     [](const ConfigKey& a, const ConfigKey& b) { return a.read < b.read; });
+    return std::all_of(keys.begin(), keys.end(),
+                       [&](const ConfigKey& key) { return take(settings, AppDir, profile, key); });
+}
+
+/// Of the keys of our own those that say something, or said something before.
+void addOwn(const std::string& AppDir, const Settings& settings, std::vector<ProfileValue>& values) {
+    const Profile profile = loadProfile(configPath(AppDir));
+    const Settings untouched;
+    for (const ConfigKey& key : ownKeys()) {
+        const std::string value = written(settings, key);
+        if (value != written(untouched, key) || profile.find(key.section, key.key))
+            values.push_back({key.section, key.key, value});
+    }
+}
+
 std::string orElse(const std::string& text, const std::string& fallback) {
     return text.empty() ? fallback : text;
 }
@@ -124,12 +147,10 @@ std::string configPath(const std::string& AppDir) {
 void ReadConfig(const std::string& AppDir, Settings& settings) {
     const Profile profile = loadProfile(configPath(AppDir), &settings.unread);
     if (settings.unread == std::errc::no_such_file_or_directory) settings.unread.clear();
-    std::vector<ConfigKey> keys(configKeys().begin(), configKeys().end());
-    std::stable_sort(keys.begin(), keys.end(),
-                     [](const ConfigKey& a, const ConfigKey& b) { return a.read < b.read; });
-    for (const ConfigKey& key : keys) {
-        if (!take(settings, AppDir, profile, key)) return;
+    for (const ConfigKey& key : ownKeys()) {
+        if (textIn(profile, key.section, key.key) != "") (void)take(settings, AppDir, profile, key);
     }
+    if (!readKeys(AppDir, profile, settings)) return;
     for (const std::string& word : rememberedExports()) {
         settings.exportFolders[word] = {
             orElse(textIn(profile, "Export", word + "Path"), AppDir),
@@ -148,6 +169,7 @@ std::error_code WriteConfig(const std::string& AppDir, const Settings& settings)
         values.push_back({"Export", word + "Path", folder.path});
         values.push_back({"Export", word + "Drive", folder.drive});
     }
+    addOwn(AppDir, settings, values);
     return WriteValues(values, configPath(AppDir));
 }
 

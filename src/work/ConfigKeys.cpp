@@ -50,10 +50,28 @@ constexpr ConfigKey kKeys[] = {
     boxKey("Export", "CPfmc", 29, &Settings::CPfmc),
 };
 
+constexpr ConfigKey wholeKey(const char* key, int Settings::*number) {
+    return {"Gatewise", key, 0, Whole, nullptr, number};
+}
+
+constexpr ConfigKey kOwnKeys[] = {
+    {"Gatewise", "annVolume", 0, Number16, nullptr, &Settings::AnnouncementVolume},
+    boxKey("Gatewise", "Muted", 0, &Settings::Muted),
+    boxKey("Gatewise", "ComeBack", 0, &Settings::ComeBack),
+    wholeKey("LastLeft", &Settings::LastLeft),
+    wholeKey("LastTop", &Settings::LastTop),
+    wholeKey("LastPage", &Settings::LastPage),
+    textKey("Gatewise", "LastAirport", 0, &Settings::LastAirport),
+};
+
 } // namespace
 
 std::span<const ConfigKey> configKeys() {
     return kKeys;
+}
+
+std::span<const ConfigKey> ownKeys() {
+    return kOwnKeys;
 }
 
 } // namespace gatewise

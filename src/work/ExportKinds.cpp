@@ -24,32 +24,38 @@ MagneticTable magneticTable(const ExportJob& job) {
 }
 
 /// The message of a file that stands, else what kept it from standing.
-Notice written(const std::error_code& error, Message message, std::string_view routine) {
-    return error ? failure(error, routine) : inform(message);
+Notice written(const std::error_code& error, Message message, std::string_view routine,
+               const std::string& path) {
+    if (error) return failure(error, routine, path);
+    Notice notice = inform(message);
+    notice.file = path;
+    return notice;
 }
 
+/// The message stands whatever became of the file; beside it stands the truth.
 Notice exportFs2000(const ExportJob& job, const std::string& path) {
-    writeFs2000Plan(job, path);
-    return inform(Message::Fs2000Exported);
+    Notice notice = inform(Message::Fs2000Exported);
+    notice.file = singleBackslashes(path);
+    if (const auto error = writeFs2000Plan(job, path)) notice.reason = plainReason(error);
+    return notice;
 }
 
 Notice ExportRC2(const ExportJob& job, const std::string& path) {
     const ExportMoment moment{job.longDate, twelveHourTime(job.now)};
     const auto plan = rc2Plan(job.plan, flightOf(job), moment, magneticTable(job), job.numbers);
     if (!plan) return warn(Message::PlanTooLong);
-    return written(files::replace(singleBackslashes(path), *plan), Message::RadarContactExported,
-                   "ExportRC2");
+    return written(files::replace(singleBackslashes(path), *plan), Message::RadarContactExported, "ExportRC2", singleBackslashes(path));
 }
 
 Notice ExportACSGPS(const ExportJob& job, const std::string& path) {
     return written(files::replace(singleBackslashes(path), acsGpsPlan(job.plan, job.numbers)),
-                   Message::AcsGpsExported, "ExportACSGPS");
+                   Message::AcsGpsExported, "ExportACSGPS", singleBackslashes(path));
 }
 
 Notice ExportSB(const ExportJob& job, const std::string& path) {
     return written(
         files::replace(singleBackslashes(path), squawkBoxPlan(job.plan, magneticTable(job), job.numbers)),
-        Message::SquawkBoxExported, "ExportSB");
+        Message::SquawkBoxExported, "ExportSB", singleBackslashes(path));
 }
 
 /// The name is always that of the flight, in FSNavigator's own folder.
@@ -61,7 +67,7 @@ Notice ExportFSNav(const ExportJob& job, const std::string&) {
         error = files::rewrite(*path, [&](const Bytes& old) -> std::optional<Bytes> {
             return fsnavPlan(job.plan, flightOf(job), old);
         });
-    return written(error, Message::FsNavigatorExported, "ExportFSNav");
+    return written(error, Message::FsNavigatorExported, "ExportFSNav", path.value_or(""));
 }
 
 constexpr ExportKind kExports[] = {
@@ -121,8 +127,8 @@ std::vector<std::string> rememberedExports() {
     return words;
 }
 
-void writeFs2000Plan(const ExportJob& job, const std::string& path) {
-    (void)files::replace(singleBackslashes(path),
+std::error_code writeFs2000Plan(const ExportJob& job, const std::string& path) {
+    return files::replace(singleBackslashes(path),
                          fs2000Plan(job.plan, {job.stem, job.HaveAlternate}, job.numbers));
 }
 

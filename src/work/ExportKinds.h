@@ -48,7 +48,7 @@ const ExportKind* exportKindOf(std::string_view kind);
 /// The words whose folders GT.cfg remembers, in the order in which it holds them.
 std::vector<std::string> rememberedExports();
 
-/// The simulator's own plan file. Nobody is told what becomes of it.
-void writeFs2000Plan(const ExportJob& job, const std::string& path);
+/// The simulator's own plan file.
+std::error_code writeFs2000Plan(const ExportJob& job, const std::string& path);
 
 } // namespace gatewise

@@ -8,6 +8,7 @@ namespace gatewise {
 namespace {
 
 constexpr int kVolumeStep = 90;
+constexpr int kLowestAnnouncement = -9000;
 
 /// Kinds 1 to 6. Now Arriving and Landing Soon stand crossed.
 constexpr int Settings::*kBoxes[] = {&Settings::Dept1, &Settings::Dept2, &Settings::Dept3,
@@ -37,6 +38,15 @@ std::string cityOfRow(const StatusBoard& board, const Schedule& schedule, int ro
 void stepAmbience(Settings& settings, std::string_view type) {
     if (type == "vol_dn" && settings.AmbienceVolume >= -8910) settings.AmbienceVolume -= kVolumeStep;
     if (type == "vol_up" && settings.AmbienceVolume <= -90) settings.AmbienceVolume += kVolumeStep;
+}
+
+void stepAnnouncements(Settings& settings, std::string_view type) {
+    const int step = type == "ann_up" ? kVolumeStep : type == "ann_dn" ? -kVolumeStep : 0;
+    settings.AnnouncementVolume = std::clamp(settings.AnnouncementVolume + step, kLowestAnnouncement, 0);
+}
+
+std::int32_t announcementVolume(const Settings& settings, std::int32_t volume) {
+    return std::max(volume + std::clamp(settings.AnnouncementVolume, kLowestAnnouncement, 0), -10000);
 }
 
 FadeStep fadeAmbience(const Settings& settings, Hall& hall) {

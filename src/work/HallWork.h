@@ -14,6 +14,12 @@ namespace gatewise {
 /// "vol_up", "vol_dn": the ambience's target in steps of 90, -9000 to 0.
 void stepAmbience(Settings& settings, std::string_view type);
 
+/// "ann_up", "ann_dn": the announcements' volume in the same steps and the same range.
+void stepAnnouncements(Settings& settings, std::string_view type);
+
+/// What an announcement of that volume (hundredths of a decibel, -10000 to 0) is turned down to.
+std::int32_t announcementVolume(const Settings& settings, std::int32_t volume);
+
 /// One step of the ambience's fade.
 FadeStep fadeAmbience(const Settings& settings, Hall& hall);
 

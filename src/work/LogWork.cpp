@@ -6,6 +6,7 @@
 #include "schedule/Lookups.h"
 #include "work/Notices.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace gatewise {
@@ -103,6 +104,23 @@ std::optional<Notice> DeleteLogEntry(const LogFiles& files, const DateTime& now,
     if (const auto error = log.logStore.rewrite(files.book, left, daySerial(now)))
         return failure(error, "DeleteLogEntry");
     WriteLogRecords(files.exchange, left);
+    const auto index = static_cast<std::size_t>(log.LogSelected);
+    log.deleted.push_back({index, log.LogEntries[index]});
+    return std::nullopt;
+}
+
+std::optional<Notice> undoDeletion(const LogFiles& files, const DateTime& now, LogDesk& log) {
+    if (log.deleted.empty()) return std::nullopt;
+    if (log.LogEntries.size() >= kLogEntries) return tableFull("undoDeletion");
+    const DeletedEntry& last = log.deleted.back();
+    std::vector<LogRecord> whole = log.LogEntries;
+    const auto at = static_cast<std::ptrdiff_t>(std::min(last.index, whole.size()));
+    whole.insert(whole.begin() + at, last.entry);
+    if (const auto error = log.logStore.rewrite(files.book, whole, daySerial(now)))
+        return failure(error, "undoDeletion");
+    WriteLogRecords(files.exchange, whole);
+    log.LogEntries = std::move(whole);
+    log.deleted.pop_back();
     return std::nullopt;
 }
 

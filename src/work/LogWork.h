@@ -35,6 +35,10 @@ std::optional<Notice> SaveLogEntry(const LogFiles& files, const DateTime& now, L
 /// Removes the entry LogSelected from the file; the book is to be loaded again. What kept it from that.
 std::optional<Notice> DeleteLogEntry(const LogFiles& files, const DateTime& now, LogDesk& log);
 
+/// Puts the entry that was deleted last back to its place, in the file too; without one nothing happens. What
+/// kept it from that: the entry then waits for another try.
+std::optional<Notice> undoDeletion(const LogFiles& files, const DateTime& now, LogDesk& log);
+
 /// The entry behind a row of the page (0 to 6) is selected; false when there is none.
 bool selectLogRow(LogDesk& log, int row);
 

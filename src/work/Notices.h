@@ -23,6 +23,12 @@ Notice failure(int errorNumber, std::string_view description, std::string_view f
 /// The same for an error of the operating system, with its words.
 Notice failure(const std::error_code& error, std::string_view function);
 
+/// The same about a file that could not be written, with the reason in plain words.
+Notice failure(const std::error_code& error, std::string_view function, const std::string& file);
+
+/// "there is no permission to write there": an error of the operating system as a pilot understands it.
+std::string plainReason(const std::error_code& error);
+
 /// A table that is full.
 Notice tableFull(std::string_view function);
 

@@ -5,8 +5,8 @@
 
 namespace gatewise {
 
-void scanAircraft(const Settings& settings, SimulatorHandOff& simulator) {
-    simulator.AircraftTable = FilesSearch(settings.FsPath + "\\Aircraft");
+std::string aircraftFolder(const Settings& settings) {
+    return settings.FsPath + "\\Aircraft";
 }
 
 std::vector<std::string> loadStartChoices(const Settings& settings, const Plan& plan,
@@ -30,7 +30,7 @@ std::error_code WriteFlightToSimulator(const std::string& AppDir, const ExportJo
     simulator.StartLat = start.StartLat;
     simulator.StartLon = start.StartLon;
     simulator.StartHdg = start.StartHdg;
-    writeFs2000Plan(job, *plan);
+    (void)writeFs2000Plan(job, *plan); // nobody is told what becomes of it
     const SituationInput input{.plan = job.plan,
                                .CurrentFlight = flight,
                                .numbers = job.numbers,
@@ -44,12 +44,21 @@ std::error_code WriteFlightToSimulator(const std::string& AppDir, const ExportJo
     return WriteSituationFile(AppDir + "\\Data\\default.FLT", *situation, situationKeys(input));
 }
 
+std::string situationPath(const Settings& settings, const std::string& stem) {
+    return settings.FsPath + "\\flights\\fs2kflts\\" + stem + ".FLT";
+}
+
 std::vector<Notice> afterSending(const Settings& settings, const std::string& stem) {
-    if (settings.SetDefault != 1) return {inform(Message::FlightSent)};
+    const auto sent = [&](Message message) {
+        Notice notice = inform(message);
+        notice.file = situationPath(settings, stem);
+        return notice;
+    };
+    if (settings.SetDefault != 1) return {sent(Message::FlightSent)};
     const auto error = SetDefaultFlight(settings.FsPath, stem);
-    if (!error) return {inform(Message::DefaultFlightSent)};
+    if (!error) return {sent(Message::DefaultFlightSent)};
     // The flight itself has arrived; the pilot picks it by hand.
-    return {failure(error, "SetDefaultFlight"), inform(Message::FlightSent)};
+    return {failure(error, "SetDefaultFlight", settings.FsPath + "\\FS2002.CFG"), sent(Message::FlightSent)};
 }
 
 } // namespace gatewise

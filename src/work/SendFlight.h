@@ -9,8 +9,8 @@
 
 namespace gatewise {
 
-/// The aircraft below the simulator's folder.
-void scanAircraft(const Settings& settings, SimulatorHandOff& simulator);
+/// Where the simulator's aircraft are.
+std::string aircraftFolder(const Settings& settings);
 
 /// The stored positions of the departure airport; the entries that a start is chosen from.
 std::vector<std::string> loadStartChoices(const Settings& settings, const Plan& plan,
@@ -26,6 +26,9 @@ struct FlyOptions {
 std::error_code WriteFlightToSimulator(const std::string& AppDir, const ExportJob& job,
                                        const FlightRecord& flight, const Settings& settings,
                                        const FlyOptions& options, SimulatorHandOff& simulator);
+
+/// Where the flight goes, for the pilot's eye.
+std::string situationPath(const Settings& settings, const std::string& stem);
 
 /// What the pilot is told once the flight stands: that it was sent, or that it was set as the default too.
 /// The first of the two is the failure to set it, if it failed.

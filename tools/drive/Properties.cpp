@@ -70,6 +70,11 @@ void timerValue(JsonWriter& json, const Control& control) {
     json.endObject();
 }
 
+void mark(JsonWriter& json, const Control& control) {
+    constexpr const char* kMarks[] = {"none", "current", "sorted"};
+    json.text(kMarks[static_cast<int>(static_cast<const Label&>(control).mark)]);
+}
+
 void nothing(JsonWriter& json, const Control&) {
     json.null();
 }
@@ -83,6 +88,7 @@ constexpr Property kLabel[] = {
     {"text", field<&Label::text>},
     {"color", field<&Label::color>},
     {"highlighted", field<&Label::highlighted>, false},
+    {"mark", mark, false},
 };
 constexpr Property kFrame[] = {{"text", field<&Frame::text>}};
 constexpr Property kTextBox[] = {{"text", field<&TextBox::text>}};

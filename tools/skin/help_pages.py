@@ -20,6 +20,7 @@ PAGES = (
     ('career.htm', 'Career', 'Your career'),
     ('settings.htm', 'Settings', 'Settings'),
     ('keyboard.htm', 'Keyboard', 'Keyboard'),
+    ('shortcuts.htm', 'Short cuts', 'Short cuts'),
 )
 
 

@@ -55,7 +55,8 @@ def check_places(name, screen):
             who = label_of(name, control, index)
             if x < 0 or y < 0 or right > room['w'] or foot > room['h']:
                 findings.append('%s leaves %s' % (who, control['in']))
-            if control['kind'] in LAYERS or 'highlight' in control:
+            # A line that shows only where others are empty lies over them.
+            if control['kind'] in LAYERS or 'highlight' in control or 'over' in control:
                 continue
             for other, group, x2, y2, right2, foot2 in boxes:
                 if group == control['in'] and x < right2 and x2 < right and y < foot2 and y2 < foot:

@@ -39,6 +39,7 @@ public:
         return proposal;
     }
     void notify(const std::string& text) override { notices.push_back(text); }
+    void open(const std::string& path) override { opened.push_back(path); }
     void copy(const std::string& text) override { clipboard = text; }
 
     int dotsPerInch = 96;
@@ -46,6 +47,7 @@ public:
     bool minimised = false;
     std::vector<std::string> helpPages;
     std::vector<std::string> notices;
+    std::vector<std::string> opened; // folders and files
     std::string clipboard;
 };
 
