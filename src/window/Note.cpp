@@ -63,13 +63,13 @@ QPoint freePlace(const ScreenWindow& window, QSize size) {
 
 Note::Note(const QString& text, ScreenWindow& window, const Skin& skin) : QLabel(text, &window) {
     setWordWrap(true);
-    setFont(skin.font("data"));
+    setFont(skin.widgetFont("data"));
     setTextFormat(Qt::PlainText);
-    setMargin(10);
+    setMargin(skin.zoom().edge(10));
     setStyleSheet(QString("background:%1;color:%2;border-radius:4px")
                       .arg(skin.style("tooltip.back").name(), skin.style("tooltip.text").name()));
     setAccessibleName(text);
-    setFixedWidth(std::min(window.width() - 2 * kEdge, kWidest));
+    setFixedWidth(std::min(window.width() - 2 * kEdge, skin.zoom().edge(kWidest)));
     adjustSize();
     move(freePlace(window, size()));
     show();

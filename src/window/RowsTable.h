@@ -18,6 +18,8 @@ public:
     /// Shows the form's rows, widths and picked row without telling the form. A list that is filled anew
     /// keeps its place when a row of it is picked, and begins at the top when none is.
     void sync();
+    /// Rows, heads and the bar at the zoom of now.
+    void takeSizes();
 
 protected:
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
@@ -39,6 +41,7 @@ private:
     void open(void (*event)(Control&));
     void pressSpace();
     [[nodiscard]] int picked() const;
+    [[nodiscard]] int rowPixels() const;
     /// Where a column's text stands in a row that begins at `top`.
     [[nodiscard]] QRectF cell(int column, int top) const;
     [[nodiscard]] TextStyle style(int row) const;

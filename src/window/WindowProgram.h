@@ -2,6 +2,7 @@
 
 #include "pages/Program.h"
 #include "window/Desk.h"
+#include "window/Display.h"
 #include "window/QtMachine.h"
 #include "window/Skin.h"
 
@@ -25,6 +26,7 @@ public:
         Printer* printer = nullptr; // null: the computer's own
         TimeSource* time = nullptr; // null: the computer's own
         QtLoop* loop = nullptr;     // null: the plain one
+        bool ownSize = false;       // true: size and colours are proposed, heeded and remembered
     };
 
     /// `appDir` is a text of the program.
@@ -53,6 +55,10 @@ public:
     Program program;
     Skin skin;
     Desk desk;
+    Display display;
+
+private:
+    const bool ownSize_;
 };
 
 } // namespace gatewise::window
