@@ -1,5 +1,5 @@
-// What a frame of the main window takes at each size, on a desk of 3840 x 2160 without a display. A whole frame paints
-// every view anew; a frame must be ready within 16 ms.
+// What a frame of the main window takes at each size, on a desk of 3840 x 2160 without a display. A whole
+// frame paints every view anew; a frame must be ready within 16 ms.
 
 #include "tour/Stage.h"
 
@@ -13,8 +13,9 @@ namespace {
 
 void useLargeDesk(const std::string& folder) {
     const std::string file = folder + "/desk.json";
-    std::ofstream(file) << R"({"windowFrameMargins":false,"screens":[{"name":"desk","x":0,"y":0,"width":3840,)"
-                           R"("height":2160,"logicalDpi":96,"dpr":1}]})";
+    std::ofstream(file)
+        << R"({"windowFrameMargins":false,"screens":[{"name":"desk","x":0,"y":0,"width":3840,)"
+           R"("height":2160,"logicalDpi":96,"dpr":1}]})";
     qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString("offscreen:configfile=" + file));
 }
 
@@ -37,7 +38,8 @@ void boardTurn(benchmark::State& state) {
     stage.desk().mainWindow().repaint();
     for (auto _ : state) {
         for (int i = 0; i < 20; ++i) {
-            for (const gatewise::Label* label : {&main.fltnum_LABEL(i), &main.city_LABEL(i), &main.time_LABEL(i)})
+            for (const gatewise::Label* label :
+                 {&main.fltnum_LABEL(i), &main.city_LABEL(i), &main.time_LABEL(i)})
                 stage.widget(*label).repaint();
         }
     }

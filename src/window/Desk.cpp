@@ -75,7 +75,9 @@ void Desk::setZoom(double factor) {
     const double before = skin_.zoom().factor;
     if (factor == before) return;
     auto& main = forms_.MainForm;
-    const auto moved = [&](double at, int size) { return (at + size / 2.0) * before / factor - size / 2.0 - at; };
+    const auto moved = [&](double at, int size) {
+        return (at + size / 2.0) * before / factor - size / 2.0 - at;
+    };
     const double right = moved(main.left, main.designWidth);
     const double down = moved(main.top, main.designHeight);
     skin_.setZoom(factor);

@@ -21,9 +21,10 @@ inline constexpr std::array kZoomPercent = {0, 75, 100, 125, 150, 175, 200, 225,
 
 enum class SkinChoice { AsComputer, Night, HighContrast };
 
-/// The size that is proposed where nothing was chosen: the main window takes about 70 % of the screen's height,
-/// more where the desk wants larger texts, and never more than there is. One of the sizes in percent.
-/// `height` is the screen's, `fit` the largest factor at which the window fits, `text` the desk's scale of texts.
+/// The size that is proposed where nothing was chosen: the main window takes about 70 % of the screen's
+/// height, more where the desk wants larger texts, and never more than there is. One of the sizes in percent.
+/// `height` is the screen's, `fit` the largest factor at which the window fits, `text` the desk's scale of
+/// texts.
 int proposedPercent(double height, double fit, double text);
 
 /// How the windows look: size, colours, signs that stay lit instead of blinking. Chosen in the menu of the

@@ -40,7 +40,8 @@ void drawPicture(QPainter& painter, const QRectF& box, const QPixmap& picture);
 void drawBox(QPainter& painter, const QRectF& box, const QColor& fill, const QColor& edge, double radius);
 
 /// A dark box with a light line below.
-void drawWell(QPainter& painter, const QRectF& box, const QColor& fill, const QColor& edge, const QColor& rim);
+void drawWell(QPainter& painter, const QRectF& box, const QColor& fill, const QColor& edge,
+              const QColor& rim);
 
 /// A light box to type or choose in.
 void drawField(QPainter& painter, const QRectF& box, const QColor& fill, const QColor& edge);

@@ -163,7 +163,8 @@ void NotesView::paintEvent(QPaintEvent* event) {
         QPainter painter(viewport());
         painter.translate(-viewport()->pos());
         painter.scale(scale().factor, scale().factor);
-        drawField(painter, QRectF(QPointF(0, 0), span()), skin.style(isEnabled() ? "textbox.back" : "textbox.disabledBack"),
+        drawField(painter, QRectF(QPointF(0, 0), span()),
+                  skin.style(isEnabled() ? "textbox.back" : "textbox.disabledBack"),
                   skin.style("textbox.border"));
     }
     QPlainTextEdit::paintEvent(event);

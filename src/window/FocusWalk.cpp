@@ -75,10 +75,9 @@ bool FocusWalk::step(View* from, bool forward) {
 void FocusWalk::first() {
     const std::vector<View*> all = stops();
     if (all.empty()) return;
-    const auto at =
-        std::find_if(all.begin(), all.end(), [](const View* v) {
-            return v->control == nullptr || !begins(*v->control, "close");
-        });
+    const auto at = std::find_if(all.begin(), all.end(), [](const View* v) {
+        return v->control == nullptr || !begins(*v->control, "close");
+    });
     goTo(at == all.end() ? *all.front() : **at);
 }
 

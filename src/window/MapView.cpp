@@ -52,7 +52,8 @@ void MapView::sync() {
 }
 
 QRectF MapView::sheet() const {
-    const QSizeF inside(std::max(1, place.box.width() - 2 * kEdge), std::max(1, place.box.height() - 2 * kEdge));
+    const QSizeF inside(std::max(1, place.box.width() - 2 * kEdge),
+                        std::max(1, place.box.height() - 2 * kEdge));
     return {QPointF(kEdge, kEdge), inside};
 }
 

@@ -73,7 +73,8 @@ void RowsHead::paintSection(QPainter* painter, const QRect& box, int section) co
              model()->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString(), style);
     painter->restore();
     const int gap = actor_.skin().zoom().edge(3);
-    painter->fillRect(box.right(), box.top() + gap, 1, box.height() - 2 * gap, actor_.skin().style("list.rim"));
+    painter->fillRect(box.right(), box.top() + gap, 1, box.height() - 2 * gap,
+                      actor_.skin().style("list.rim"));
 }
 
 } // namespace gatewise::window

@@ -264,7 +264,8 @@ void RowsTable::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
     const bool marked = selectionModel()->isRowSelected(index.row());
     if (marked) {
         painter->fillRect(line, skin.style("list.selected"));
-        painter->fillRect(QRect(0, line.y(), skin.zoom().edge(3), rowPixels()), skin.style("list.selectedBar"));
+        painter->fillRect(QRect(0, line.y(), skin.zoom().edge(3), rowPixels()),
+                          skin.style("list.selectedBar"));
     }
     TextStyle style = this->style(index.row());
     style.color = !isEnabled() ? skin.style("list.disabledText")

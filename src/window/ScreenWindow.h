@@ -57,7 +57,7 @@ private:
     View* focused_ = nullptr;
     FocusRing* ring_;
     const QSize size_; // in pixels of the layout
-    QPoint grip_; // of the mouse in the title strip that it holds
+    QPoint grip_;      // of the mouse in the title strip that it holds
     bool gripped_ = false;
 };
 

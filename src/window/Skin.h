@@ -59,8 +59,8 @@ private:
     Zoom zoom_;
     mutable QHash<QString, QPixmap> pictures_;
     mutable QHash<QString, QPixmap> sized_; // by tail and size, at the zoom of now
-    std::vector<QByteArray> typefaces_; // contents of font files
-    QHash<QString, QString> families_;  // names that shipped families have in place of their own
+    std::vector<QByteArray> typefaces_;     // contents of font files
+    QHash<QString, QString> families_;      // names that shipped families have in place of their own
     mutable std::map<std::string, TextStyle> styles_;
 };
 

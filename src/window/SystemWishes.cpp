@@ -26,11 +26,12 @@ void askWishes(QObject*, std::function<void(const Wishes&)> tell) {
     if (SystemParametersInfoW(SPI_GETHIGHCONTRAST, sizeof contrast, &contrast, 0) != 0)
         wishes.highContrast = (contrast.dwFlags & HCF_HIGHCONTRASTON) != 0;
     BOOL moving = TRUE;
-    if (SystemParametersInfoW(SPI_GETCLIENTAREAANIMATION, 0, &moving, 0) != 0) wishes.stillSigns = moving == FALSE;
+    if (SystemParametersInfoW(SPI_GETCLIENTAREAANIMATION, 0, &moving, 0) != 0)
+        wishes.stillSigns = moving == FALSE;
     DWORD percent = 100;
     DWORD size = sizeof percent;
-    if (RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Accessibility", L"TextScaleFactor", RRF_RT_REG_DWORD,
-                     nullptr, &percent, &size) == ERROR_SUCCESS &&
+    if (RegGetValueW(HKEY_CURRENT_USER, L"Software\\Microsoft\\Accessibility", L"TextScaleFactor",
+                     RRF_RT_REG_DWORD, nullptr, &percent, &size) == ERROR_SUCCESS &&
         percent >= 100 && percent <= 225)
         wishes.textScale = percent / 100.0;
     tell(wishes);
@@ -72,9 +73,9 @@ void askWishes(QObject* owner, std::function<void(const Wishes&)> tell) {
     if (!qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS")) return;
     const auto wishes = std::make_shared<Wishes>();
     for (const Setting& setting : kSettings) {
-        QDBusMessage question = QDBusMessage::createMethodCall(
-            "org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop", "org.freedesktop.portal.Settings",
-            "Read");
+        QDBusMessage question = QDBusMessage::createMethodCall("org.freedesktop.portal.Desktop",
+                                                               "/org/freedesktop/portal/desktop",
+                                                               "org.freedesktop.portal.Settings", "Read");
         question << QString(setting.group) << QString(setting.key);
         auto* answer = new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(question), owner);
         QObject::connect(answer, &QDBusPendingCallWatcher::finished, owner,

@@ -26,15 +26,13 @@ double linear(double part) {
 
 /// Contrast to black, 1 to 21.
 double contrast(const QColor& color) {
-    const double light = 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-                         0.0722 * linear(color.blueF());
+    const double light =
+        0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
     return (light + 0.05) / 0.05;
 }
 
 QColor mixed(const QColor& color, const QColor& other, double share) {
-    const auto part = [share](float a, float b) {
-        return static_cast<float>(a * (1 - share) + b * share);
-    };
+    const auto part = [share](float a, float b) { return static_cast<float>(a * (1 - share) + b * share); };
     return QColor::fromRgbF(part(color.redF(), other.redF()), part(color.greenF(), other.greenF()),
                             part(color.blueF(), other.blueF()), color.alphaF());
 }
@@ -60,7 +58,8 @@ QColor inkOf(const QColor& color) {
     if (!strong || !color.isValid()) return color;
     if (std::max({color.redF(), color.greenF(), color.blueF()}) < kInk) return Qt::black;
     QColor ink = color;
-    for (double share = 0.1; contrast(ink) < kLeast && share <= 1; share += 0.1) ink = mixed(color, Qt::white, share);
+    for (double share = 0.1; contrast(ink) < kLeast && share <= 1; share += 0.1)
+        ink = mixed(color, Qt::white, share);
     return ink;
 }
 
@@ -78,7 +77,9 @@ void setTones(QImage& picture) {
         for (int x = 0; x < picture.width(); ++x) {
             const QRgb c = line[x];
             const double f = factors[static_cast<std::size_t>(std::max({qRed(c), qGreen(c), qBlue(c)}))];
-            const auto part = [f](int value) { return std::min(255, static_cast<int>(std::lround(value * f))); };
+            const auto part = [f](int value) {
+                return std::min(255, static_cast<int>(std::lround(value * f)));
+            };
             line[x] = qRgb(part(qRed(c)), part(qGreen(c)), part(qBlue(c)));
         }
     }

@@ -3,8 +3,8 @@
 #include <QColor>
 #include <QImage>
 
-// The second skin: the same layout and pictures with the darkest made black, the lightest white, and every text
-// in a colour that stands out from both.
+// The second skin: the same layout and pictures with the darkest made black, the lightest white, and every
+// text in a colour that stands out from both.
 
 namespace gatewise::window {
 

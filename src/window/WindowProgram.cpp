@@ -33,8 +33,8 @@ WindowProgram::WindowProgram(const Services& s, const std::string& appDir)
           s.clock,    s.locale,    desktop,
           s.registry, s.processes, s.printer != nullptr ? *s.printer : static_cast<Printer&>(ownPrinter_),
           s.random,   loop_,       s.sound},
-      program(machine_, appDir), skin(appDir), desk(program.forms, skin),
-      display(program.forms, desk), ownSize_(s.ownSize) {
+      program(machine_, appDir), skin(appDir), desk(program.forms, skin), display(program.forms, desk),
+      ownSize_(s.ownSize) {
     dressApplication(skin);
     desktop.attach(&desk);
     loop_.attach(&desk);

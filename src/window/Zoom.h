@@ -7,8 +7,8 @@
 
 namespace gatewise::window {
 
-/// How many pixels of the desk a pixel of the layout takes, for all windows alike. Edges are rounded where they
-/// lie in the window, so that neighbours neither part nor overlap.
+/// How many pixels of the desk a pixel of the layout takes, for all windows alike. Edges are rounded where
+/// they lie in the window, so that neighbours neither part nor overlap.
 struct Zoom {
     double factor = 1;
 

@@ -33,8 +33,8 @@ protected:
 
     void turnWheel(int notches, Qt::KeyboardModifiers modifiers) {
         QWidget& on = stage().widget(main().BG);
-        QWheelEvent event({5, 5}, on.mapToGlobal(QPointF(5, 5)), {}, {0, 120 * notches}, Qt::NoButton, modifiers,
-                          Qt::NoScrollPhase, false);
+        QWheelEvent event({5, 5}, on.mapToGlobal(QPointF(5, 5)), {}, {0, 120 * notches}, Qt::NoButton,
+                          modifiers, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(&on, &event);
     }
 };
@@ -50,7 +50,7 @@ TEST_F(Zooms, TheProposalTakesSeventyPercentOfTheHeight) {
     EXPECT_EQ(window::proposedPercent(1440, 2.4, 1), 175);
     EXPECT_EQ(window::proposedPercent(2160, 3, 1), 250);
     EXPECT_EQ(window::proposedPercent(768, 1.28, 1), 100);
-    EXPECT_EQ(window::proposedPercent(512, 0.85, 1), 75); // 1024 x 768 with a factor of 1.5
+    EXPECT_EQ(window::proposedPercent(512, 0.85, 1), 75);    // 1024 x 768 with a factor of 1.5
     EXPECT_EQ(window::proposedPercent(768, 1.28, 1.5), 125); // larger texts, as far as there is room
     EXPECT_EQ(window::proposedPercent(4320, 3, 1), 300);
 }
@@ -68,7 +68,8 @@ TEST_F(Zooms, AllWindowsAndTheirControlsScaleTogether) {
         display().choosePercent(150);
         for (Screen* screen : forms().all()) {
             window::ScreenWindow& window = stage().desk().window(*screen);
-            EXPECT_EQ(window.size(), QSize(screen->designWidth * 3 / 2, screen->designHeight * 3 / 2)) << screen->name;
+            EXPECT_EQ(window.size(), QSize(screen->designWidth * 3 / 2, screen->designHeight * 3 / 2))
+                << screen->name;
             for (View* view : window.views()) {
                 const QRectF wanted(QPointF(view->boxInWindow().marginsAdded(view->beyond()).topLeft()) * 1.5,
                                     QSizeF(view->boxInWindow().marginsAdded(view->beyond()).size()) * 1.5);
@@ -92,7 +93,8 @@ TEST_F(Zooms, PicturesHaveTheSizeOfTheirKeysToThePixel) {
                 if (view->control == nullptr || skinnedButton(view->control) == nullptr) continue;
                 const auto tail = static_cast<window::ButtonView*>(view)->paintedTail();
                 const QPixmap picture = stage().desk().skin().picture(tail, *view->widget());
-                EXPECT_EQ(picture.deviceIndependentSize().toSize(), view->widget()->size()) << tail << percent;
+                EXPECT_EQ(picture.deviceIndependentSize().toSize(), view->widget()->size())
+                    << tail << percent;
             }
         }
     });
@@ -169,7 +171,8 @@ TEST_F(Zooms, TheMenuOfTheSettingsChooses) {
         QMenu* menu = display().makeMenu(&owner);
         const auto pick = [&](const QString& text) {
             const auto all = menu->actions();
-            const auto at = std::find_if(all.begin(), all.end(), [&](QAction* a) { return a->text() == text; });
+            const auto at =
+                std::find_if(all.begin(), all.end(), [&](QAction* a) { return a->text() == text; });
             ASSERT_NE(at, all.end()) << text.toStdString();
             (*at)->trigger();
         };
@@ -180,7 +183,8 @@ TEST_F(Zooms, TheMenuOfTheSettingsChooses) {
         pick("Colours of the terminal at night");
         EXPECT_FALSE(window::highContrast());
         const auto all = menu->actions();
-        const auto large = std::find_if(all.begin(), all.end(), [](QAction* a) { return a->text() == "300 %"; });
+        const auto large =
+            std::find_if(all.begin(), all.end(), [](QAction* a) { return a->text() == "300 %"; });
         EXPECT_FALSE((*large)->isEnabled()) << "there is no room for it";
     });
     play();
@@ -236,10 +240,14 @@ TEST_F(Zooms, ColumnsThatAreDraggedKeepTheLayoutsPixels) {
 TEST_F(Zooms, HighContrastIsBlackAndWhereItIsWrittenOnStandsOut) {
     then([&] {
         display().chooseSkin(SkinChoice::HighContrast);
-        const QImage ground =
-            stage().desk().skin().picture("\\Images\\Board_BG.bmp", stage().widget(main().status_pic)).toImage();
+        const QImage ground = stage()
+                                  .desk()
+                                  .skin()
+                                  .picture("\\Images\\Board_BG.bmp", stage().widget(main().status_pic))
+                                  .toImage();
         EXPECT_EQ(ground.pixelColor(300, 90), QColor(Qt::black)) << "a flap of the board";
-        for (const QColor& ink : {QColor(0xA6, 0xB6, 0xC4), QColor(0, 111, 0), QColor(0, 128, 128), QColor(255, 0, 0)}) {
+        for (const QColor& ink :
+             {QColor(0xA6, 0xB6, 0xC4), QColor(0, 111, 0), QColor(0, 128, 128), QColor(255, 0, 0)}) {
             const QColor shown = window::inkOf(ink);
             EXPECT_GE(shown.lightnessF(), ink.lightnessF()) << ink.name().toStdString();
             EXPECT_GT(qGray(shown.rgb()), 105) << ink.name().toStdString();

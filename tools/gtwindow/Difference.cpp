@@ -242,7 +242,8 @@ Words list(const Look& look) {
     if (auto words = unequal("enabled", table->isEnabled(), look.control.enabled)) return words;
     if (view) {
         if (auto words = columns(static_cast<const ListView&>(look.control), *table->header(),
-                                 look.desk.skin().zoom())) return words;
+                                 look.desk.skin().zoom()))
+            return words;
     }
     return paintedRows(look, *table, rows);
 }
