@@ -64,7 +64,8 @@ QStringList ComboAccess::actionNames() const {
 
 void ComboAccess::doAction(const QString& name) {
     if ((name != showMenuAction() && name != pressAction()) || !view_.takesFocus()) return;
-    QMetaObject::invokeMethod(&box_, [this] { box_.showPopup(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &box_, [this] { box_.showPopup(); }, Qt::QueuedConnection);
 }
 
 // ------------------------------------------------------------------------------------------------ range

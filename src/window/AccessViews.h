@@ -58,6 +58,6 @@ private:
 
 /// Who names a view, and whom it names, as the toolkit tells it.
 QList<QPair<QAccessibleInterface*, QAccessible::Relation>> relationsOf(const View& view,
-                                                                        QAccessible::Relation match);
+                                                                       QAccessible::Relation match);
 
 } // namespace gatewise::window

@@ -45,8 +45,8 @@ QAccessibleInterface* makeView(View& view) {
     if (auto* box = qobject_cast<QComboBox*>(widget)) return new ComboAccess(box, view);
     if (auto* line = qobject_cast<QLineEdit*>(widget)) return new LineAccess(line, view);
     if (auto* slider = qobject_cast<QSlider*>(widget)) return new RangeAccess(slider, view);
-    const bool ours = dynamic_cast<PaintedView*>(widget) != nullptr ||
-                      dynamic_cast<PushButtonView*>(widget) != nullptr;
+    const bool ours =
+        dynamic_cast<PaintedView*>(widget) != nullptr || dynamic_cast<PushButtonView*>(widget) != nullptr;
     return ours ? new ViewAccess(widget, view) : nullptr; // the toolkit describes the rest well
 }
 

@@ -5,6 +5,7 @@
 #include "window/LabelText.h"
 #include "window/QtText.h"
 #include "window/Skin.h"
+#include "window/Tone.h"
 
 #include <QKeyEvent>
 
@@ -27,7 +28,7 @@ const char* folderOf(Kind kind) {
 
 } // namespace
 
-void drawKey(QPainter& painter, const QRect& box, const QString& caption, const Skin& skin, bool lit,
+void drawKey(QPainter& painter, const QRectF& box, const QString& caption, const Skin& skin, bool lit,
              bool usable) {
     const QColor face = lit ? QColor(0x24, 0x44, 0x4D) : QColor(0x28, 0x30, 0x39);
     const QColor rim = lit ? QColor(0x00, 0xB4, 0xBE) : QColor(0x3E, 0x4A, 0x55);
@@ -130,13 +131,15 @@ void ButtonView::keyPressEvent(QKeyEvent* event) {
 }
 
 void ButtonView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const QPixmap picture = actor_.skin().picture(paintedTail(), devicePixelRatioF());
+    ViewPainter painter(*this, scale());
+    const QPixmap picture = actor_.skin().picture(paintedTail(), *this);
     if (picture.isNull()) {
-        drawKey(painter, rect(), spokenName(), actor_.skin(), shown_.ends_with("_mouse"), usable());
+        drawKey(painter, painter.whole(), spokenName(), actor_.skin(), shown_.ends_with("_mouse"), usable());
         return;
     }
-    drawPicture(painter, rect(), picture);
+    drawPicture(painter, painter.whole(), picture);
+    // The black face on black shows where it ends.
+    if (highContrast()) drawBox(painter, painter.whole(), QColor(), kSocket, 4);
 }
 
 PushButtonView::PushButtonView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent)
@@ -175,8 +178,8 @@ void PushButtonView::keyPressEvent(QKeyEvent* event) {
 }
 
 void PushButtonView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    drawKey(painter, rect(), text(), actor_.skin(), underMouse() || isDown(), isEnabled());
+    ViewPainter painter(*this, scale());
+    drawKey(painter, painter.whole(), text(), actor_.skin(), underMouse() || isDown(), isEnabled());
 }
 
 } // namespace gatewise::window

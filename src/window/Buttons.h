@@ -60,7 +60,7 @@ protected:
 };
 
 /// A key without a picture.
-void drawKey(QPainter& painter, const QRect& box, const QString& caption, const Skin& skin, bool lit,
+void drawKey(QPainter& painter, const QRectF& box, const QString& caption, const Skin& skin, bool lit,
              bool usable);
 
 } // namespace gatewise::window

@@ -250,8 +250,8 @@ void ChartView::sync() {
 }
 
 void ChartView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    drawWell(painter, rect().adjusted(0, 0, 0, -1), QColor(0x05, 0x07, 0x09), kSocket,
+    ViewPainter painter(*this, scale());
+    drawWell(painter, painter.whole().adjusted(0, 0, 0, -1), QColor(0x05, 0x07, 0x09), kSocket,
              QColor(0x39, 0x43, 0x4D));
     drawDrawing(painter, sheet(), shown_, actor_.skin().text("caption").font);
 }

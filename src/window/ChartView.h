@@ -22,7 +22,9 @@ public:
 protected:
     void paintEvent(QPaintEvent* event) override;
     [[nodiscard]] const Drawing& painted() const override { return shown_; }
-    [[nodiscard]] QRectF sheet() const override { return QRectF(rect()).adjusted(2, 2, -2, -3); }
+    [[nodiscard]] QRectF sheet() const override {
+        return QRectF(QPointF(0, 0), place.box.size()).adjusted(2, 2, -2, -3);
+    }
 
 private:
     Drawing shown_;

@@ -59,9 +59,10 @@ QString CheckView::spokenName() const {
 }
 
 void CheckView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ViewPainter painter(*this, scale());
+    const double height = painter.whole().height();
     const Skin& skin = actor_.skin();
-    const QRectF box(0, (height() - kBox) / 2, kBox, kBox);
+    const QRectF box(0, std::floor((height - kBox) / 2), kBox, kBox);
     const bool lit = underMouse() && isEnabled();
     drawBox(painter, box, skin.style("check.back"),
             lit           ? skin.style("check.hoverBorder")
@@ -107,10 +108,11 @@ QString OptionView::spokenName() const {
 }
 
 void OptionView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ViewPainter painter(*this, scale());
+    const double height = painter.whole().height();
     const Skin& skin = actor_.skin();
     painter.setRenderHint(QPainter::Antialiasing);
-    const QPointF middle(kBox / 2.0, height() / 2.0);
+    const QPointF middle(kBox / 2.0, height / 2);
     painter.setPen(QPen(skin.style(underMouse() && isEnabled() ? "option.hoverBorder" : "option.border"), 1));
     painter.setBrush(skin.style("option.back"));
     painter.drawEllipse(middle, 6.5, 6.5);
@@ -148,7 +150,7 @@ void SliderView::sync() {
 }
 
 void SliderView::moveTo(double x) {
-    const double share = (x - 8) / std::max(1, width() - 16);
+    const double share = (x / scale().factor - 8) / std::max(1.0, span().width() - 16);
     setValue(static_cast<int>(std::lround(minimum() + share * (maximum() - minimum()))));
 }
 
@@ -162,11 +164,11 @@ void SliderView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void SliderView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ViewPainter painter(*this, scale());
     const Skin& skin = actor_.skin();
     const double share = static_cast<double>(value() - minimum()) / std::max(1, maximum() - minimum());
     const double left = 8;
-    const double length = width() - 16;
+    const double length = painter.whole().width() - 16;
     const double middle = 14;
     drawBox(painter, {left - 4, middle - 3, length + 8, 6}, skin.style("slider.groove"), QColor(), 3);
     drawBox(painter, {left - 4, middle - 1.5, length * share + 4, 3}, skin.style("slider.fill"), QColor(),
@@ -237,20 +239,22 @@ void UpDownView::changeEvent(QEvent* event) {
 }
 
 void UpDownView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ViewPainter painter(*this, scale());
+    const double width = painter.whole().width();
+    const double height = painter.whole().height();
     const Skin& skin = actor_.skin();
-    const double half = height() / 2.0;
-    const double mouse = underMouse() ? mapFromGlobal(QCursor::pos()).y() : -1;
+    const double half = height / 2;
+    const double mouse = underMouse() ? inLayout(mapFromGlobal(QCursor::pos())).y() : -1;
     const QColor face = skin.style("updown.face");
     const QColor hover = skin.style("updown.hover");
-    drawBox(painter, {0, 0, width() * 1.0, half}, mouse >= 0 && mouse < half ? hover : face, kSocket, 2);
-    drawBox(painter, {0, half, width() * 1.0, half}, mouse >= half ? hover : face, kSocket, 2);
+    drawBox(painter, {0, 0, width, half}, mouse >= 0 && mouse < half ? hover : face, kSocket, 2);
+    drawBox(painter, {0, half, width, half}, mouse >= half ? hover : face, kSocket, 2);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(skin.style("updown.arrow"));
-    const double x = width() / 2.0;
+    const double x = width / 2;
     const QPointF up[] = {{x - 3.5, 8}, {x, 4}, {x + 3.5, 8}};
-    const QPointF down[] = {{x - 3.5, height() - 8.0}, {x, height() - 4.0}, {x + 3.5, height() - 8.0}};
+    const QPointF down[] = {{x - 3.5, height - 8}, {x, height - 4}, {x + 3.5, height - 8}};
     painter.drawPolygon(up, 3);
     painter.drawPolygon(down, 3);
 }

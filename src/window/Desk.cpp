@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -25,7 +26,7 @@ bool isNotice(const Forms& forms, const Screen& screen) {
 
 } // namespace
 
-Desk::Desk(Forms& forms, const Skin& skin) : forms_(forms), skin_(skin) {
+Desk::Desk(Forms& forms, Skin& skin) : forms_(forms), skin_(skin) {
     installAccessibility();
     static const ScreenLayout none;
     for (Screen* screen : forms_.all()) {
@@ -68,7 +69,41 @@ void Desk::sync() {
         syncOnce();
     } while (again_ && ++rounds < kMostRounds);
     syncing_ = false;
+    if (afterSync) afterSync();
     if (QAccessible::isActive()) announce(mainWindow(), speech_.look(forms_.MainForm));
+}
+
+void Desk::setZoom(double factor) {
+    const double before = skin_.zoom().factor;
+    if (factor == before) return;
+    auto& main = forms_.MainForm;
+    const auto moved = [&](double at, int size) {
+        return (at + size / 2.0) * before / factor - size / 2.0 - at;
+    };
+    const double right = moved(main.left, main.designWidth);
+    const double down = moved(main.top, main.designHeight);
+    skin_.setZoom(factor);
+    QToolTip::setFont(skin_.widgetFont("body"));
+    for (const auto& [screen, window] : windows_) {
+        auto* form = const_cast<Screen*>(screen);
+        form->left += right;
+        form->top += down;
+        window->takeSizes();
+    }
+    delete note_; // it has the old size
+    sync();
+}
+
+void Desk::setSteady(bool steady) {
+    if (skin_.steady == steady) return;
+    skin_.steady = steady;
+    sync();
+}
+
+void Desk::repaintAll() {
+    skin_.forgetPictures();
+    for (const auto& [screen, window] : windows_) window->takeSizes();
+    sync();
 }
 
 void Desk::syncOnce() {

@@ -18,7 +18,7 @@ namespace gatewise::window {
 class Desk : public QObject, public Actor {
     Q_OBJECT
 public:
-    Desk(Forms& forms, const Skin& skin);
+    Desk(Forms& forms, Skin& skin);
     ~Desk() override;
 
     void act(const std::function<void()>& what) override;
@@ -26,6 +26,15 @@ public:
 
     /// Brings the forms onto the screen.
     void sync();
+    /// What looks at the forms after each of these.
+    std::function<void()> afterSync;
+
+    /// Sizes all windows alike; the main one keeps its middle, the others their place above it.
+    void setZoom(double factor);
+    /// Whether what blinks stays lit.
+    void setSteady(bool steady);
+    /// After a change of all colours.
+    void repaintAll();
     /// Paints at once what differs; the mouse, the keyboard and the timers wait.
     void paint();
     [[nodiscard]] bool painting() const { return painting_; }
@@ -49,7 +58,7 @@ private:
     void turnTo(ScreenWindow& window);
     [[nodiscard]] QWidget* ownerOf(const Screen& screen) const;
     Forms& forms_;
-    const Skin& skin_;
+    Skin& skin_;
     std::map<const Screen*, std::unique_ptr<ScreenWindow>> windows_;
     HeldKeys heldKeys_;
     BoardSpeech speech_;

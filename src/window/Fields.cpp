@@ -35,6 +35,8 @@ QPalette fieldPalette(const Skin& skin, const QPalette& base) {
     return palette;
 }
 
+constexpr int kItemHeight = 20; // of an open list, and what is free before its text
+constexpr int kItemLeft = 5;
 constexpr int kArrowField = 22; // of a combo box, at its right end
 
 } // namespace
@@ -43,10 +45,8 @@ LineView::LineView(Actor& actor, Control* control, const ControlLayout& place, Q
     : QLineEdit(parent), View(actor, control, place) {
     const Skin& skin = actor.skin();
     setFrame(false);
-    setFont(skin.font(place.font));
     setPalette(fieldPalette(skin, palette()));
     setAlignment(place.align | Qt::AlignVCenter);
-    setTextMargins(4, 0, 4, 0);
     setContextMenuPolicy(Qt::NoContextMenu);
     setFocusPolicy(box().readOnly ? Qt::NoFocus : Qt::StrongFocus);
     connect(this, &QLineEdit::textEdited, this,
@@ -79,6 +79,12 @@ void LineView::sync() {
     }
 }
 
+void LineView::takePlace() {
+    View::takePlace();
+    setFont(actor_.skin().widgetFont(place.font));
+    setTextMargins(scale().edge(4), 0, scale().edge(4), 0);
+}
+
 void LineView::focusInEvent(QFocusEvent* event) {
     byMouse_ = event->reason() == Qt::MouseFocusReason;
     QLineEdit::focusInEvent(event);
@@ -102,8 +108,8 @@ void LineView::keyPressEvent(QKeyEvent* event) {
 void LineView::paintEvent(QPaintEvent* event) {
     const Skin& skin = actor_.skin();
     {
-        QPainter painter(this);
-        drawField(painter, rect(), skin.style(isEnabled() ? "textbox.back" : "textbox.disabledBack"),
+        ViewPainter painter(*this, scale());
+        drawField(painter, painter.whole(), skin.style(isEnabled() ? "textbox.back" : "textbox.disabledBack"),
                   skin.style("textbox.border"));
     }
     QLineEdit::paintEvent(event);
@@ -113,12 +119,10 @@ NotesView::NotesView(Actor& actor, Control* control, const ControlLayout& place,
     : QPlainTextEdit(parent), View(actor, control, place) {
     const Skin& skin = actor.skin();
     setFrameShape(QFrame::NoFrame);
-    setFont(skin.font(place.font));
     setPalette(fieldPalette(skin, palette()));
     viewport()->setAutoFillBackground(false);
     setTabChangesFocus(true);
     setContextMenuPolicy(Qt::NoContextMenu);
-    document()->setDocumentMargin(5);
     connect(this, &QPlainTextEdit::textChanged, this, [this] { typed(); });
 }
 
@@ -147,12 +151,20 @@ void NotesView::sync() {
     syncing_ = false;
 }
 
+void NotesView::takePlace() {
+    View::takePlace();
+    setFont(actor_.skin().widgetFont(place.font));
+    document()->setDocumentMargin(5 * scale().factor);
+}
+
 void NotesView::paintEvent(QPaintEvent* event) {
     const Skin& skin = actor_.skin();
     {
         QPainter painter(viewport());
         painter.translate(-viewport()->pos());
-        drawField(painter, rect(), skin.style(isEnabled() ? "textbox.back" : "textbox.disabledBack"),
+        painter.scale(scale().factor, scale().factor);
+        drawField(painter, QRectF(QPointF(0, 0), span()),
+                  skin.style(isEnabled() ? "textbox.back" : "textbox.disabledBack"),
                   skin.style("textbox.border"));
     }
     QPlainTextEdit::paintEvent(event);
@@ -160,25 +172,31 @@ void NotesView::paintEvent(QPaintEvent* event) {
 
 ComboView::ComboView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent)
     : QComboBox(parent), View(actor, control, place) {
-    const Skin& skin = actor.skin();
-    setFont(skin.font(place.font));
     setView(new QListView(this));
     setMaxVisibleItems(12);
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setMinimumContentsLength(1);
     view()->setTextElideMode(Qt::ElideRight);
-    view()->setStyleSheet(QString("QListView{background:%1;color:%2;border:1px solid %3;outline:0}"
-                                  "QListView::item{height:20px;padding-left:5px;border:0}"
-                                  "QListView::item:selected{background:%4;color:%5}")
-                              .arg(skin.style("combo.popupBack").name(), skin.style("combo.text").name(),
-                                   skin.style("combo.border").name(), skin.style("combo.popupSelect").name(),
-                                   skin.style("combo.popupSelectText").name()));
     connect(this, &QComboBox::activated, this, [this](int at) { actor_.act([&] { pick(at); }); });
 }
 
 std::span<const Event> ComboView::emits() const {
     static constexpr Event kEvents[] = {Event::Click, Event::Focus, Event::Change};
     return std::span(kEvents).first(control->kind == Kind::DriveList ? 3 : 2);
+}
+
+void ComboView::takePlace() {
+    View::takePlace();
+    const Skin& skin = actor_.skin();
+    setFont(skin.widgetFont(place.font));
+    view()->setStyleSheet(QString("QListView{background:%1;color:%2;border:1px solid %3;outline:0}"
+                                  "QListView::item{height:%6px;padding-left:%7px;border:0}"
+                                  "QListView::item:selected{background:%4;color:%5}")
+                              .arg(skin.style("combo.popupBack").name(), skin.style("combo.text").name(),
+                                   skin.style("combo.border").name(), skin.style("combo.popupSelect").name(),
+                                   skin.style("combo.popupSelectText").name())
+                              .arg(scale().edge(kItemHeight))
+                              .arg(scale().edge(kItemLeft)));
 }
 
 void ComboView::pick(int at) {
@@ -204,24 +222,26 @@ void ComboView::sync() {
 }
 
 void ComboView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ViewPainter painter(*this, scale());
+    const double width = painter.whole().width();
+    const double height = painter.whole().height();
     const Skin& skin = actor_.skin();
     QColor back = skin.style("combo.back");
     if (control->kind == Kind::Combo) back = toQt(static_cast<const Combo&>(*control).back);
     if (!isEnabled()) back = skin.style("combo.disabledBack");
-    drawField(painter, rect(), back, skin.style("combo.border"));
-    const QRect arrow(width() - kArrowField, 1, kArrowField - 1, height() - 2);
+    drawField(painter, painter.whole(), back, skin.style("combo.border"));
+    const QRectF arrow(width - kArrowField, 1, kArrowField - 1, height - 2);
     drawBox(painter, arrow, isEnabled() ? skin.style("combo.arrowField") : back, QColor(), 1);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(skin.style("combo.arrow"), 2));
-    const double x = width() - 16;
-    const double y = height() / 2.0 - 2;
+    const double x = width - 16;
+    const double y = height / 2 - 2;
     const QPointF tip[] = {{x, y}, {x + 4.5, y + 5}, {x + 9, y}};
     painter.drawPolyline(tip, 3);
     TextStyle style = skin.text(place.font);
     style.color = skin.style(isEnabled() ? "combo.text" : "combo.disabledText");
     style.ellipsis = control->kind == Kind::DriveList ? Ellipsis::Left : Ellipsis::Right;
-    drawText(painter, QRectF(8, 0, width() - 8 - kArrowField - 4, height()), currentText(), style);
+    drawText(painter, QRectF(8, 0, width - 8 - kArrowField - 4, height), currentText(), style);
 }
 
 } // namespace gatewise::window

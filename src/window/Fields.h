@@ -16,6 +16,7 @@ public:
     QWidget* widget() override { return this; }
     [[nodiscard]] std::span<const Event> emits() const override;
     void sync() override;
+    void takePlace() override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::EditableText; }
     [[nodiscard]] bool takesFocus() const override;
 
@@ -39,6 +40,7 @@ public:
     QWidget* widget() override { return this; }
     [[nodiscard]] std::span<const Event> emits() const override;
     void sync() override;
+    void takePlace() override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::EditableText; }
     [[nodiscard]] bool takesFocus() const override { return usable(); }
 
@@ -59,6 +61,7 @@ public:
     QWidget* widget() override { return this; }
     [[nodiscard]] std::span<const Event> emits() const override;
     void sync() override;
+    void takePlace() override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::ComboBox; }
     [[nodiscard]] bool takesFocus() const override { return usable() && !list().locked; }
 

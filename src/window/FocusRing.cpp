@@ -2,9 +2,11 @@
 
 #include "window/Drawing.h"
 
+#include <algorithm>
+
 namespace gatewise::window {
 
-FocusRing::FocusRing(QWidget* window) : QWidget(window) {
+FocusRing::FocusRing(QWidget* window, const Zoom& zoom) : QWidget(window), zoom_(zoom) {
     setAttribute(Qt::WA_TransparentForMouseEvents);
     hide();
 }
@@ -16,20 +18,22 @@ void FocusRing::surround(const QRect& box) {
         hide();
         return;
     }
-    setGeometry(box.adjusted(-1, -1, 1, 1));
+    const int line = std::max(1, zoom_.edge(1));
+    setGeometry(box.adjusted(-line, -line, line, line));
     // Only the ring itself: what lies inside keeps its own painting.
-    setMask(QRegion(rect()) - QRegion(rect().adjusted(3, 3, -3, -3)));
+    setMask(QRegion(rect()) - QRegion(rect().adjusted(3 * line, 3 * line, -3 * line, -3 * line)));
     raise();
     show();
     update();
 }
 
 void FocusRing::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ViewPainter painter(*this, zoom_);
     QColor halo = kCyan;
     halo.setAlphaF(0.35F);
-    drawBox(painter, rect(), QColor(), halo, 3);
-    drawBox(painter, rect().adjusted(1, 1, -1, -1), QColor(), kCyan, 2);
+    drawBox(painter, painter.whole(), QColor(), halo, 3);
+    const double line = hairline(painter);
+    drawBox(painter, painter.whole().adjusted(line, line, -line, -line), QColor(), kCyan, 2);
 }
 
 } // namespace gatewise::window

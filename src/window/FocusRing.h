@@ -1,5 +1,7 @@
 #pragma once
 
+#include "window/Zoom.h"
+
 #include <QWidget>
 
 namespace gatewise::window {
@@ -8,7 +10,7 @@ namespace gatewise::window {
 class FocusRing : public QWidget {
     Q_OBJECT
 public:
-    explicit FocusRing(QWidget* window);
+    FocusRing(QWidget* window, const Zoom& zoom);
     /// Lies around a box of the window; an empty box takes it away.
     void surround(const QRect& box);
 
@@ -16,6 +18,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    const Zoom& zoom_;
     QRect box_;
 };
 

@@ -47,7 +47,7 @@ std::vector<View*> FocusWalk::stops() const {
     for (View* view : order_) {
         if (!view->takesFocus() || !view->widget()->isVisible()) continue;
         if (view->place.family > 0 && view != rowLeader(view->place.family)) continue;
-        const bool option = view->control->kind == Kind::Option;
+        const bool option = view->control != nullptr && view->control->kind == Kind::Option;
         if (option && optionOn && !static_cast<const Option&>(*view->control).value) continue;
         out.push_back(view);
     }
@@ -75,8 +75,9 @@ bool FocusWalk::step(View* from, bool forward) {
 void FocusWalk::first() {
     const std::vector<View*> all = stops();
     if (all.empty()) return;
-    const auto at =
-        std::find_if(all.begin(), all.end(), [](const View* v) { return !begins(*v->control, "close"); });
+    const auto at = std::find_if(all.begin(), all.end(), [](const View* v) {
+        return v->control == nullptr || !begins(*v->control, "close");
+    });
     goTo(at == all.end() ? *all.front() : **at);
 }
 

@@ -1,5 +1,6 @@
 #include "window/LabelText.h"
 
+#include "window/Tone.h"
 #include "window/Witness.h"
 
 #include <QFontMetricsF>
@@ -118,7 +119,8 @@ void drawText(QPainter& painter, const QRectF& box, const QString& text, const T
     painter.save();
     painter.setClipRect(box, Qt::IntersectClip);
     painter.setFont(style.font);
-    painter.setPen(style.color);
+    painter.setPen(inkOf(style.color));
+    const double scale = painter.worldTransform().m22();
     const QStringList lines = linesOf(text, style, box.width() - 2 * style.pad);
     double base = box.top() + firstBaseLine(style, box.height(), static_cast<int>(lines.size()));
     for (const QString& line : lines) {
@@ -126,7 +128,7 @@ void drawText(QPainter& painter, const QRectF& box, const QString& text, const T
         double x = box.left() + style.pad;
         if (style.align & Qt::AlignHCenter) x = box.left() + (box.width() - width) / 2;
         if (style.align & Qt::AlignRight) x = box.right() - style.pad - width;
-        drawLine(painter, QPointF(x, std::round(base)), line, style);
+        drawLine(painter, QPointF(x, std::round(base * scale) / scale), line, style);
         base += style.role.line;
     }
     painter.restore();

@@ -58,6 +58,7 @@ ControlLayout plainControl(const QJsonObject& o) {
     c.text = text(o["text"]);
     c.says = o["says"].toString();
     c.table = o["table"].toString();
+    c.blinks = o["blinks"].toBool();
     c.quiet = o["quiet"].toBool();
     return c;
 }

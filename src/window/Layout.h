@@ -41,11 +41,12 @@ struct ControlLayout {
     bool multiline = false;
     int tab = 0; // place in the order of the Tab key, 0: behind all others, in the order of the table
     std::string text;
-    QString says;   // what a screen reader calls a control that shows no words, or says before a value
-    QString table;  // on the first array of a table of lines: what a screen reader calls the table
-    bool quiet = false; // changes of its text are not told to a screen reader
-    int family = 0; // rows of a table made of control arrays: arrays that share their lines; 0: none
-    int row = -1;   // line within the family
+    QString says;        // what a screen reader calls a control that shows no words, or says before a value
+    QString table;       // on the first array of a table of lines: what a screen reader calls the table
+    bool blinks = false; // the program shows and hides it again and again
+    bool quiet = false;  // changes of its text are not told to a screen reader
+    int family = 0;      // rows of a table made of control arrays: arrays that share their lines; 0: none
+    int row = -1;        // line within the family
 };
 
 struct ContainerLayout {

@@ -52,7 +52,8 @@ void MapView::sync() {
 }
 
 QRectF MapView::sheet() const {
-    const QSizeF inside(std::max(1, width() - 2 * kEdge), std::max(1, height() - 2 * kEdge));
+    const QSizeF inside(std::max(1, place.box.width() - 2 * kEdge),
+                        std::max(1, place.box.height() - 2 * kEdge));
     return {QPointF(kEdge, kEdge), inside};
 }
 
@@ -84,8 +85,8 @@ void MapView::zoom(double factor, QPointF about) {
 }
 
 void MapView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    drawWell(painter, rect(), QColor(0x05, 0x07, 0x09), kSocket, QColor(0x39, 0x43, 0x4D));
+    ViewPainter painter(*this, scale());
+    drawWell(painter, painter.whole(), QColor(0x05, 0x07, 0x09), kSocket, QColor(0x39, 0x43, 0x4D));
     drawDrawing(painter, sheet(), drawing_, actor_.skin().text("caption").font);
 }
 
@@ -111,38 +112,38 @@ bool MapView::event(QEvent* event) {
 
 void MapView::pinched(const QPinchGesture& pinch) {
     const double factor = pinch.scaleFactor();
-    if (factor > 0.01 && factor < 100) zoom(factor, mapFromGlobal(pinch.centerPoint()));
+    if (factor > 0.01 && factor < 100) zoom(factor, inLayout(mapFromGlobal(pinch.centerPoint())));
 }
 
 void MapView::mousePressEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return event->ignore();
-    held_ = event->position();
+    held_ = inLayout(event->position());
     dragged_ = false;
 }
 
 void MapView::mouseMoveEvent(QMouseEvent* event) {
     if (!held_) return PickView::mouseMoveEvent(event);
-    const QPointF way = event->position() - *held_;
+    const QPointF way = inLayout(event->position()) - *held_;
     if (!dragged_ && std::hypot(way.x(), way.y()) < kDragFrom) return;
     dragged_ = true;
     look(panned(sight_, size(), way.x(), way.y()));
-    held_ = event->position();
+    held_ = inLayout(event->position());
 }
 
 void MapView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !held_) return event->ignore();
     held_.reset();
-    if (!dragged_) pickAt(event->position());
+    if (!dragged_) pickAt(inLayout(event->position()));
 }
 
 void MapView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return event->ignore();
-    const QPointF at = inSheet(event->position());
+    const QPointF at = inSheet(inLayout(event->position()));
     look(centred(sight_, size(), {at.x(), at.y()}));
 }
 
 void MapView::wheelEvent(QWheelEvent* event) {
-    zoom(std::pow(kStep, event->angleDelta().y() / kNotch), event->position());
+    zoom(std::pow(kStep, event->angleDelta().y() / kNotch), inLayout(event->position()));
     event->accept();
 }
 

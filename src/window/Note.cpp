@@ -66,18 +66,18 @@ QPoint freePlace(const ScreenWindow& window, QSize size) {
 Note::Note(const QString& text, const QString& file, ScreenWindow& window, const Skin& skin)
     : QLabel(text, &window) {
     setWordWrap(true);
-    setFont(skin.font("data"));
+    setFont(skin.widgetFont("data"));
     setTextFormat(Qt::PlainText);
-    setMargin(kMargin);
+    setMargin(skin.zoom().edge(kMargin));
     setStyleSheet(QString("background:%1;color:%2;border-radius:4px")
                       .arg(skin.style("tooltip.back").name(), skin.style("tooltip.text").name()));
     setAccessibleName(text);
-    setFixedWidth(std::min(window.width() - 2 * kEdge, kWidest));
+    setFixedWidth(std::min(window.width() - 2 * kEdge, skin.zoom().edge(kWidest)));
     adjustSize();
-    if (QWidget* keys = makeOpenKeys(file, width() - 2 * kMargin, skin, this)) {
+    if (QWidget* keys = makeOpenKeys(file, width() - 2 * margin(), skin, this)) {
         setAlignment(Qt::AlignTop);
-        keys->move(kMargin, height());
-        setFixedHeight(height() + keys->height() + kMargin);
+        keys->move(margin(), height());
+        setFixedHeight(height() + keys->height() + margin());
     }
     move(freePlace(window, size()));
     show();

@@ -8,6 +8,7 @@
 #include "window/QtText.h"
 #include "window/ScreenNames.h"
 #include "window/Skin.h"
+#include "window/Tone.h"
 
 #include <QPaintEvent>
 
@@ -34,18 +35,18 @@ GroundView::GroundView(Actor& actor, Control* control, const ControlLayout& plac
 }
 
 void GroundView::paintEvent(QPaintEvent* event) {
-    QPainter painter(this);
-    const QPixmap picture = actor_.skin().picture(picture_, devicePixelRatioF());
+    const QPixmap picture = actor_.skin().picture(picture_, *this);
     if (picture.isNull()) {
-        painter.fillRect(event->rect(), kPanel);
+        QPainter(this).fillRect(event->rect(), groundOf(kPanel));
         return;
     }
-    drawPicture(painter, rect(), picture);
+    ViewPainter painter(*this, scale());
+    drawPicture(painter, painter.whole(), picture);
 }
 
-void LabelView::putAt(QPoint corner) {
-    // A well has a light line below its box.
-    setGeometry(QRect(corner, place.box.size()).adjusted(0, 0, 0, place.back.isValid() ? 1 : 0));
+/// A well has a light line below its box.
+QMargins LabelView::beyond() const {
+    return {0, 0, 0, place.back.isValid() ? 1 : 0};
 }
 
 TextStyle LabelView::style() const {
@@ -121,15 +122,15 @@ void LabelView::activate() {
 }
 
 void LabelView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ViewPainter painter(*this, scale());
     const QRect box(QPoint(0, 0), place.box.size());
     if (place.back.isValid())
         drawWell(painter, box, place.back, place.border, actor_.skin().style("well.rim"));
     if (place.highlight.isValid() && label().highlighted) {
         QColor fill = place.highlight;
         fill.setAlphaF(0.75F);
-        painter.fillRect(box, fill);
-        painter.fillRect(QRect(0, 0, 3, box.height()), kMarkEdge);
+        painter.fillRect(onPixels(painter, box), fill);
+        painter.fillRect(onPixels(painter, QRectF(0, 0, 3, box.height())), kMarkEdge);
     }
     if (!place.font.empty()) drawText(painter, box, toQt(label().text), style());
     drawMark(painter, box, label());
@@ -169,24 +170,20 @@ QString PictureView::spokenName() const {
 }
 
 void PictureView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    const QPixmap picture = actor_.skin().picture(shown_, devicePixelRatioF());
+    ViewPainter painter(*this, scale());
+    const QPixmap picture = actor_.skin().picture(shown_, *this);
     if (!picture.isNull()) {
-        drawPicture(painter, rect(), picture);
+        drawPicture(painter, painter.whole(), picture);
         return;
     }
     TextStyle style = actor_.skin().text("section");
     style.color = actor_.skin().style("frame.text");
     style.align = Qt::AlignHCenter;
-    drawText(painter, rect(), spokenName(), style);
+    drawText(painter, painter.whole(), spokenName(), style);
 }
 
-void FrameView::putAt(QPoint corner) {
-    setGeometry(QRect(corner, place.box.size()).adjusted(0, -kHeadingRise, 0, 0));
-}
-
-QRect FrameView::frame() const {
-    return {QPoint(0, kHeadingRise), place.box.size()};
+QMargins FrameView::beyond() const {
+    return {0, kHeadingRise, 0, 0};
 }
 
 QString FrameView::spokenName() const {
@@ -194,7 +191,7 @@ QString FrameView::spokenName() const {
 }
 
 void FrameView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ViewPainter painter(*this, scale());
     const Skin& skin = actor_.skin();
     TextStyle style = skin.text(place.font);
     style.color = place.color;
@@ -210,8 +207,8 @@ ShapeView::ShapeView(Actor& actor, const ControlLayout& place, QWidget* parent)
 }
 
 void ShapeView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    drawBox(painter, rect(), place.back, place.border, 5);
+    ViewPainter painter(*this, scale());
+    drawBox(painter, painter.whole(), place.back, place.border, 5);
 }
 
 } // namespace gatewise::window

@@ -34,7 +34,7 @@ public:
     [[nodiscard]] bool isKey() const override;
     [[nodiscard]] bool silent() const override;
     void activate() override;
-    void putAt(QPoint corner) override;
+    [[nodiscard]] QMargins beyond() const override;
 
     /// What the text wears now.
     [[nodiscard]] struct TextStyle style() const;
@@ -90,8 +90,7 @@ public:
     void sync() override { syncCommon(); }
     [[nodiscard]] QString spokenName() const override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Grouping; }
-    void putAt(QPoint corner) override;
-    [[nodiscard]] QRect frame() const override;
+    [[nodiscard]] QMargins beyond() const override;
 
 protected:
     void paintEvent(QPaintEvent* event) override;

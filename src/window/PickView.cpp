@@ -38,9 +38,9 @@ PickView::Under PickView::under(QPointF at) const {
 std::optional<QPoint> PickView::pointOf(int id) const {
     const QRectF box = sheet();
     for (const auto& mark : painted().marks) {
-        const QPoint at =
-            (box.topLeft() + QPointF(mark.at.x * box.width(), mark.at.y * box.height())).toPoint();
-        if (mark.id == id && under(at).id == id) return at;
+        const QPointF at = box.topLeft() + QPointF(mark.at.x * box.width(), mark.at.y * box.height());
+        const QPoint pixel = (at * scale().factor).toPoint();
+        if (mark.id == id && under(inLayout(pixel)).id == id) return pixel;
     }
     return std::nullopt;
 }
@@ -60,24 +60,24 @@ void PickView::pickAt(QPointF at) {
 bool PickView::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip) return PaintedView::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(), under(help->pos()).words, this);
+    QToolTip::showText(help->globalPos(), under(inLayout(help->pos())).words, this);
     return true;
 }
 
 void PickView::mousePressEvent(QMouseEvent* event) {
-    held_ = event->button() == Qt::LeftButton && under(event->position()).id >= 0;
+    held_ = event->button() == Qt::LeftButton && under(inLayout(event->position())).id >= 0;
     if (!held_) event->ignore(); // the ground below drags the window
 }
 
 void PickView::mouseReleaseEvent(QMouseEvent* event) {
     if (!held_ || event->button() != Qt::LeftButton) return event->ignore();
     held_ = false;
-    pickAt(event->position());
+    pickAt(inLayout(event->position()));
 }
 
 void PickView::mouseMoveEvent(QMouseEvent* event) {
     if (event->buttons().testFlag(Qt::LeftButton)) return event->ignore();
-    pointAt(under(event->position()).id);
+    pointAt(under(inLayout(event->position())).id);
 }
 
 void PickView::leaveEvent(QEvent*) {

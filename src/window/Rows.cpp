@@ -22,9 +22,11 @@ std::span<const Event> RowsView::emits() const {
     return control->kind == Kind::ListView ? all.subspan(1) : all.subspan(1, 7);
 }
 
-void RowsView::putAt(QPoint corner) {
-    setGeometry(QRect(corner, place.box.size()).adjusted(0, 0, 0, 1));
-    table_->setGeometry(QRect(QPoint(0, 0), place.box.size()).adjusted(1, 1, -1, -1));
+void RowsView::takePlace() {
+    View::takePlace();
+    const QRect inside = boxInWindow().adjusted(1, 1, -1, -1);
+    table_->setGeometry(scale().box(inside).translated(-scale().point(widgetInWindow())));
+    table_->takeSizes();
 }
 
 void RowsView::sync() {
@@ -35,7 +37,7 @@ void RowsView::sync() {
 }
 
 void RowsView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ViewPainter painter(*this, scale());
     const Skin& skin = actor_.skin();
     drawWell(painter, QRect(QPoint(0, 0), place.box.size()), skin.style("list.back"),
              skin.style("list.border"), skin.style("list.rim"));

@@ -13,7 +13,8 @@ public:
     [[nodiscard]] std::span<const Event> emits() const override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::Grouping; }
     [[nodiscard]] bool takesFocus() const override { return usable(); }
-    void putAt(QPoint corner) override;
+    [[nodiscard]] QMargins beyond() const override { return {0, 0, 0, 1}; }
+    void takePlace() override;
     [[nodiscard]] RowsTable& table() { return *table_; }
 
 protected:

@@ -19,8 +19,6 @@ RowsHead::RowsHead(Actor& actor, ListView* list, QWidget* parent)
     : QHeaderView(Qt::Horizontal, parent), actor_(actor), list_(list) {
     setSectionResizeMode(QHeaderView::Interactive);
     setStretchLastSection(false);
-    setMinimumSectionSize(kNarrowest);
-    setFixedHeight(kRowHeight);
     setFrameShape(QFrame::NoFrame);
     if (list == nullptr) return;
     connect(this, &QHeaderView::sectionClicked, this,
@@ -30,7 +28,17 @@ RowsHead::RowsHead(Actor& actor, ListView* list, QWidget* parent)
 }
 
 void RowsHead::dragged(int section, int width) {
-    if (!syncing_) actor_.act([&] { user::widen(*list_, section, width); });
+    if (syncing_) return;
+    const int inLayout = static_cast<int>(std::lround(width / actor_.skin().zoom().factor));
+    actor_.act([&] { user::widen(*list_, section, inLayout); });
+}
+
+void RowsHead::takeSizes() {
+    const Zoom& zoom = actor_.skin().zoom();
+    syncing_ = true; // narrow columns that grow were not dragged
+    setMinimumSectionSize(zoom.edge(kNarrowest));
+    setFixedHeight(zoom.edge(kRowHeight));
+    syncing_ = false;
 }
 
 void RowsHead::sync() {
@@ -38,7 +46,7 @@ void RowsHead::sync() {
     syncing_ = true;
     for (int i = 0; i < std::min(count(), static_cast<int>(list_->columns.size())); ++i) {
         const double wide = list_->columns[static_cast<std::size_t>(i)].width;
-        const int width = std::max(kNarrowest, static_cast<int>(std::floor(wide)));
+        const int width = actor_.skin().zoom().edge(std::max(kNarrowest, static_cast<int>(std::floor(wide))));
         if (sectionSize(i) != width) resizeSection(i, width);
     }
     syncing_ = false;
@@ -49,7 +57,7 @@ void RowsHead::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     const QRect rest = viewport()->rect().adjusted(length(), 0, 0, 0);
     painter.fillRect(rest, actor_.skin().style("list.head"));
-    painter.fillRect(0, kRowHeight - 1, viewport()->width(), 1, actor_.skin().style("list.rim"));
+    painter.fillRect(0, height() - 1, viewport()->width(), 1, actor_.skin().style("list.rim"));
 }
 
 void RowsHead::paintSection(QPainter* painter, const QRect& box, int section) const {
@@ -57,9 +65,16 @@ void RowsHead::paintSection(QPainter* painter, const QRect& box, int section) co
     TextStyle style = actor_.skin().text("list-head");
     style.color = actor_.skin().style("list.headText");
     style.ellipsis = Ellipsis::Right;
-    drawText(*painter, QRectF(box).adjusted(8, 0, -2, 0),
+    const double factor = actor_.skin().zoom().factor;
+    painter->save();
+    painter->scale(factor, factor);
+    const QRectF cell(box.x() / factor, box.y() / factor, box.width() / factor, box.height() / factor);
+    drawText(*painter, cell.adjusted(8, 0, -2, 0),
              model()->headerData(section, Qt::Horizontal, Qt::DisplayRole).toString(), style);
-    painter->fillRect(box.right(), box.top() + 3, 1, kRowHeight - 6, actor_.skin().style("list.rim"));
+    painter->restore();
+    const int gap = actor_.skin().zoom().edge(3);
+    painter->fillRect(box.right(), box.top() + gap, 1, box.height() - 2 * gap,
+                      actor_.skin().style("list.rim"));
 }
 
 } // namespace gatewise::window

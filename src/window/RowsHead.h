@@ -16,6 +16,8 @@ public:
     RowsHead(Actor& actor, ListView* list, QWidget* parent);
     /// Takes over the form's widths without telling the form.
     void sync();
+    /// Its height at the zoom of now.
+    void takeSizes();
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -23,21 +23,28 @@ constexpr double kCellPad = 12;
 /// Only the height of a row; the table draws whole rows itself.
 class RowHeight : public QStyledItemDelegate {
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    RowHeight(const Skin& skin, QObject* parent) : QStyledItemDelegate(parent), skin_(skin) {}
     QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
-        return {10, kRowHeight};
+        return {10, skin_.zoom().edge(kRowHeight)};
     }
     void paint(QPainter*, const QStyleOptionViewItem&, const QModelIndex&) const override {}
+
+private:
+    const Skin& skin_;
 };
 
 QString scrollBarStyle(const Skin& skin) {
-    return QString("QScrollBar:vertical{background:%1;width:12px;border:0}"
-                   "QScrollBar::handle:vertical{background:%2;border-radius:4px;margin:2px;min-height:24px}"
+    return QString("QScrollBar:vertical{background:%1;width:%4px;border:0}"
+                   "QScrollBar::handle:vertical{background:%2;border-radius:%5px;margin:%6px;min-height:%7px}"
                    "QScrollBar::handle:vertical:hover{background:%3}"
                    "QScrollBar::add-line,QScrollBar::sub-line{height:0}"
                    "QScrollBar::add-page,QScrollBar::sub-page{background:none}")
         .arg(skin.style("list.scrollTrack").name(), skin.style("list.scrollThumb").name(),
-             skin.style("list.scrollThumbHover").name());
+             skin.style("list.scrollThumbHover").name())
+        .arg(skin.zoom().edge(12))
+        .arg(skin.zoom().edge(4))
+        .arg(skin.zoom().edge(2))
+        .arg(skin.zoom().edge(24));
 }
 
 ListView* columnsOf(Control& control) {
@@ -54,7 +61,7 @@ RowsTable::RowsTable(Actor& actor, Control& control, const ControlLayout& place,
     setRootIsDecorated(false);
     setIndentation(0);
     setUniformRowHeights(true);
-    setItemDelegate(new RowHeight(this));
+    setItemDelegate(new RowHeight(actor.skin(), this));
     setHeader(head_);
     head_->setSectionsClickable(true); // only now: becoming a tree's header takes it away
     setHeaderHidden(control.kind != Kind::ListView);
@@ -63,10 +70,19 @@ RowsTable::RowsTable(Actor& actor, Control& control, const ControlLayout& place,
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-    verticalScrollBar()->setStyleSheet(scrollBarStyle(actor.skin()));
     viewport()->setAutoFillBackground(false);
     viewport()->setMouseTracking(true);
     setModel(&model);
+}
+
+void RowsTable::takeSizes() {
+    verticalScrollBar()->setStyleSheet(scrollBarStyle(actor_.skin()));
+    head_->takeSizes();
+    scheduleDelayedItemsLayout();
+}
+
+int RowsTable::rowPixels() const {
+    return actor_.skin().zoom().edge(kRowHeight);
 }
 
 int RowsTable::picked() const {
@@ -152,7 +168,7 @@ void RowsTable::open(void (*event)(Control&)) {
 }
 
 void RowsTable::mouseMoveEvent(QMouseEvent* event) {
-    const QPoint at = groundPosition(*control_.screen, *event);
+    const QPoint at = groundPosition(actor_, *control_.screen, *event);
     if (control_.handles(Event::Move)) actor_.act([&] { user::move(control_, at.x(), at.y()); });
 }
 
@@ -210,18 +226,20 @@ void RowsTable::paintEvent(QPaintEvent* event) {
         QPainter painter(viewport());
         const QColor stripe = actor_.skin().style("list.stripe");
         const int first = model_.rowCount() > 0 ? verticalScrollBar()->value() : 0;
-        for (int y = 0, row = first; y < viewport()->height(); y += kRowHeight, ++row) {
-            if (row % 2 == 1) painter.fillRect(0, y, viewport()->width(), kRowHeight, stripe);
+        for (int y = 0, row = first; y < viewport()->height(); y += rowPixels(), ++row) {
+            if (row % 2 == 1) painter.fillRect(0, y, viewport()->width(), rowPixels(), stripe);
         }
     }
     QTreeView::paintEvent(event);
 }
 
+/// In pixels of the layout; `top` is in those of the table.
 QRectF RowsTable::cell(int column, int top) const {
     const bool columns = control_.kind == Kind::ListView;
-    const int x = columns ? head_->sectionViewportPosition(column) : 0;
-    const int w = columns ? head_->sectionSize(column) : viewport()->width();
-    return {x + kCellLeft, static_cast<double>(top), w - kCellPad, kRowHeight};
+    const double factor = actor_.skin().zoom().factor;
+    const double x = (columns ? head_->sectionViewportPosition(column) : 0) / factor;
+    const double w = (columns ? head_->sectionSize(column) : viewport()->width()) / factor;
+    return {x + kCellLeft, top / factor, w - kCellPad, rowPixels() / factor};
 }
 
 TextStyle RowsTable::style(int row) const {
@@ -234,7 +252,7 @@ int RowsTable::sizeHintForColumn(int column) const {
     for (int row = 0; row < model_.rowCount(); ++row) {
         widest = std::max(widest, advance(model_.index(row, column).data().toString(), style(row)));
     }
-    return static_cast<int>(std::ceil(widest + kCellPad));
+    return actor_.skin().zoom().edge(std::ceil(widest + kCellPad));
 }
 
 /// A text that is cut in its cell is shown whole beside the pointer.
@@ -255,11 +273,12 @@ bool RowsTable::viewportEvent(QEvent* event) {
 void RowsTable::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
     const Skin& skin = actor_.skin();
-    const QRect line(0, option.rect.y(), viewport()->width(), kRowHeight);
+    const QRect line(0, option.rect.y(), viewport()->width(), rowPixels());
     const bool marked = selectionModel()->isRowSelected(index.row());
     if (marked) {
         painter->fillRect(line, skin.style("list.selected"));
-        painter->fillRect(QRect(0, line.y(), 3, kRowHeight), skin.style("list.selectedBar"));
+        painter->fillRect(QRect(0, line.y(), skin.zoom().edge(3), rowPixels()),
+                          skin.style("list.selectedBar"));
     }
     TextStyle style = this->style(index.row());
     style.color = !isEnabled() ? skin.style("list.disabledText")
@@ -268,10 +287,13 @@ void RowsTable::drawRow(QPainter* painter, const QStyleOptionViewItem& option,
     style.ellipsis =
         control_.kind == Kind::FolderList ? Ellipsis::Left : Ellipsis::Right; // a path tells by its end
     const int columns = model_.columnCount();
+    painter->save();
+    painter->scale(skin.zoom().factor, skin.zoom().factor);
     for (int c = 0; c < columns; ++c) {
         drawText(*painter, cell(c, line.y()), model_.index(index.row(), c).data(Qt::DisplayRole).toString(),
                  style);
     }
+    painter->restore();
 }
 
 } // namespace gatewise::window

@@ -19,6 +19,8 @@ public:
     /// Shows the form's rows, widths and picked row without telling the form. A list that is filled anew
     /// keeps its place when a row of it is picked, and begins at the top when none is.
     void sync();
+    /// Rows, heads and the bar at the zoom of now.
+    void takeSizes();
 
 protected:
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
@@ -42,6 +44,7 @@ private:
     void pressSpace();
     bool narrow(const QKeyEvent& event);
     [[nodiscard]] int picked() const;
+    [[nodiscard]] int rowPixels() const;
     /// Where a column's text stands in a row that begins at `top`.
     [[nodiscard]] QRectF cell(int column, int top) const;
     [[nodiscard]] TextStyle style(int row) const;

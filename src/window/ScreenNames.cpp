@@ -89,9 +89,9 @@ void addCell(Columns& columns, const std::vector<View*>& views, View& cell) {
 bool isCaption(const ControlLayout& place) {
     if (place.kind != "label" || place.hit || place.back.isValid()) return false;
     if (place.font == "city") return true; // its words change
-    return !place.text.empty() && (place.font == "caption" || place.font == "section" ||
-                                   place.font == "data" || place.font == "pass-print" ||
-                                   place.font == "pass-band-small");
+    return !place.text.empty() &&
+           (place.font == "caption" || place.font == "section" || place.font == "data" ||
+            place.font == "pass-print" || place.font == "pass-band-small");
 }
 
 void nameFields(const std::vector<View*>& views) {

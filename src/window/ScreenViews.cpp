@@ -3,6 +3,7 @@
 #include "window/Buttons.h"
 #include "window/ChartView.h"
 #include "window/Choices.h"
+#include "window/DisplayKey.h"
 #include "window/Fields.h"
 #include "window/MapView.h"
 #include "window/PaintedViews.h"
@@ -45,6 +46,7 @@ constexpr KindRow kKinds[] = {
 
 View* make(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent) {
     if (place.kind == "shape") return new ShapeView(actor, place, parent);
+    if (place.kind == "displaykey") return new DisplayKey(actor, place, parent);
     if (control == nullptr) return nullptr;
     if (control->kind == Kind::TextBox) {
         if (place.multiline) return new NotesView(actor, control, place, parent);
@@ -74,7 +76,8 @@ public:
 private:
     struct Room {
         QWidget* widget;
-        QPoint offset;
+        QPoint offset; // of its box inside the widget
+        QPoint corner; // of the widget inside the window
     };
 
     /// Grounds that the table does not list among the controls lie lowest.
@@ -91,8 +94,8 @@ private:
             place.kind = "container";
             place.box = container.box;
             auto* ground = new GroundView(actor_, control, place, container.background, window_);
-            ground->putAt(container.box.topLeft());
-            rooms_[name] = {ground, {}};
+            ground->putAt(container.box.topLeft(), {});
+            rooms_[name] = {ground, {}, ground->widgetInWindow()};
             out_.all.push_back(ground);
         }
     }
@@ -106,9 +109,10 @@ private:
         View* view = ground ? makeGround(place, container->second.background, parent)
                             : make(actor_, screen_.find(place.name, place.index), place, parent);
         if (view == nullptr) return;
-        view->putAt(place.box.topLeft() + (inside ? room->second.offset : QPoint()));
+        const QPoint around = inside ? room->second.corner : QPoint();
+        view->putAt(place.box.topLeft() + (inside ? room->second.offset : QPoint()), around);
         if (container != layout_.containers.end()) {
-            rooms_[place.name] = {view->widget(), view->frame().topLeft()};
+            rooms_[place.name] = {view->widget(), view->frame().topLeft(), view->widgetInWindow()};
         }
         out_.all.push_back(view);
     }

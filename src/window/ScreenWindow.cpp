@@ -5,6 +5,7 @@
 #include "window/QtText.h"
 #include "window/ScreenNames.h"
 #include "window/Skin.h"
+#include "window/Tone.h"
 
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -24,14 +25,22 @@ constexpr int kTitleStrip = 30; // height of the part by which a dialog is moved
 
 ScreenWindow::ScreenWindow(Actor& actor, Screen& screen, const ScreenLayout& layout)
     : actor_(actor), screen_(screen), views_(buildViews(actor, screen, layout, this)),
-      walk_(actor, views_.all), ring_(new FocusRing(this)) {
+      walk_(actor, views_.all), ring_(new FocusRing(this, actor.skin().zoom())),
+      size_(layout.size.isEmpty() ? QSize(screen.designWidth, screen.designHeight) : layout.size) {
     setWindowTitle(toQt(screen.caption));
     setAccessibleName(toQt(screen.caption));
-    setFixedSize(layout.size.isEmpty() ? QSize(screen.designWidth, screen.designHeight) : layout.size);
+    setFixedSize(zoom().size(size_));
     setMouseTracking(true);
     nameFields(views_.all);
     nameRows(views_.all);
     ring_->raise();
+}
+
+void ScreenWindow::takeSizes() {
+    setFixedSize(zoom().size(size_));
+    for (View* view : views_.all) view->takePlace();
+    ring_->surround({});
+    update();
 }
 
 View* ScreenWindow::view(const Control& control) const {
@@ -46,12 +55,12 @@ void ScreenWindow::sync() {
     View* now = isActiveWindow() ? viewOf(focusWidget()) : nullptr;
     const bool pressed = byMouse_ && dynamic_cast<PaintedView*>(now) != nullptr &&
                          now->widget()->focusProxy() == nullptr; // a key that the mouse lit already
-    const bool shown = now != nullptr && now->control != nullptr && now->widget()->isVisible() && !pressed;
+    const bool shown = now != nullptr && now->widget()->isVisible() && !pressed;
     ring_->surround(shown ? ringBox(*now) : QRect());
 }
 
 void ScreenWindow::place() {
-    QPoint at(static_cast<int>(std::lround(screen_.left)), static_cast<int>(std::lround(screen_.top)));
+    QPoint at(zoom().edge(screen_.left), zoom().edge(screen_.top));
     const QScreen* desk = QGuiApplication::screenAt(at + rect().center());
     if (desk == nullptr) desk = QGuiApplication::screenAt(at);
     if (desk == nullptr) desk = QGuiApplication::primaryScreen();
@@ -60,8 +69,8 @@ void ScreenWindow::place() {
         const QPoint seen(std::max(room.left(), std::min(at.x(), room.right() + 1 - width())),
                           std::max(room.top(), std::min(at.y(), room.bottom() + 1 - height())));
         if (seen != at) {
-            screen_.left = seen.x();
-            screen_.top = seen.y();
+            screen_.left = seen.x() / zoom().factor;
+            screen_.top = seen.y() / zoom().factor;
         }
         at = seen;
     }
@@ -84,8 +93,11 @@ void ScreenWindow::focusFirst() {
 
 void ScreenWindow::focusMoved(QWidget* now) {
     View* view = viewOf(now);
-    if (view == nullptr || view->control == nullptr) return;
-    if (view != focused_) {
+    if (view == nullptr) return;
+    if (view->control == nullptr) {
+        focused_ = view;
+        actor_.act([] {}); // the ring alone
+    } else if (view != focused_) {
         focused_ = view;
         Control& control = *view->control;
         actor_.act([&] { user::focus(control); });
@@ -95,10 +107,7 @@ void ScreenWindow::focusMoved(QWidget* now) {
 }
 
 QRect ScreenWindow::ringBox(View& view) const {
-    const auto boxOf = [this](View& v) {
-        const QRect frame = v.frame();
-        return QRect(v.widget()->mapTo(this, frame.topLeft()), frame.size());
-    };
+    const auto boxOf = [this](const View& v) { return zoom().box(v.boxInWindow()); };
     QRect box = boxOf(view);
     if (view.place.family == 0) return box;
     for (View* other : views_.all) {
@@ -125,7 +134,7 @@ void ScreenWindow::pressClose() {
 
 /// What no view takes arrives here: a press in the title strip takes hold of the window.
 void ScreenWindow::mousePressEvent(QMouseEvent* event) {
-    gripped_ = event->button() == Qt::LeftButton && event->position().y() < kTitleStrip;
+    gripped_ = event->button() == Qt::LeftButton && event->position().y() < zoom().edge(kTitleStrip);
     grip_ = event->position().toPoint();
 }
 
@@ -156,7 +165,7 @@ void ScreenWindow::leaveEvent(QEvent*) {
 void ScreenWindow::paintEvent(QPaintEvent*) {
     // Only seen where a screen has no ground of its own.
     QPainter painter(this);
-    painter.fillRect(rect(), kPanel);
+    painter.fillRect(rect(), groundOf(kPanel));
     drawBox(painter, rect(), QColor(), kSocket, 0);
     drawBox(painter, rect().adjusted(1, 1, -1, -1), QColor(), actor_.skin().style("frame.border"), 0);
 }
@@ -175,7 +184,8 @@ void ScreenWindow::moveEvent(QMoveEvent* event) {
 }
 
 void ScreenWindow::movedTo(QPoint corner) {
-    actor_.act([&] { user::moveTo(screen_, corner.x(), corner.y()); });
+    const QPointF at = zoom().back(corner);
+    actor_.act([&] { user::moveTo(screen_, at.x(), at.y()); });
 }
 
 } // namespace gatewise::window

@@ -3,6 +3,7 @@
 #include "window/FocusRing.h"
 #include "window/FocusWalk.h"
 #include "window/ScreenViews.h"
+#include "window/Skin.h"
 
 namespace gatewise::window {
 
@@ -14,6 +15,8 @@ public:
 
     /// Brings the form onto the views.
     void sync();
+    /// Takes its size, and that of all in it, at the zoom of now.
+    void takeSizes();
     /// Puts the window where the form says, moved onto a screen that can be seen.
     void place();
     /// Where the keyboard starts each time that the screen comes up.
@@ -45,6 +48,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    [[nodiscard]] const Zoom& zoom() const { return actor_.skin().zoom(); }
     [[nodiscard]] QRect ringBox(View& view) const;
     void movedTo(QPoint corner);
 
@@ -54,7 +58,8 @@ private:
     FocusWalk walk_;
     View* focused_ = nullptr;
     FocusRing* ring_;
-    QPoint grip_; // of the mouse in the title strip that it holds
+    const QSize size_; // in pixels of the layout
+    QPoint grip_;      // of the mouse in the title strip that it holds
     bool gripped_ = false;
     bool byMouse_ = false;
 };

@@ -3,9 +3,12 @@
 #include "platform/Files.h"
 #include "platform/Text.h"
 #include "window/QtText.h"
+#include "window/Tone.h"
 
 #include <QFile>
 #include <QFontDatabase>
+#include <QImage>
+#include <QWidget>
 
 #include <cmath>
 
@@ -144,6 +147,46 @@ QPixmap Skin::picture(const std::string& tail, double ratio) const {
     }
     if (picture.isNull()) picture = load(folder_ + tail);
     pictures_.insert(key, picture);
+    return picture;
+}
+
+void Skin::setZoom(double factor) {
+    zoom_.factor = factor;
+    sized_.clear();
+}
+
+QFont Skin::widgetFont(const std::string& name) const {
+    QFont font = this->font(name);
+    font.setPixelSize(qRound(layout_.role(name).size * zoom_.factor));
+    return font;
+}
+
+/// The picture from the set that is at least as fine as the screen; the finest where none is.
+QPixmap Skin::largest(const std::string& tail, double scale) const {
+    const auto dot = tail.rfind('.');
+    if (scale > 2 && dot != std::string::npos) {
+        const QPixmap fine = load(folder_ + tail.substr(0, dot) + "@3x.png");
+        if (!fine.isNull()) return fine;
+    }
+    return picture(tail, 2);
+}
+
+QPixmap Skin::picture(const std::string& tail, const QWidget& on) const {
+    const double ratio = on.devicePixelRatioF();
+    if (zoom_.factor == 1 && !highContrast()) return picture(tail, ratio);
+    const QSize size = (QSizeF(on.size()) * ratio).toSize();
+    const QString key = toQt(tail) + QString("@%1x%2").arg(size.width()).arg(size.height());
+    const auto known = sized_.constFind(key);
+    if (known != sized_.constEnd()) return *known;
+    QPixmap picture = zoom_.factor == 1 ? this->picture(tail, ratio) : largest(tail, zoom_.factor * ratio);
+    if (!picture.isNull()) {
+        QImage image = picture.toImage();
+        if (image.size() != size) image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        if (highContrast()) setTones(image);
+        picture = QPixmap::fromImage(std::move(image));
+        picture.setDevicePixelRatio(ratio);
+    }
+    sized_.insert(key, picture);
     return picture;
 }
 

@@ -2,6 +2,7 @@
 
 #include "input/UserEvents.h"
 #include "window/QtText.h"
+#include "window/Skin.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -35,13 +36,33 @@ QString View::captionWords() const {
     return words;
 }
 
+void View::putAt(QPoint corner, QPoint around) {
+    corner_ = around + corner;
+    around_ = around;
+    takePlace();
+}
+
+void View::takePlace() {
+    const QRect box = boxInWindow().marginsAdded(beyond());
+    widget()->setGeometry(scale().box(box).translated(-scale().point(around_)));
+}
+
+const Zoom& View::scale() const {
+    return actor_.skin().zoom();
+}
+
+QSizeF View::span() {
+    return QSizeF(widget()->size()) / scale().factor;
+}
+
 bool View::usable() const {
     return control != nullptr && control->usable();
 }
 
 void View::syncCommon() {
     if (control == nullptr) return;
-    if (control->visible == widget()->isHidden()) widget()->setVisible(control->visible);
+    const bool shown = control->visible || (place.blinks && actor_.skin().steady);
+    if (shown == widget()->isHidden()) widget()->setVisible(shown);
     if (shownTip_ != control->toolTip) {
         shownTip_ = control->toolTip;
         widget()->setToolTip(toQt(shownTip_));
@@ -92,8 +113,8 @@ bool PaintedView::handlesAny(std::initializer_list<Event> events) const {
            std::any_of(events.begin(), events.end(), [&](Event e) { return control->handles(e); });
 }
 
-QPoint groundPosition(const Screen& screen, const QMouseEvent& event) {
-    const QPointF at = event.globalPosition();
+QPoint groundPosition(const Actor& actor, const Screen& screen, const QMouseEvent& event) {
+    const QPointF at = actor.skin().zoom().back(event.globalPosition());
     return {static_cast<int>(std::lround(at.x() - screen.left)),
             static_cast<int>(std::lround(at.y() - screen.top))};
 }
@@ -101,7 +122,7 @@ QPoint groundPosition(const Screen& screen, const QMouseEvent& event) {
 void PaintedView::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton &&
         handlesAny({Event::Press, Event::Release, Event::Click, Event::DoubleClick})) {
-        const QPoint at = groundPosition(*control->screen, *event);
+        const QPoint at = groundPosition(actor_, *control->screen, *event);
         held_ = true;
         // What was pressed has the keyboard: after a dialog it comes back to where the hand was.
         if (takesFocus()) setFocus(Qt::MouseFocusReason);
@@ -119,7 +140,7 @@ void PaintedView::mouseReleaseEvent(QMouseEvent* event) {
         return;
     }
     held_ = false;
-    const QPoint at = groundPosition(*control->screen, *event);
+    const QPoint at = groundPosition(actor_, *control->screen, *event);
     const bool inside = rect().contains(event->position().toPoint());
     actor_.act([&] {
         user::release(*control, at.x(), at.y());
@@ -141,7 +162,7 @@ void PaintedView::mouseMoveEvent(QMouseEvent* event) {
         event->ignore();
         return;
     }
-    const QPoint at = groundPosition(*control->screen, *event);
+    const QPoint at = groundPosition(actor_, *control->screen, *event);
     const bool left = event->buttons().testFlag(Qt::LeftButton);
     actor_.act([&] { user::move(*control, at.x(), at.y(), left); });
     // A press that no view took drags the window.

@@ -2,6 +2,7 @@
 
 #include "forms/Control.h"
 #include "window/Layout.h"
+#include "window/Zoom.h"
 
 #include <QAccessible>
 #include <QWidget>
@@ -58,10 +59,23 @@ public:
     void showMore();
     /// What the label says that names this view, empty when there is none.
     [[nodiscard]] QString captionWords() const;
-    /// Puts the box of the layout onto the screen; some kinds draw beyond it.
-    virtual void putAt(QPoint corner) { widget()->setGeometry(QRect(corner, place.box.size())); }
+    /// Settles where it stands: its corner inside the widget around it, and the corner of that one inside the
+    /// window, in pixels of the layout.
+    void putAt(QPoint corner, QPoint around);
+    /// Takes its place and sizes at the zoom of now.
+    virtual void takePlace();
+    /// What it draws beyond its box.
+    [[nodiscard]] virtual QMargins beyond() const { return {}; }
     /// The box of the layout inside the widget; what is inside of it starts from there.
-    [[nodiscard]] virtual QRect frame() const { return {QPoint(0, 0), place.box.size()}; }
+    [[nodiscard]] QRect frame() const { return {{beyond().left(), beyond().top()}, place.box.size()}; }
+    /// The box of the layout inside the window, and the corner of the widget there.
+    [[nodiscard]] QRect boxInWindow() const { return {corner_, place.box.size()}; }
+    [[nodiscard]] QPoint widgetInWindow() const { return corner_ - frame().topLeft(); }
+
+    /// Pixels of the desk to the layout's pixel, and what of the widget is where in the layout's pixels.
+    [[nodiscard]] const Zoom& scale() const;
+    [[nodiscard]] QPointF inLayout(QPointF ofWidget) const { return scale().back(ofWidget); }
+    [[nodiscard]] QSizeF span();
 
     Control* const control; // null for decoration that no form knows
     const ControlLayout& place;
@@ -77,6 +91,8 @@ protected:
     Actor& actor_;
 
 private:
+    QPoint corner_; // of the box inside the window
+    QPoint around_; // of the widget around it
     std::string shownTip_;
 };
 
@@ -109,7 +125,7 @@ void pressEnter(Actor& actor, Control& control);
 bool isEnter(const QKeyEvent& event);
 
 /// Mouse position in pixels of a screen's ground.
-QPoint groundPosition(const Screen& screen, const QMouseEvent& event);
+QPoint groundPosition(const Actor& actor, const Screen& screen, const QMouseEvent& event);
 
 /// The view of a widget or of the nearest widget around it, null when there is none.
 View* viewOf(QObject* object);

@@ -22,7 +22,7 @@ void dressApplication(const Skin& skin) {
         tips.setColor(role, skin.style("tooltip.text"));
     }
     QToolTip::setPalette(tips);
-    QToolTip::setFont(skin.font("body"));
+    QToolTip::setFont(skin.widgetFont("body"));
 }
 
 WindowProgram::WindowProgram(const Services& s, const std::string& appDir)
@@ -33,7 +33,8 @@ WindowProgram::WindowProgram(const Services& s, const std::string& appDir)
           s.clock,    s.locale,    desktop,
           s.registry, s.processes, s.printer != nullptr ? *s.printer : static_cast<Printer&>(ownPrinter_),
           s.random,   loop_,       s.sound},
-      program(machine_, appDir), skin(appDir), desk(program.forms, skin) {
+      program(machine_, appDir), skin(appDir), desk(program.forms, skin), display(program.forms, desk),
+      ownSize_(s.ownSize) {
     dressApplication(skin);
     desktop.attach(&desk);
     loop_.attach(&desk);
@@ -50,6 +51,10 @@ WindowProgram::~WindowProgram() {
 }
 
 void WindowProgram::start() {
+    if (ownSize_) {
+        display.remember(program.session.AppDir);
+        askWishes(&display, [this](const Wishes& wishes) { display.heed(wishes); });
+    }
     startUp(program);
     desk.sync();
 }

@@ -4,6 +4,7 @@
 #include "window/Accelerators.h"
 #include "window/ContextMenus.h"
 #include "window/Desk.h"
+#include "window/Display.h"
 #include "window/QtMachine.h"
 #include "window/ShortCutKeys.h"
 #include "window/Skin.h"
@@ -28,6 +29,7 @@ public:
         Printer* printer = nullptr; // null: the computer's own
         TimeSource* time = nullptr; // null: the computer's own
         QtLoop* loop = nullptr;     // null: the plain one
+        bool ownSize = false;       // true: size and colours are proposed, heeded and remembered
     };
 
     /// `appDir` is a text of the program.
@@ -56,8 +58,10 @@ public:
     Program program;
     Skin skin;
     Desk desk;
+    Display display;
 
 private:
+    const bool ownSize_;
     ShortCutKeys shortCuts_{program, desk};
     Accelerators accelerators_{desk};
     ContextMenus contextMenus_{skin};

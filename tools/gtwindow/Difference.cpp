@@ -71,7 +71,7 @@ Words label(const Look& look) {
 
 /// The picture of a file, where the program folder has it.
 Words picture(const Look& look, const std::string& tail) {
-    const QPixmap file = look.desk.skin().picture(tail, look.view.widget()->devicePixelRatioF());
+    const QPixmap file = look.desk.skin().picture(tail, *look.view.widget());
     if (file.isNull()) return std::nullopt;
     if (!look.painted.pictures.empty() && look.painted.pictures.front().cacheKey() == file.cacheKey())
         return std::nullopt;
@@ -184,14 +184,14 @@ QString native(const Control& control, const std::string& text) {
     return out;
 }
 
-Words columns(const ListView& form, const QHeaderView& head) {
+Words columns(const ListView& form, const QHeaderView& head, const window::Zoom& zoom) {
     if (auto words = unequal("number of columns", head.count(), static_cast<int>(form.columns.size())))
         return words;
     for (int i = 0; i < head.count(); ++i) {
         const auto& column = form.columns[static_cast<std::size_t>(i)];
         const QString text = head.model()->headerData(i, Qt::Horizontal, Qt::DisplayRole).toString();
         if (auto words = unequal("head", text, window::toQt(column.text))) return words;
-        const int width = std::max(8, static_cast<int>(std::floor(column.width)));
+        const int width = zoom.edge(std::max(8, static_cast<int>(std::floor(column.width))));
         if (auto words = unequal("column width", head.sectionSize(i), width)) return words;
     }
     return std::nullopt;
@@ -241,7 +241,9 @@ Words list(const Look& look) {
         return words;
     if (auto words = unequal("enabled", table->isEnabled(), look.control.enabled)) return words;
     if (view) {
-        if (auto words = columns(static_cast<const ListView&>(look.control), *table->header())) return words;
+        if (auto words = columns(static_cast<const ListView&>(look.control), *table->header(),
+                                 look.desk.skin().zoom()))
+            return words;
     }
     return paintedRows(look, *table, rows);
 }
@@ -304,11 +306,12 @@ Words difference(window::Desk& desk, const Screen& screen) {
     if (auto words = unequal("visible", window.isVisible(), screen.visible)) return name + *words;
     if (!screen.visible || window.isMinimized()) return std::nullopt;
     if (auto words = unequal("enabled", window.isEnabled(), screen.enabled)) return name + *words;
-    const QPoint at(static_cast<int>(std::lround(screen.left)), static_cast<int>(std::lround(screen.top)));
+    const window::Zoom& zoom = desk.skin().zoom();
+    const QPoint at(zoom.edge(screen.left), zoom.edge(screen.top));
     if (auto words = unequal("left", window.x(), at.x())) return name + *words;
     if (auto words = unequal("top", window.y(), at.y())) return name + *words;
-    if (auto words = unequal("width", window.width(), screen.designWidth)) return name + *words;
-    if (auto words = unequal("height", window.height(), screen.designHeight)) return name + *words;
+    if (auto words = unequal("width", window.width(), zoom.edge(screen.designWidth))) return name + *words;
+    if (auto words = unequal("height", window.height(), zoom.edge(screen.designHeight))) return name + *words;
     return std::nullopt;
 }
 

@@ -145,7 +145,7 @@ void Pointer::doubleClick(const Spot& spot) {
 void Pointer::drag(const Spot& from, QPoint by) {
     press(from);
     if (from.window == nullptr) return;
-    const QPoint to = from.window->mapToGlobal(from.at) + by;
+    const QPoint to = from.window->mapToGlobal(from.at) + desk_.skin().zoom().point(by);
     move({from.window, from.window->mapFromGlobal(to)});
     if (from.window == nullptr) return;
     last_.at = from.window->mapFromGlobal(to);

@@ -74,7 +74,9 @@ int main(int count, char** arguments) {
     const auto processes = native::systemProcesses(say);
     const auto random = native::systemRandom();
     const auto sound = soundDevice(window);
-    window::WindowProgram program({*clock, *locale, *registry, *processes, *random, *sound}, folders.AppDir);
+    window::WindowProgram::Services services{*clock, *locale, *registry, *processes, *random, *sound};
+    services.ownSize = true;
+    window::WindowProgram program(services, folders.AppDir);
     window = &program;
     instance.onCall([&program] { program.toFront(); });
     program.run(
