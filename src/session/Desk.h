@@ -13,8 +13,8 @@ struct Desk {
     std::string ErrorText;   // description of the last failure, for the message that tells it
     int HelpPage = 0;
     Flag DragActive = kFalse;
-    int DragX = 0, DragY = 0; // pixels of the main screen's ground
-    std::string ExportKind;   // what the file picker was opened for
+    int DragX = 0, DragY = 0;           // pixels of the main screen's ground
+    std::string ExportKind;             // what the file picker was opened for
     std::string failedKind, failedName; // of the last export that did not stand: its name is proposed again
     std::string shownFile;              // of the message in front, or of the last one
 };

@@ -33,8 +33,8 @@ enum class Heading : int { Information = 1, Warning = 2 };
 struct Notice {
     Heading heading = Heading::Information;
     Message message = Message::Failure;
-    int errorNumber = 0;   // of Message::Failure
-    std::string errorText; // of Message::Failure: becomes ErrorText
+    int errorNumber = 0;     // of Message::Failure
+    std::string errorText;   // of Message::Failure: becomes ErrorText
     std::string file = {};   // path of what was written, or could not be; empty: no file
     std::string reason = {}; // why it could not be written, in plain words; empty: it was
 };

@@ -26,8 +26,7 @@ void ProgressView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     const Skin& skin = actor_.skin();
     const QSizeF box = place.box.size();
-    const double share =
-        static_cast<double>(value() - minimum()) / std::max(1, maximum() - minimum());
+    const double share = static_cast<double>(value() - minimum()) / std::max(1, maximum() - minimum());
     drawBox(painter, {0, 0, box.width(), box.height()}, skin.style("slider.groove"), QColor(), 3);
     if (value() > minimum())
         drawBox(painter, {1.5, 1.5, std::max(3.0, (box.width() - 3) * share), box.height() - 3},

@@ -45,8 +45,7 @@ std::optional<std::string> QtDesktop::askSavePath(const std::string& title, cons
     const QString ending = QFileInfo(path).suffix();
     const QString kinds =
         ending.isEmpty() ? QString() : ending.toUpper() + " files (*." + ending + ");;All files (*)";
-    const QString name =
-        QFileDialog::getSaveFileName(QApplication::activeWindow(), toQt(title), path, kinds);
+    const QString name = QFileDialog::getSaveFileName(QApplication::activeWindow(), toQt(title), path, kinds);
     return name.isEmpty() ? std::nullopt : std::optional(pathText(name));
 }
 

@@ -44,7 +44,8 @@ Notice ExportRC2(const ExportJob& job, const std::string& path) {
     const ExportMoment moment{job.longDate, twelveHourTime(job.now)};
     const auto plan = rc2Plan(job.plan, flightOf(job), moment, magneticTable(job), job.numbers);
     if (!plan) return warn(Message::PlanTooLong);
-    return written(files::replace(singleBackslashes(path), *plan), Message::RadarContactExported, "ExportRC2", singleBackslashes(path));
+    return written(files::replace(singleBackslashes(path), *plan), Message::RadarContactExported, "ExportRC2",
+                   singleBackslashes(path));
 }
 
 Notice ExportACSGPS(const ExportJob& job, const std::string& path) {
@@ -129,7 +130,7 @@ std::vector<std::string> rememberedExports() {
 
 std::error_code writeFs2000Plan(const ExportJob& job, const std::string& path) {
     return files::replace(singleBackslashes(path),
-                         fs2000Plan(job.plan, {job.stem, job.HaveAlternate}, job.numbers));
+                          fs2000Plan(job.plan, {job.stem, job.HaveAlternate}, job.numbers));
 }
 
 } // namespace gatewise
