@@ -54,4 +54,6 @@ TEST_PACKAGES=(libgtest-dev libbenchmark-dev libsqlite3-dev clang clang-format c
 PACKAGE_PACKAGES=(git dpkg-dev lintian patchelf xz-utils file qt6-wayland)
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 zip)
 
+# What another clone of the project has compiled serves this one too.
+export CCACHE_BASEDIR=$PWD CCACHE_NOHASHDIR=1
 launcher() { command -v ccache >/dev/null && echo "-DCMAKE_CXX_COMPILER_LAUNCHER=ccache" || true; }
