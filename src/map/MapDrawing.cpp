@@ -11,7 +11,6 @@ namespace gatewise::map {
 
 namespace {
 
-constexpr double kGrain = 0.6;             // pixels that an outline may lose
 constexpr std::size_t kRoutesOfWords = 24; // above this words need not keep off the routes
 constexpr double kMarkRadius = 4;          // pixels
 constexpr double kLeastRunway = 5;         // pixels
@@ -28,14 +27,14 @@ class Painter {
 public:
     Painter(const MapSight& sight, const Sheet& sheet, Drawing& out)
         : view_(sight, sheet.size), sheet_(sheet), out_(out), span_(sight.span),
-          clipper_(view_.projection(), view_.reach(), kGrain / view_.scale()),
+          clipper_(view_.projection(), view_.reach(), sheet.grain / view_.scale()),
           labels_(sheet.size.width, sheet.size.height) {}
 
     void ground(const Land* land) {
         Cut sea;
         sea.rings.push_back(clipper_.edge());
         addArea(sea, Tone::Water);
-        const LandLevel* level = land ? land->level(kGrain / view_.scale()) : nullptr;
+        const LandLevel* level = land ? land->level(sheet_.grain / view_.scale()) : nullptr;
         if (!level) return;
         addOutlines(level->land, Tone::Land);
         addOutlines(level->lakes, Tone::Water);

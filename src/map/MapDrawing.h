@@ -16,6 +16,7 @@ struct Sheet {
     double wordHeight = 10; // pixels, of capitals and figures
     /// Pixels of a word; without it a narrow face is supposed.
     std::function<double(std::string_view)> wordWidth;
+    double grain = 0.6; // pixels that an outline may lose
 
     [[nodiscard]] double widthOf(std::string_view word) const;
 };

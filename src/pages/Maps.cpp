@@ -21,16 +21,12 @@ Drawing wholeScene(const MapChart& chart) {
 Drawing paperMap(const MapScene& scene) {
     if (scene.places.empty()) return {};
     constexpr map::SheetSize kHalf{700, 480}; // pixels of a screen: half a sheet less its margins
-    const map::Sheet sheet{kHalf, 9, {}};
-    Drawing out = drawMap(scene, fitted(scene, kHalf), sheet);
-    out.aspect = kHalf.width / kHalf.height;
-    return out;
-}
-
-Drawing paperMap(const MapScene& scene) {
-    if (scene.places.empty()) return {};
-    constexpr map::SheetSize kHalf{700, 480}; // pixels of a screen: half a sheet less its margins
-    const map::Sheet sheet{kHalf, 9, {}};
+    map::Sheet sheet;
+    sheet.size = kHalf;
+    sheet.wordHeight = 9;
+    // Everything is printed in one pitch, ten points high.
+    sheet.wordWidth = [](std::string_view word) { return 8.0 * static_cast<double>(word.size()); };
+    sheet.grain = 0.15; // a printer shows more than a screen
     Drawing out = drawMap(scene, fitted(scene, kHalf), sheet);
     out.aspect = kHalf.width / kHalf.height;
     return out;
