@@ -3,8 +3,6 @@
 #include "window/Drawing.h"
 #include "window/Skin.h"
 
-#include <QPainter>
-
 #include <algorithm>
 
 namespace gatewise::window {
@@ -23,7 +21,7 @@ void ProgressView::sync() {
 
 /// A groove that fills from the left, drawn in the pixels of the layout.
 void ProgressView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
+    ViewPainter painter(*this, scale());
     const Skin& skin = actor_.skin();
     const QSizeF box = place.box.size();
     const double share = static_cast<double>(value() - minimum()) / std::max(1, maximum() - minimum());
