@@ -9,7 +9,7 @@ const QColor kAsleep(0x4A, 0x55, 0x5F);
 constexpr int kLine = 2;    // height of the line under a page's name
 constexpr int kInset = 10;  // of the line from both edges
 constexpr double kTip = 4;  // half width of the arrow
-constexpr double kEdge = 9; // its middle from the right edge
+constexpr double kEdge = 6; // its middle from the right edge
 
 void drawArrow(QPainter& painter, const QRect& box, const QColor& color) {
     const double x = box.right() - kEdge;

@@ -68,6 +68,16 @@ TEST_F(Written, AnExportNamesItsFileAndOpensItsFolder) {
     play();
 }
 
+TEST_F(Written, F1OpensTheHelpPageOfTheBoard) {
+    Opener opener;
+    then([&] {
+        stage().key(Qt::Key_F1);
+        ASSERT_EQ(opener.opened.size(), 1);
+        EXPECT_TRUE(opener.opened[0].endsWith("help/boards.htm")) << opener.opened[0].toStdString();
+    });
+    play();
+}
+
 TEST_F(Written, AMessageWithoutAFileHasNoKeyForOne) {
     then([&] { stage().doubleClick(main().city_LABEL(3)); });
     then([&] { stage().click(main().sendlogButton); });
