@@ -1,7 +1,7 @@
 #include "window/AccessFields.h"
 
+#include "window/AccessOf.h"
 #include "window/AccessViews.h"
-#include "window/Accessible.h"
 
 #include <QAbstractItemView>
 #include <QAbstractSlider>

@@ -1,6 +1,6 @@
 #include "window/AccessTables.h"
 
-#include "window/Accessible.h"
+#include "window/AccessOf.h"
 
 namespace gatewise::window {
 

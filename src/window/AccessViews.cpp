@@ -1,6 +1,6 @@
 #include "window/AccessViews.h"
 
-#include "window/Accessible.h"
+#include "window/AccessOf.h"
 #include "window/FocusRing.h"
 #include "window/LinesTable.h"
 
@@ -17,7 +17,9 @@ QObjectList GroundAccess::objects() const {
     for (QObject* object : widget()->children()) {
         const auto* view = dynamic_cast<const View*>(object);
         const bool table = dynamic_cast<const LinesTable*>(object) != nullptr;
+        // A list that cannot be seen is not there: its rows would be told as shown.
         const bool shown = object->isWidgetType() && dynamic_cast<const FocusRing*>(object) == nullptr &&
+                           static_cast<const QWidget*>(object)->isVisible() &&
                            !static_cast<const QWidget*>(object)->isWindow();
         if (view != nullptr ? view->lines == nullptr && !view->silent() : table || shown) out << object;
     }

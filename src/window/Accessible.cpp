@@ -1,6 +1,7 @@
 #include "window/Accessible.h"
 
 #include "window/AccessFields.h"
+#include "window/AccessOf.h"
 #include "window/AccessTables.h"
 #include "window/AccessViews.h"
 #include "window/Buttons.h"

@@ -7,11 +7,6 @@ namespace gatewise::window {
 /// Tells the toolkit how to describe the views to screen readers. Once in a process.
 void installAccessibility();
 
-/// The description of an object, null for none.
-inline QAccessibleInterface* accessOf(QObject* object) {
-    return object == nullptr ? nullptr : QAccessible::queryAccessibleInterface(object);
-}
-
 /// Has a screen reader say something when it has ended what it says now. Nothing without one.
 void announce(QWidget& window, const QString& words);
 
