@@ -64,7 +64,7 @@ private:
 };
 
 /// What a view without its picture shows in words; nothing for one that has none.
-std::optional<QString> wordsOf(const View& view) {
+std::optional<QString> shownWords(const View& view) {
     const Control& control = *view.control;
     if (control.kind == Kind::Label && !view.place.font.empty())
         return window::toQt(static_cast<const Label&>(control).text);
@@ -186,7 +186,9 @@ TEST_F(Screens, CaptionsAreNotClipped) {
             style.lines = 0;
             const double width = view->place.box.width() - 2 * style.pad;
             const auto lines = window::linesOf(text, style, width);
-            if (room > 0) EXPECT_LE(lines.size(), room) << view->control->fullName();
+            if (room > 0) {
+                EXPECT_LE(lines.size(), room) << view->control->fullName();
+            }
             for (const QString& line : lines) {
                 EXPECT_LE(window::advance(line.trimmed(), style), width + 0.5)
                     << view->control->fullName() << ": " << line.toStdString();
@@ -229,7 +231,7 @@ TEST_F(Screens, WithoutPicturesEveryScreenIsStillDrawn) {
         for (View* view : window.views()) {
             const QWidget* widget = view->widget();
             if (view->control == nullptr || !widget->isVisibleTo(&window)) continue;
-            const auto words = wordsOf(*view);
+            const auto words = shownWords(*view);
             if (!words) continue;
             EXPECT_EQ(written.on(*widget), words->toStdString()) << view->control->fullName();
         }
