@@ -16,13 +16,13 @@ constexpr QSize kBadge(15, 15);
 class Letters : public QWidget {
 public:
     Letters(ScreenWindow& window, const Skin& skin)
-        : QWidget(&window), font_(skin.font("section")), back_(skin.style("tooltip.back")),
+        : QWidget(&window), font_(skin.widgetFont("section")), back_(skin.style("tooltip.back")),
           ink_(skin.style("tooltip.text")) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setGeometry(window.rect());
         for (const auto& [letter, view] : Accelerators::lettersOf(window)) {
-            const QPoint at = view->widget()->mapTo(&window, view->frame().topLeft());
-            places_.emplace_back(letter, QRect(at + QPoint(1, 1), kBadge));
+            const QPoint at = skin.zoom().point(view->boxInWindow().topLeft() + QPoint(1, 1));
+            places_.emplace_back(letter, QRect(at, skin.zoom().size(kBadge)));
         }
         font_.setUnderline(true);
         raise();
@@ -68,6 +68,7 @@ QChar freeLetter(const QString& words, const std::map<QChar, View*>& taken) {
 /// Fields and lists are gone to, boxes are turned, keys are pressed.
 void use(View& view, Desk& desk) {
     view.widget()->setFocus(Qt::ShortcutFocusReason);
+    if (view.control == nullptr) return view.activate(); // a key of the window's own
     Control& control = *view.control;
     switch (control.kind) {
     case Kind::Check:

@@ -63,7 +63,7 @@ ContextMenus::ContextMenus(const Skin& skin) : skin_(skin) {
 QMenu* ContextMenus::menuOf(QWidget& field) const {
     auto* menu = new QMenu(&field);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->setFont(skin_.font("data"));
+    menu->setFont(skin_.widgetFont("data"));
     menu->setStyleSheet(styleOf(skin_));
     if (auto* line = qobject_cast<QLineEdit*>(&field)) fill(*menu, *line);
     if (auto* notes = qobject_cast<QPlainTextEdit*>(&field)) fill(*menu, *notes);

@@ -13,8 +13,7 @@ bool isLetter(const QKeyEvent& event) {
 
 } // namespace
 
-Narrowing::Narrowing(QTreeView& list, const Skin& skin) : list_(list), sign_(new QLabel(&list)) {
-    sign_->setFont(skin.font("data"));
+Narrowing::Narrowing(QTreeView& list, const Skin& skin) : list_(list), skin_(skin), sign_(new QLabel(&list)) {
     sign_->setTextFormat(Qt::PlainText);
     sign_->setAttribute(Qt::WA_TransparentForMouseEvents);
     sign_->setStyleSheet(QString("background:%1;color:%2;padding:0 8px")
@@ -45,7 +44,9 @@ void Narrowing::show(bool refused) {
     for (int row = 0; row < rows; ++row) list_.setRowHidden(row, {}, !matches(row, typed_));
     const QString help = refused ? "  No line has more of it." : "  Esc shows all lines.";
     sign_->setText("Only: " + typed_ + help);
-    sign_->setGeometry(0, list_.height() - kHeight, list_.width(), kHeight);
+    sign_->setFont(skin_.widgetFont("data"));
+    const int height = skin_.zoom().edge(kHeight);
+    sign_->setGeometry(0, list_.height() - height, list_.width(), height);
     sign_->setVisible(!typed_.isEmpty() || refused);
     sign_->raise();
 }

@@ -28,6 +28,7 @@ private:
     void show(bool refused);
     void narrow(const QString& typed, const std::function<void(int)>& choose);
     QTreeView& list_;
+    const Skin& skin_;
     QLabel* sign_; // the typed letters, at the foot of the list
     QString typed_;
 };

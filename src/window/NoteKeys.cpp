@@ -1,6 +1,8 @@
 #include "window/NoteKeys.h"
 
 #include "window/Buttons.h"
+#include "window/Drawing.h"
+#include "window/Skin.h"
 
 #include <QDesktopServices>
 #include <QFileInfo>
@@ -19,7 +21,7 @@ class OpenKey : public QPushButton {
 public:
     OpenKey(const QString& words, const QString& path, const Skin& skin, QWidget* parent)
         : QPushButton(words, parent), skin_(skin) {
-        setFixedSize(kKey);
+        setFixedSize(skin.zoom().size(kKey));
         setAttribute(Qt::WA_Hover);
         connect(this, &QPushButton::clicked, this,
                 [path] { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); });
@@ -27,8 +29,8 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        drawKey(painter, rect(), text(), skin_, underMouse() || isDown() || hasFocus(), true);
+        ViewPainter painter(*this, skin_.zoom());
+        drawKey(painter, painter.whole(), text(), skin_, underMouse() || isDown() || hasFocus(), true);
     }
 
 private:
@@ -46,7 +48,7 @@ QWidget* makeOpenKeys(const QString& file, int width, const Skin& skin, QWidget*
     keys->addStretch();
     if (file.endsWith(".pdf", Qt::CaseInsensitive)) keys->addWidget(new OpenKey("Open", file, skin, row));
     keys->addWidget(new OpenKey("Open Folder", QFileInfo(file).absolutePath(), skin, row));
-    row->setFixedSize(width, kKey.height());
+    row->setFixedSize(width, skin.zoom().edge(kKey.height()));
     return row;
 }
 

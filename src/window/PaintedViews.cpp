@@ -42,6 +42,8 @@ void GroundView::paintEvent(QPaintEvent* event) {
     }
     ViewPainter painter(*this, scale());
     drawPicture(painter, painter.whole(), picture);
+    // Black on black, a window shows where it ends.
+    if (highContrast() && parentWidget()->isWindow()) drawBox(painter, painter.whole(), QColor(), kSocket, 0);
 }
 
 /// A well has a light line below its box.

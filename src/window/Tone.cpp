@@ -65,6 +65,8 @@ QColor inkOf(const QColor& color) {
 
 QColor edgeOf(const QColor& color) {
     if (!strong || !color.isValid()) return color;
+    // What is lit, as the ring of the keyboard, stays lit.
+    if (std::max({color.redF(), color.greenF(), color.blueF()}) > kWhite) return color;
     return {0xC5, 0xD0, 0xDA};
 }
 
