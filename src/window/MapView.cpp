@@ -44,7 +44,7 @@ void MapView::sync() {
     syncCommon();
     if (mapChart().scene == shown_ && chart().chosen == chosen_) return;
     // Other places are shown whole; another choice, or news of the same places, leaves the map where it is.
-    if (!samePlaces(mapChart().scene, shown_)) fits_ = true;
+    if (!map::samePlaces(mapChart().scene, shown_)) fits_ = true;
     shown_ = mapChart().scene;
     chosen_ = chart().chosen;
     if (fits_) sight_ = fitted(shown_, size());
