@@ -81,6 +81,8 @@ constexpr ShortCut kShortCuts[] = {
      "Presses the key in force. In a search field it starts the search, in a list it takes the marked line."},
     {"Esc", "Everywhere", "Presses the close key of the screen in front."},
     {"Ctrl+M", "Everywhere", "Mutes all sounds, or brings them back.", mute},
+    {"Ctrl+Wheel", "Everywhere", "Makes all windows larger and smaller, as Ctrl with plus and minus do."},
+    {"Ctrl+0", "Everywhere", "All windows in their own size, 100 per cent."},
     {"Wheel", "Status board", "Turns the pages."},
     {"PgUp", "Status board", "The page before.", turn<-1>},
     {"PgDown", "Status board", "The next page.", turn<1>},
