@@ -24,8 +24,9 @@ if [ ! -e "$bare.complete" ]; then
   touch "$bare.complete"
 fi
 root=$(mktemp -d "${TMPDIR:-/tmp}/gatewise-try.XXXXXX")
-trap 'rm -rf "$root"' EXIT
+trap 'umount "$root/proc" 2>/dev/null; rm -rf --one-file-system "$root"' EXIT
 cp -a "$bare/." "$root/"
+mount -t proc proc "$root/proc" # programs ask it where they lie
 cp /etc/resolv.conf "$root/etc/" 2>/dev/null || true
 chroot "$root" useradd --create-home pilot
 
@@ -45,8 +46,9 @@ runs() { # program, folder of the settings
 
 # The board of Atlanta by the driver, from resources wherever they are.
 drives() { # driver, resources
-  printf 'now 2002-06-17 07:05:00\nstart\nget MainForm.city_LABEL(0)\nquit\n' |
-    as_pilot "$1" "$2" | grep -q '^" *[A-Z]' || fail "$1 shows no board"
+  local said
+  said=$(printf 'now 2002-06-17 07:05:00\nstart\nget MainForm.city_LABEL(0)\nquit\n' | as_pilot "$1" "$2")
+  grep -q '^" *[A-Z]' <<<"$said" || fail "$1 shows no board: $said"
 }
 
 version=$(sed -n 's/^project(.* VERSION \([0-9.]*\) .*/\1/p' CMakeLists.txt)
