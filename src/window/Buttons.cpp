@@ -179,7 +179,9 @@ void PushButtonView::keyPressEvent(QKeyEvent* event) {
 
 void PushButtonView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this, scale());
-    drawKey(painter, painter.whole(), text(), actor_.skin(), underMouse() || isDown(), isEnabled());
+    // A key that is off does not light up, nor does it learn that the mouse has left it.
+    const bool lit = isEnabled() && (underMouse() || isDown());
+    drawKey(painter, painter.whole(), text(), actor_.skin(), lit, isEnabled());
 }
 
 } // namespace gatewise::window

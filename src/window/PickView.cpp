@@ -37,10 +37,24 @@ PickView::Under PickView::under(QPointF at) const {
 
 std::optional<QPoint> PickView::pointOf(int id) const {
     const QRectF box = sheet();
-    for (const auto& mark : painted().marks) {
-        const QPointF at = box.topLeft() + QPointF(mark.at.x * box.width(), mark.at.y * box.height());
+    const auto meant = [&](const DrawingPoint& p) -> std::optional<QPoint> {
+        const QPointF at = box.topLeft() + QPointF(p.x * box.width(), p.y * box.height());
         const QPoint pixel = (at * scale().factor).toPoint();
-        if (mark.id == id && under(inLayout(pixel)).id == id) return pixel;
+        if (!box.contains(at) || under(inLayout(pixel)).id != id) return std::nullopt;
+        return pixel;
+    };
+    for (const auto& mark : painted().marks) {
+        if (mark.id != id) continue;
+        if (const auto pixel = meant(mark.at)) return pixel;
+    }
+    // Of a route any place between its points that no mark and no other route covers.
+    for (const auto& line : painted().lines) {
+        if (line.id != id) continue;
+        for (std::size_t i = 1; i < line.points.size(); ++i) {
+            const DrawingPoint& a = line.points[i - 1];
+            const DrawingPoint& b = line.points[i];
+            if (const auto pixel = meant({(a.x + b.x) / 2, (a.y + b.y) / 2})) return pixel;
+        }
     }
     return std::nullopt;
 }
