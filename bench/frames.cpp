@@ -42,7 +42,7 @@ MapScene sceneOf(const SceneRow& row, const std::shared_ptr<const Land>& land) {
     scene.land = land;
     for (int i = 0; i < row.routes; ++i) {
         const MapSpot to{static_cast<double>(51 - (i * 37) % 90), static_cast<double>((i * 53) % 360 - 180)};
-        scene.routes.push_back({{{51, 0}, to}, Tone::Flight, 1 + i % 4, "", i, {}});
+        scene.routes.push_back({{{51, 0}, to}, Tone::Flight, 1.0 + i % 4, "", i, {}});
         scene.places.push_back({to, Tone::Fix, "K" + std::to_string(100 + i), "", i});
     }
     return scene;

@@ -1,3 +1,4 @@
+#include "map/LandData.h"
 #include "map/MapDrawing.h"
 #include "map/RoutesMap.h"
 #include "platform/Files.h"

@@ -20,7 +20,8 @@ programs::Route longRoute() {
     for (int i = 1; i <= kPoints - 2; ++i) {
         PlanPoint& point = plan.at(i);
         point.pointType = "HI";
-        point.pointName = point.pointId = "F" + std::to_string(1000 + i);
+        point.pointName = "F" + std::to_string(1000 + i);
+        point.pointId = point.pointName.trimmed();
         point.pointDescription = "Intersection";
         point.pointAirway = "J80";
         point.pointLatitude = 10 + 0.31F * static_cast<float>(i);
