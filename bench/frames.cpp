@@ -1,3 +1,4 @@
+#include "map/LandData.h"
 #include "map/MapDrawing.h"
 #include "platform/Files.h"
 #include "window/ChartView.h"
