@@ -224,7 +224,7 @@ TEST_F(Signs, ATipStandsBesideThePointer) {
         const QPoint at = key.rect().center();
         QHelpEvent help(QEvent::ToolTip, at, key.mapToGlobal(at));
         QApplication::sendEvent(&key, &help);
-        EXPECT_EQ(QToolTip::text(), "Next page (Page Down)");
+        EXPECT_EQ(QToolTip::text(), "Next page, upper key (Page Down)");
         QToolTip::hideText();
     });
     play();
