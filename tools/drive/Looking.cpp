@@ -195,7 +195,7 @@ void writePrinted(Session& session, JsonWriter& json) {
         json.text(page.text);
         if (!page.file.empty()) {
             json.key("file");
-            json.text(page.file);
+            json.text(replaceAll(page.file, "\\", "/")); // however it was asked for
         }
         json.endObject();
     }
