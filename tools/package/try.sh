@@ -10,6 +10,7 @@ skip() {
 }
 [ "$(id -u)" -eq 0 ] || skip "a system of its own takes root's rights"
 command -v debootstrap >/dev/null || skip "debootstrap is not installed"
+[ -d build/packages ] || skip "there is no build/packages"
 archive=$(find build/packages -name 'gatewise-*-linux-*.tar.xz' 2>/dev/null | tail -1)
 package=$(find build/packages -name 'gatewise_*.deb' 2>/dev/null | tail -1)
 [ -n "$archive" ] && [ -n "$package" ] || skip "build/packages lacks an archive or a package"
@@ -18,8 +19,9 @@ package=$(find build/packages -name 'gatewise_*.deb' 2>/dev/null | tail -1)
 bare=${GATEWISE_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/gatewise}/bare-bookworm
 if [ ! -e "$bare.complete" ]; then
   mirror=$(apt-get indextargets --format '$(REPO_URI)' 'Created-By: Packages' 'Codename: bookworm' | head -1)
+  [ -n "$mirror" ] || skip "this machine knows no mirror of Debian 12"
   rm -rf "$bare"
-  debootstrap --variant=minbase bookworm "$bare" "${mirror:-http://deb.debian.org/debian}" >/dev/null
+  debootstrap --variant=minbase bookworm "$bare" "$mirror" >/dev/null
   rm -rf "$bare"/var/cache/apt/archives/*.deb
   touch "$bare.complete"
 fi
