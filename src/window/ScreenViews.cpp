@@ -85,9 +85,9 @@ private:
         for (const auto& [name, container] : layout_.containers) {
             Control* control = screen_.find(name);
             if (control == nullptr || control->kind != Kind::Container) continue;
-            const bool listed =
-                std::any_of(layout_.controls.begin(), layout_.controls.end(),
-                            [&](const ControlLayout& c) { return c.name == name && c.container != name; });
+            const bool listed = std::any_of(
+                layout_.controls.begin(), layout_.controls.end(),
+                [&, &name = name](const ControlLayout& c) { return c.name == name && c.container != name; });
             if (listed) continue;
             ControlLayout& place = out_.grounds.emplace_back();
             place.name = name;

@@ -48,7 +48,7 @@ def driver_faults(driver, project):
     found += differences('function', calls, named)
 
     source = (project / 'tools/drive/Properties.cpp').read_text(encoding='utf-8')
-    properties = set(re.findall(r'\{"(\w+)", (?:field|screenField|itemText|row\w+|interval)', source)) | {'enabled'}
+    properties = set(re.findall(r'\{"(\w+)", (?:field|screenField|itemText|row\w+|interval|mark)\b', source)) | {'enabled'}
     named = set(SPAN.findall(section(text, '| kind | properties |', '\n\n')))
     return found + differences('property', properties, named)
 
