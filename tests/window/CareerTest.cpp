@@ -38,6 +38,19 @@ protected:
             stage().key(Qt::Key_Return);
         });
     }
+    /// Answers the system's dialog for files as soon as it is up.
+    void pick(const std::filesystem::path& file) {
+        auto* watch = new QTimer(&stage().desk());
+        QObject::connect(watch, &QTimer::timeout, watch, [watch, file] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (dialog == nullptr) return;
+            watch->stop();
+            watch->deleteLater();
+            dialog->selectFile(QString::fromStdString(file.string()));
+            static_cast<QDialog*>(dialog)->accept();
+        });
+        watch->start(10);
+    }
     void leave() {
         then([&] { stage().key(Qt::Key_Escape); });
         play();
@@ -92,12 +105,7 @@ TEST_F(CareerWindow, EscapeLeavesThePreviewFirst) {
 
 TEST_F(CareerWindow, AnEmptyFieldAsksForTheFile) {
     then([&] {
-        QTimer::singleShot(0, &stage().desk(), [&] {
-            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-            ASSERT_NE(dialog, nullptr);
-            dialog->selectFile(QString::fromStdString((folder() / "flown.csv").string()));
-            static_cast<QDialog*>(dialog)->accept();
-        });
+        pick(folder() / "flown.csv");
         stage().click(form().importButton);
     });
     then([&] { EXPECT_EQ(form().preview_LABEL.text, "3 new flights."); });
@@ -111,12 +119,7 @@ TEST_F(CareerWindow, IsSavedAsPictureAndPages) {
     then([&] { stage().click(form().takeButton); });
     for (const char* name : {"Mine.png", "Mine.pdf"}) {
         then([&, name] {
-            QTimer::singleShot(0, &stage().desk(), [&, name] {
-                auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-                ASSERT_NE(dialog, nullptr);
-                dialog->selectFile(QString::fromStdString((folder() / name).string()));
-                static_cast<QDialog*>(dialog)->accept();
-            });
+            pick(folder() / name);
             stage().click(std::string_view(name).ends_with("png") ? form().pngButton : form().pdfButton);
         });
     }
