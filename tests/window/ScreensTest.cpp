@@ -199,7 +199,7 @@ TEST_F(Screens, CaptionsAreNotClipped) {
             EXPECT_LE(height, view->place.box.height()) << view->control->fullName();
         }
     }
-    EXPECT_GT(looked, 150) << "most labels have a text before the program fills them";
+    EXPECT_GT(looked, 140) << "most labels have a text before the program fills them";
 }
 
 TEST_F(Screens, TabStopsFollowTheLayout) {
@@ -223,6 +223,8 @@ TEST_F(Screens, TabStopsFollowTheLayout) {
 TEST_F(Screens, WithoutPicturesEveryScreenIsStillDrawn) {
     const QTemporaryDir empty;
     makeStage(empty.path().toStdString());
+    // One page of the main screen: what lies under another is not painted.
+    for (Control* page : {&forms().MainForm.status_pic, &forms().MainForm.log_pic}) page->visible = false;
     for (Screen* screen : forms().all()) {
         auto& window = stage().desk().window(*screen);
         window.sync();
