@@ -38,18 +38,19 @@ protected:
             stage().key(Qt::Key_Return);
         });
     }
-    /// Answers the system's dialog for files as soon as it is up.
-    void pick(const std::filesystem::path& file) {
-        auto* watch = new QTimer(&stage().desk());
-        QObject::connect(watch, &QTimer::timeout, watch, [watch, file] {
+    /// Answers the dialog that asks for a file, as soon as it is up.
+    void answerDialog(const char* file) {
+        auto* timer = new QTimer(&stage().desk());
+        const QString name = QString::fromStdString((folder() / file).string());
+        QObject::connect(timer, &QTimer::timeout, timer, [timer, name] {
             auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
             if (dialog == nullptr) return;
-            watch->stop();
-            watch->deleteLater();
-            dialog->selectFile(QString::fromStdString(file.string()));
+            timer->stop();
+            timer->deleteLater();
+            dialog->selectFile(name);
             static_cast<QDialog*>(dialog)->accept();
         });
-        watch->start(10);
+        timer->start(5);
     }
     void leave() {
         then([&] { stage().key(Qt::Key_Escape); });
@@ -105,7 +106,7 @@ TEST_F(CareerWindow, EscapeLeavesThePreviewFirst) {
 
 TEST_F(CareerWindow, AnEmptyFieldAsksForTheFile) {
     then([&] {
-        pick(folder() / "flown.csv");
+        answerDialog("flown.csv");
         stage().click(form().importButton);
     });
     then([&] { EXPECT_EQ(form().preview_LABEL.text, "3 new flights."); });
@@ -119,7 +120,7 @@ TEST_F(CareerWindow, IsSavedAsPictureAndPages) {
     then([&] { stage().click(form().takeButton); });
     for (const char* name : {"Mine.png", "Mine.pdf"}) {
         then([&, name] {
-            pick(folder() / name);
+            answerDialog(name);
             stage().click(std::string_view(name).ends_with("png") ? form().pngButton : form().pdfButton);
         });
     }
