@@ -10,8 +10,8 @@ LogEntry::LogEntry()
 
 CareerForm::CareerForm()
     : Screen("CareerForm", "Gatewise Terminal - Career", 620, 440, "\\Images\\Dispatch_BG.bmp") {
-    totals.columns.push_back({"Name", 0.42});
-    totals.columns.push_back({"Value", 0.58});
+    totals.columns.push_back({"Name", 0.38});
+    totals.columns.push_back({"Value", 0.62});
     previewList.columns.push_back({"Row", 0.07});
     previewList.columns.push_back({"Date", 0.13});
     previewList.columns.push_back({"From", 0.09});

@@ -63,7 +63,7 @@ struct CareerForm : Screen {
     Combo aircraftCOMBO{*this, "aircraftCOMBO"};
     Label airlineCaption{*this, "airlineCaption", "Airline"};
     Combo airlineCOMBO{*this, "airlineCOMBO"};
-    ListView totals{*this, "totals", 232};
+    ListView totals{*this, "totals", 280};
     MapChart map{*this, "map"};
     Chart bars{*this, "bars"};
     Label hover_LABEL{*this, "hover_LABEL"};
