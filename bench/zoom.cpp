@@ -31,7 +31,8 @@ void boardFrame(benchmark::State& state) {
     for (auto _ : state) ground.repaint();
 }
 
-/// The texts of all rows, each put on the screen by itself: more than a turn of the board, which is one frame.
+/// The texts of all rows, each put on the screen by itself: more than a turn of the board, which is one
+/// frame.
 void boardTurn(benchmark::State& state) {
     auto& stage = *theStage;
     stage.window.display.choosePercent(static_cast<int>(state.range(0)));
