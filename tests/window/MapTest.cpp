@@ -3,6 +3,7 @@
 #include "window/StageTest.h"
 
 #include <QApplication>
+#include <QMouseEvent>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -28,6 +29,12 @@ protected:
     void wheel(int notches, QPoint at) {
         QWheelEvent event(at, map().mapToGlobal(QPointF(at)), {}, {0, 120 * notches}, Qt::NoButton,
                           Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&map(), &event);
+    }
+    /// A mouse without a button held, whatever was pressed before.
+    void point(QPoint at) {
+        QMouseEvent event(QEvent::MouseMove, at, map().mapToGlobal(QPointF(at)), Qt::NoButton, Qt::NoButton,
+                          Qt::NoModifier);
         QApplication::sendEvent(&map(), &event);
     }
     void end() {
@@ -108,7 +115,7 @@ TEST_F(Map, ADoubleClickCentres) {
         // A place where nothing can be picked.
         QPoint at = middle() + QPoint(60, 30);
         const auto free = [&] {
-            QTest::mouseMove(&map(), at);
+            point(at);
             return map().cursor().shape() == Qt::ArrowCursor;
         };
         while (at.x() < map().width() - 20 && !free()) at += QPoint(7, 2);
@@ -127,7 +134,7 @@ TEST_F(Map, ThePointerSaysWhatIsThereAndAClickPicksIt) {
     then([&] {
         const auto at = map().pointOf(0);
         ASSERT_TRUE(at);
-        QTest::mouseMove(&map(), *at);
+        point(*at);
         EXPECT_EQ(routes().map.chosen, 0);
         const auto& all = routes().map.scene.routes;
         const auto route = std::find_if(all.begin(), all.end(), [](const MapRoute& r) { return r.id == 0; });
@@ -135,7 +142,7 @@ TEST_F(Map, ThePointerSaysWhatIsThereAndAClickPicksIt) {
         EXPECT_EQ(routes().hover_LABEL.text, route->words);
         EXPECT_NE(routes().hover_LABEL.text, routes().map.scene.summary);
         EXPECT_EQ(map().cursor().shape(), Qt::PointingHandCursor);
-        QTest::mouseMove(&map(), {1, 1});
+        point({1, 1});
         EXPECT_EQ(routes().hover_LABEL.text, routes().map.scene.summary);
         QTest::mouseClick(&map(), Qt::LeftButton, {}, *at);
     });
