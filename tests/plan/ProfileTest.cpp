@@ -147,7 +147,7 @@ TEST(Level, HostileNumbersComeToAnEnd) {
         world.type().CruiseAltitude = number;
         world.departure().Elevation = number;
         world.build();
-        world.destination().Elevation = -number / 2;
+        world.destination().Elevation = -(number / 2);
         world.build();
     }
     world.type().CruiseSpeedTAS = 0;
