@@ -256,8 +256,8 @@ TEST(ProfileSize, FiftyMegabytesAreReadAndWrittenInOnePass) {
     const std::string out = profile.content();
     const double seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
     EXPECT_GT(out.size(), content.size());
-    // The work of one pass; a pass for each key took a quarter of a minute.
-    EXPECT_LT(seconds, 5.0);
+    // The work of one pass; a pass for each key took half a minute without any checks.
+    EXPECT_LT(seconds, 20.0); // checked builds among them
     RecordProperty("seconds", std::to_string(seconds));
 }
 
