@@ -11,7 +11,7 @@ namespace gatewise {
 
 namespace {
 
-LogFiles bookFiles(const Program& p) {
+LogFiles logBookFiles(const Program& p) {
     return logFiles(p.session.AppDir, p.session.settings.FsPath);
 }
 
@@ -98,7 +98,7 @@ Waited takeOver(Program& p) {
     if (!p.forms.CareerForm.takeButton.enabled) return waited(p);
     CareerDesk& desk = p.session.career;
     if (const auto error =
-            takeLog(bookFiles(p), p.session.schedule.tables, p.machine.clock.now(), p.session.log, desk))
+            takeLog(logBookFiles(p), p.session.schedule.tables, p.machine.clock.now(), p.session.log, desk))
         return ShowMessage(p, failure(error, "ImportLog"));
     const auto taken = desk.found.entries.size();
     follow(p, std::to_string(taken) + (taken == 1 ? " flight was" : " flights were") + " taken over.");
@@ -107,8 +107,8 @@ Waited takeOver(Program& p) {
 
 Waited undo(Program& p) {
     if (!p.forms.CareerForm.undoButton.enabled) return waited(p);
-    const ImportUndo done = importUndo(bookFiles(p), p.session.log);
-    if (const auto error = undoImport(bookFiles(p), p.machine.clock.now(), p.session.log))
+    const ImportUndo done = importUndo(logBookFiles(p), p.session.log);
+    if (const auto error = undoImport(logBookFiles(p), p.machine.clock.now(), p.session.log))
         return ShowMessage(p, failure(error, "UndoImport"));
     follow(p, undoneText(done));
     return waited(p);
@@ -120,7 +120,7 @@ void resetCareerImport(Program& p) {
     dropPreview(p);
     auto& f = p.forms.CareerForm;
     f.preview_LABEL.text = "";
-    f.undoButton.enabled = importUndo(bookFiles(p), p.session.log).out > 0;
+    f.undoButton.enabled = importUndo(logBookFiles(p), p.session.log).out > 0;
 }
 
 void bindCareerImport(Program& p) {

@@ -31,8 +31,10 @@ Pages careerPages(const Program& p) {
     const Career flown = shownCareer(p);
     Pages pages;
     pages.text = "CAREER" + p.forms.MainForm.log_pilotName.text + "\n" + filterText(f) + "\n\n";
-    for (const auto& [name, value] : careerRows(flown, p.session.locale.numbers))
-        pages.text += name + std::string(name.size() < kNames ? kNames - name.size() : 1, ' ') + value + "\n";
+    for (const auto& [name, value] : careerRows(flown, p.session.locale.numbers)) {
+        pages.text.append(name).append(name.size() < kNames ? kNames - name.size() : 1, ' ');
+        pages.text.append(value).append("\n");
+    }
     if (!f.map.scene.places.empty()) pages.drawings.push_back(paperMap(f.map.scene));
     if (flown.flights > 0) pages.drawings.push_back(careerBars(flown));
     return pages;

@@ -62,7 +62,7 @@ fs::path child(const fs::path& folder, std::string_view component) {
     return exact;
 }
 
-bool isSlash(char c) {
+bool isSeparator(char c) {
     return c == '/' || c == '\\';
 }
 
@@ -70,12 +70,12 @@ bool isSlash(char c) {
 /// two of them. `at` moves behind it.
 fs::path rootOf(std::string_view path, [[maybe_unused]] std::size_t& at) {
 #ifdef _WIN32
-    if (path.size() > 2 && isSlash(path[1]) && !isSlash(path[2])) {
+    if (path.size() > 2 && isSeparator(path[1]) && !isSeparator(path[2])) {
         at = std::min(path.find_first_of("/\\", 2), path.size());
         return pathOfUtf8("//" + nativeName(path.substr(2, at - 2)) + "/");
     }
 #endif
-    return !path.empty() && isSlash(path[0]) ? fs::path("/") : fs::path();
+    return !path.empty() && isSeparator(path[0]) ? fs::path("/") : fs::path();
 }
 
 /// Without what `reachable` put before it.
