@@ -52,7 +52,12 @@ protected:
         });
         timer->start(5);
     }
+    /// A desk without a window manager gives nobody the keyboard when a dialog has closed.
+    void comeBack() {
+        then([&] { stage().desk().front()->activateWindow(); });
+    }
     void leave() {
+        comeBack();
         then([&] { stage().key(Qt::Key_Escape); });
         play();
     }
@@ -110,6 +115,7 @@ TEST_F(CareerWindow, AnEmptyFieldAsksForTheFile) {
         stage().click(form().importButton);
     });
     then([&] { EXPECT_EQ(form().preview_LABEL.text, "3 new flights."); });
+    comeBack();
     then([&] { stage().key(Qt::Key_Escape); });
     leave();
 }

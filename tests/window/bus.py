@@ -12,7 +12,7 @@ import tempfile
 import time
 
 SKIPPED = 77
-PATIENCE = 20  # seconds
+PATIENCE = 60  # seconds
 NEEDED = ('Xvfb', 'dbus-run-session')
 LAUNCHERS = ('/usr/libexec/at-spi-bus-launcher', '/usr/lib/at-spi2-core/at-spi-bus-launcher')
 
@@ -158,6 +158,13 @@ class Reader:
         return wait_for(f'the screen "{title}"', lambda: next(
             (w for w in self.windows() if w.name == title), None))
 
+    def alone(self, title):
+        """The screen, once no other has its title: the picture of the start is called like the main window."""
+        def only():
+            found = [window for window in self.windows() if window.name == title]
+            return found[0] if len(found) == 1 else None
+        return wait_for(f'"{title}" alone', only)
+
     def gone(self, title):
         wait_for(f'the end of "{title}"', lambda: all(w.name != title for w in self.windows()))
 
@@ -245,7 +252,7 @@ def visit(reader, title, open_it, close_key='Close'):
 
 
 def board(reader):
-    window = reader.window(MAIN)
+    window = reader.alone(MAIN)
     reader.look_at(window, 'frame')
     raw = reader.table('Flights on the board').raw
     rows, columns = Atspi.Table.get_n_rows(raw), Atspi.Table.get_n_columns(raw)
