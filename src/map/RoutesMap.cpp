@@ -61,6 +61,7 @@ std::vector<Destination> destinationsOf(const Tables& tables, const std::vector<
         takeNext(destination, flight.DepartureTime, filter.now);
     }
     std::vector<Destination> out;
+    out.reserve(found.size());
     for (auto& [index, destination] : found) out.push_back(std::move(destination));
     std::stable_sort(out.begin(), out.end(),
                      [](const Destination& a, const Destination& b) { return lessFolded(a.city, b.city); });
