@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDialog>
 #include <QElapsedTimer>
 #include <QTest>
 #include <QTimer>
@@ -9,6 +10,7 @@
 
 #include <map>
 #include <random>
+#include <set>
 
 // The loop, the timers and the desktop that ship, on the computer's own time.
 
@@ -155,24 +157,42 @@ TEST_F(Shipped, TheDeliveredFolderIsNeverWritten) {
 
 /// After a thousand random moves, presses and keys there are as many timers and widgets as at the start.
 TEST_F(Shipped, NothingOutlivesItsCause) {
+    // A window that belongs to another is among its children too: each is counted once.
     const auto living = [] {
-        std::map<std::string, int> count;
-        for (QWidget* top : QApplication::topLevelWidgets()) {
-            count["widgets"] += 1 + static_cast<int>(top->findChildren<QWidget*>().size());
-            count["timers"] += static_cast<int>(top->findChildren<QTimer*>().size());
+        std::set<const QTimer*> timers;
+        for (const QWidget* top : QApplication::topLevelWidgets()) {
+            const auto held = top->findChildren<QTimer*>();
+            timers.insert(held.begin(), held.end());
         }
-        return count;
+        return std::map<std::string, std::size_t>{
+            {"widgets", static_cast<std::size_t>(QApplication::allWidgets().size())},
+            {"timers", timers.size()}};
+    };
+    // A menu or a dialog that closes leaves the keyboard to nobody here: no window manager gives it back.
+    // Where a notice or a screen on its way out is in front, a key goes nowhere.
+    const auto press = [&](Qt::Key key) {
+        if (QGuiApplication::focusWindow() == nullptr) stage().desk().front()->activateWindow();
+        if (QGuiApplication::focusWindow() != nullptr) stage().key(key);
+    };
+    const auto leave = [&] {
+        if (forms().front.front() != &main()) press(Qt::Key_Escape);
     };
     const auto settle = [&] {
         while (forms().front.front() != &main()) {
-            stage().key(Qt::Key_Escape);
+            leave();
             QCoreApplication::processEvents();
             if (forms().front.front() != &main() && forms().modalScreen() != nullptr) break;
         }
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     };
+    // A dialog of the desktop waits in a loop of its own: nobody answers it here.
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, [] {
+        if (auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget())) dialog->reject();
+    });
+    answer.start(20);
     std::mt19937 random(2002);
-    std::map<std::string, int> before;
+    std::map<std::string, std::size_t> before;
     int done = 0;
     const auto act = [&] {
         window::ScreenWindow* front = stage().desk().front();
@@ -191,7 +211,7 @@ TEST_F(Shipped, NothingOutlivesItsCause) {
             QTest::mouseClick(at, Qt::LeftButton, {}, place);
             break;
         case 3:
-            stage().key(random() % 2 == 0 ? Qt::Key_Tab : Qt::Key_Down);
+            press(random() % 2 == 0 ? Qt::Key_Tab : Qt::Key_Down);
             break;
         case 4:
             stage().window.desktop.notify("A line of news");
@@ -209,14 +229,10 @@ TEST_F(Shipped, NothingOutlivesItsCause) {
     for (int i = 0; i < 200; ++i) {
         then([&] {
             for (int k = 0; k < 5; ++k) act();
-            if (forms().front.front() != &main()) stage().key(Qt::Key_Escape);
+            leave();
         });
     }
-    for (int i = 0; i < 5; ++i) {
-        then([&] {
-            if (forms().front.front() != &main()) stage().key(Qt::Key_Escape);
-        });
-    }
+    for (int i = 0; i < 5; ++i) then(leave);
     then([&] {
         settle();
         if (stage().desk().note() != "") {
