@@ -158,12 +158,12 @@ class Reader:
         return wait_for(f'the screen "{title}"', lambda: next(
             (w for w in self.windows() if w.name == title), None))
 
-    def alone(self, title):
-        """The screen, once no other has its title: the picture of the start is called like the main window."""
+    def frame(self, title):
+        """The main window, once it stands alone: the picture of the start before it is called alike, and is a dialog."""
         def only():
             found = [window for window in self.windows() if window.name == title]
-            return found[0] if len(found) == 1 else None
-        return wait_for(f'"{title}" alone', only)
+            return found[0] if [window.role for window in found] == ['frame'] else None
+        return wait_for(f'the frame "{title}" alone', only)
 
     def gone(self, title):
         wait_for(f'the end of "{title}"', lambda: all(w.name != title for w in self.windows()))
@@ -252,7 +252,7 @@ def visit(reader, title, open_it, close_key='Close'):
 
 
 def board(reader):
-    window = reader.alone(MAIN)
+    window = reader.frame(MAIN)
     reader.look_at(window, 'frame')
     raw = reader.table('Flights on the board').raw
     rows, columns = Atspi.Table.get_n_rows(raw), Atspi.Table.get_n_columns(raw)
