@@ -61,7 +61,9 @@ std::string_view trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(' ') - first + 1);
 }
 
-char upperCase(char c) {
+namespace {
+
+constexpr char upperOf(char c) {
     const auto u = static_cast<unsigned char>(c);
     if ((u >= 'a' && u <= 'z') || (u >= 0xE0 && u <= 0xFE && u != 0xF7)) return static_cast<char>(u - 0x20);
     switch (u) {
@@ -76,6 +78,19 @@ char upperCase(char c) {
     default:
         return c;
     }
+}
+
+/// The fields of all airports go through it when a data set is loaded.
+constexpr auto kUpperCase = [] {
+    std::array<char, 256> out{};
+    for (std::size_t u = 0; u < out.size(); ++u) out[u] = upperOf(static_cast<char>(u));
+    return out;
+}();
+
+} // namespace
+
+char upperCase(char c) {
+    return kUpperCase[static_cast<unsigned char>(c)];
 }
 
 char lowerCase(char c) {
