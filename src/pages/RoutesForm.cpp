@@ -76,11 +76,7 @@ void showRoutes(Program& p) {
 
 void bindRoutesForm(Program& p) {
     auto& f = p.forms.RoutesForm;
-    f.load = [&p] {
-        placeScreen(p, p.forms.RoutesForm);
-        for (int i = 0; i < static_cast<int>(p.forms.RoutesForm.routesList.columns.size()); ++i)
-            p.forms.RoutesForm.routesList.resetColumn(i);
-    };
+    f.load = [&p] { placeScreen(p, p.forms.RoutesForm); };
     f.activate = [&p] { CenterOnMain(p, p.forms.RoutesForm); };
     f.map.on(Event::Pick, [&p](const EventArgs& args) { return takeRoute(p, args.value); });
     f.map.on(Event::Hover, [&p](const EventArgs& args) { pointAtRoute(p, args.value); });
