@@ -1,7 +1,6 @@
 #include "pages/FlyForm.h"
 
 #include "pages/FlyAircraft.h"
-
 #include "pages/MsgForm.h"
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
