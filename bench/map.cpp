@@ -23,7 +23,7 @@ MapScene routesOfAHub(std::shared_ptr<const Land> land) {
         airport.Icao = "K" + std::to_string(100 + i);
         airport.Latitude = static_cast<float>(51 - (i * 37) % 90);
         airport.Longitude = static_cast<float>((i * 53) % 360 - 180);
-        if (i > 0) list.push_back({i, "XXX", "City " + std::to_string(i), 10 * i, i % 25, 900});
+        if (i > 0) list.push_back({i, "QQQ", "City " + std::to_string(i), 10 * i, i % 25, 900});
     }
     return routesScene(tables, 0, list, std::move(land));
 }

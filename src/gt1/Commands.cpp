@@ -64,14 +64,7 @@ void refuseWorldTables(const fs::path& source, Report& report) {
                          "one in " + source.string());
 }
 
-template<class Row, class Records>
-NamedTable table(const Records& records, const std::function<bool()>& goesOn = {}) {
-    std::vector<Row> rows(records.size());
-    for (std::size_t i = 0; i < records.size(); ++i) rows[i].record = records[i];
-    return {std::string(Row::file), tableText(rows, goesOn)};
-}
-
-/// The same with the region that `regionOf(record)` knows.
+/// The table of records with the region that `regionOf(record)` knows.
 template<class Row, class Records, class RegionOf>
 NamedTable placedTable(const Records& records, const std::function<bool()>& goesOn, RegionOf regionOf) {
     std::vector<Row> rows(records.size());
@@ -139,7 +132,7 @@ std::vector<NamedTable> worldTables(const World& world, const std::function<bool
     const auto jet = [&](const JetRecord& r) {
         return world.regions.find(r.jetKind.view()[0], r.jetName.trimmed(), r.latitude, r.longitude);
     };
-    return {table<AircraftRow>(world.aircraft, goesOn), placedTable<VorRow>(world.vor, goesOn, aid('V')),
+    return {tableOf<AircraftRow>(world.aircraft, goesOn), placedTable<VorRow>(world.vor, goesOn, aid('V')),
             placedTable<NdbRow>(world.ndb, goesOn, aid('N')), placedTable<FixRow>(world.fixes, goesOn, fix),
             placedTable<JetRow>(world.jets, goesOn, jet)};
 }
@@ -156,13 +149,13 @@ std::vector<NamedTable> dumpFolder(const fs::path& folder, const std::optional<f
     const DataSet set = unpackDataSet(folder, report);
     const World names = unpackWorld(worldFolder, report);
     std::vector<NamedTable> out;
-    out.push_back(table<AirportRow>(set.airports));
+    out.push_back(tableOf<AirportRow>(set.airports));
     out.push_back(runwayTable(set));
     out.push_back(radioTable(set));
-    out.push_back(table<AirlineRow>(set.airlines));
+    out.push_back(tableOf<AirlineRow>(set.airlines));
     auto shared = further ? std::vector<NamedTable>() : worldTables(names);
     if (!further) out.push_back(std::move(shared.front())); // the aircraft
-    out.push_back(table<FlightRow>(set.flights));
+    out.push_back(tableOf<FlightRow>(set.flights));
     for (std::size_t i = 1; i < shared.size(); ++i) out.push_back(std::move(shared[i]));
     out.push_back({std::string(PlanRow::file), tableText(planRows(set, names, report))});
     return out;

@@ -2,6 +2,7 @@
 
 #include "gt1/DataSet.h"
 #include "gt1/Report.h"
+#include "gt1/Tables.h"
 
 #include <filesystem>
 #include <functional>
@@ -10,11 +11,6 @@
 #include <vector>
 
 namespace gatewise::gt1 {
-
-struct NamedTable {
-    std::string file;
-    std::string text;
-};
 
 /// Makes the .gt1 files of `target` from the tables of `source`. With `world` the set is a further one: its
 /// plans and flights refer to the shared tables in that folder, and only the set's own files are made.

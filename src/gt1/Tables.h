@@ -84,4 +84,18 @@ std::string tableText(const std::vector<Row>& rows, const std::function<bool()>&
     return out;
 }
 
+/// A table as it goes into its file.
+struct NamedTable {
+    std::string file;
+    std::string text;
+};
+
+/// The table of records of one kind. `goesOn` as in tableText.
+template<class Row, class Records>
+NamedTable tableOf(const Records& records, const std::function<bool()>& goesOn = {}) {
+    std::vector<Row> rows(records.size());
+    for (std::size_t i = 0; i < records.size(); ++i) rows[i].record = records[i];
+    return {std::string(Row::file), tableText(rows, goesOn)};
+}
+
 } // namespace gatewise::gt1

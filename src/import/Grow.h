@@ -12,8 +12,7 @@ namespace gatewise::importer {
 
 /// The tables that all data sets share, growing at their end: what stands keeps its number, and what is there
 /// already is not added again. A record is the same when kind, ident, frequency and place (0.001 degrees)
-/// are. A
-/// region that is known stays; one that a standing record lacked comes to the end of the regions.
+/// are. A region that is known stays; one that a standing record lacked comes to the end of the regions.
 class SharedTables {
 public:
     explicit SharedTables(gt1::World world);

@@ -34,13 +34,6 @@ std::function<bool()> asking(const Job& job) {
     return [walk = Walk(job, 0)]() mutable { return walk.goesOn(); };
 }
 
-/// The rows of the records of one kind.
-template<class Row, class Records> gt1::NamedTable table(const Records& records) {
-    std::vector<Row> rows(records.size());
-    for (std::size_t i = 0; i < records.size(); ++i) rows[i].record = records[i];
-    return {std::string(Row::file), gt1::tableText(rows)};
-}
-
 /// The routes of all airport pairs that the flights have, and the plans made of them: there, then back.
 class Planner {
 public:
@@ -196,7 +189,7 @@ void airportTables(const Airports& airports, std::vector<gt1::NamedTable>& out) 
             runways.push_back({airport.record.Iata, runway});
         radios.push_back({airport.record.Iata, airport.facilities.radios});
     }
-    out.push_back(table<gt1::AirportRow>(records));
+    out.push_back(gt1::tableOf<gt1::AirportRow>(records));
     out.push_back({std::string(gt1::RunwayRow::file), gt1::tableText(runways)});
     out.push_back({std::string(gt1::RadioRow::file), gt1::tableText(radios)});
 }
@@ -255,7 +248,7 @@ void build(RawTables& raw, const gt1::World& given, const ImportOptions& options
     if (job.cancelled()) return;
     airportTables(airports, out.tables);
     const auto airlines = makeAirlines(raw, codes, findings);
-    out.tables.push_back(table<gt1::AirlineRow>(airlines));
+    out.tables.push_back(gt1::tableOf<gt1::AirlineRow>(airlines));
     out.tables.push_back(flightTable(flights, planner, job));
     out.tables.push_back(planner.plans(shared, job));
     if (job.cancelled()) return;

@@ -18,8 +18,8 @@ gt1::World sharedOf(const std::filesystem::path& programFolder, gt1::Report& rep
 /// Compiles what was imported and puts it into the program folder: the set as a folder below Data, the shared
 /// tables grown at their end. Everything is checked and written to a fresh place first and put in by renames,
 /// so that a run that is stopped at any point leaves every set whole; what an earlier run left behind is
-/// cleared up. A set of the same name is replaced. False when the job was
-/// cancelled, or with errors in the report; then nothing has changed.
+/// cleared up. A set of the same name is replaced. False when the job was cancelled, or with errors in the
+/// report; then nothing has changed.
 bool install(const Imported& imported, const std::filesystem::path& programFolder, gt1::Report& report,
              const Job& job = Job());
 

@@ -91,8 +91,7 @@ constexpr ShortCut kShortCuts[] = {
     {"Ctrl+T", "Main window", "Sets a shifted clock back to the time of this computer.", now},
     {"Ctrl+C", "Main window, lists",
      "Copies the boarding pass, the page of the board as a table, or the marked line of a list. In a field "
-     "with a "
-     "marked text it copies that.",
+     "with a marked text it copies that.",
      copy},
     {"Ctrl+P", "Boarding pass, log book, flight plan", "Prints what is shown.", print},
     {"Ctrl+Z", "Flight plan, log book",

@@ -1,5 +1,6 @@
 #include "logbook/ImportUndo.h"
 
+#include "logbook/BesideBook.h"
 #include "logbook/LogBook.h"
 #include "platform/Files.h"
 
@@ -10,11 +11,6 @@
 namespace gatewise {
 
 namespace {
-
-std::string besideBook(std::string_view path, std::string_view name) {
-    const auto slash = path.find_last_of("/\\");
-    return std::string(path.substr(0, slash == std::string_view::npos ? 0 : slash + 1)).append(name);
-}
 
 std::string beforePath(std::string_view path) {
     return besideBook(path, "LogBook.before-import");

@@ -1,5 +1,6 @@
 #include "logbook/LogBook.h"
 
+#include "logbook/BesideBook.h"
 #include "platform/Files.h"
 
 #include <algorithm>
@@ -12,11 +13,6 @@ namespace gatewise {
 namespace {
 
 constexpr std::size_t kRecord = recordSize<LogRecord>();
-
-std::string besides(std::string_view path, std::string_view name) {
-    const auto slash = path.find_last_of("/\\");
-    return std::string(path.substr(0, slash == std::string_view::npos ? 0 : slash + 1)).append(name);
-}
 
 // A backup bears noon of the day before whose first change it was made, so that a later run knows it too.
 constexpr long long kSerialOf1970 = 25569;
@@ -52,7 +48,7 @@ Bytes bytesOf(const std::vector<LogRecord>& entries) {
 }
 
 std::string keptPath(std::string_view path) {
-    return besides(path, "LogBook.new");
+    return besideBook(path, "LogBook.new");
 }
 
 /// Makes room for a record at `index`: what the file has lost meanwhile comes back from `entries`.
@@ -132,7 +128,7 @@ void LogStore::takeKept(std::string_view path, long long today, std::vector<LogR
 
 std::error_code LogStore::backUp(std::string_view path, ByteView old, long long today) {
     const bool doubtful = old.size() % kRecord != 0 || static_cast<long long>(old.size()) != known_;
-    const std::string backup = besides(path, "LogBook.bak");
+    const std::string backup = besideBook(path, "LogBook.bak");
     if (backedUpOn_ != today) backedUpOn_ = markedDay(backup);
     if (old.empty() || (backedUpOn_ == today && !doubtful)) return {};
     if (const auto error = files::replace(backup, old)) return error;

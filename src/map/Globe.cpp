@@ -19,6 +19,11 @@ Vector sideOf(const Vector& a) {
 
 } // namespace
 
+bool onEarth(double latitude, double longitude) {
+    return std::isfinite(latitude) && std::isfinite(longitude) && std::fabs(latitude) <= 90 &&
+           std::fabs(longitude) <= 720;
+}
+
 Vector vectorOf(const Spot& spot) {
     const double lat = spot.latitude * kDegree;
     const double lon = spot.longitude * kDegree;

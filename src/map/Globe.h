@@ -18,6 +18,9 @@ struct Spot {
 
 inline constexpr double kDegree = 3.14159265358979323846 / 180;
 
+/// Whether two numbers of a table are a position: longitudes may go round the earth twice.
+bool onEarth(double latitude, double longitude);
+
 Vector vectorOf(const Spot& spot);
 /// Longitude above -180 and up to 180; 0 at the poles.
 Spot spotOf(const Vector& v);

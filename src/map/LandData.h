@@ -42,7 +42,6 @@ struct LandLevel {
 
 /// A level is made when it is first asked for: most maps need a coarse one, which is a tenth of the work.
 struct Land {
-public:
     Land() = default;
     /// The file's bytes as they are; without any level when they are no such file or break off.
     explicit Land(Bytes file);

@@ -27,11 +27,6 @@ Tone toneOf(const Plan& plan, int i) {
     return Tone::Fix;
 }
 
-bool onEarth(double latitude, double longitude) {
-    return std::isfinite(latitude) && std::isfinite(longitude) && std::fabs(latitude) <= 90 &&
-           std::fabs(longitude) <= 720;
-}
-
 MapSpot pointSpot(const PlanPoint& point) {
     return {static_cast<double>(point.pointLatitude), static_cast<double>(point.pointLongitude)};
 }

@@ -1,11 +1,11 @@
 #include "map/RoutesMap.h"
 
+#include "map/Globe.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "schedule/Lookups.h"
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 #include <numeric>
 
@@ -28,16 +28,16 @@ void takeNext(Destination& destination, int time, int now) {
     if (destination.next < 0 || wait(time) < wait(destination.next)) destination.next = time;
 }
 
+MapSpot airportSpot(const AirportRecord& airport) {
+    return {static_cast<double>(airport.Latitude), static_cast<double>(airport.Longitude)};
+}
+
+/// Null for the blank element behind the last airport too.
 const AirportRecord* known(const Tables& tables, int index) {
     if (index < 0 || index >= tables.AirportCount()) return nullptr;
     const AirportRecord& airport = tables.airport(index);
-    const bool onEarth = std::isfinite(airport.Latitude) && std::isfinite(airport.Longitude) &&
-                         std::fabs(airport.Latitude) <= 90 && std::fabs(airport.Longitude) <= 720;
-    return onEarth ? &airport : nullptr;
-}
-
-MapSpot airportSpot(const AirportRecord& airport) {
-    return {static_cast<double>(airport.Latitude), static_cast<double>(airport.Longitude)};
+    const MapSpot at = airportSpot(airport);
+    return onEarth(at.latitude, at.longitude) ? &airport : nullptr;
 }
 
 } // namespace
@@ -68,13 +68,16 @@ std::vector<Destination> destinationsOf(const Tables& tables, const std::vector<
     return out;
 }
 
+std::string nextText(const Destination& destination) {
+    if (destination.next < 0) return {};
+    return formatInteger("00", destination.next / 100) + ":" + formatInteger("00", destination.next % 100);
+}
+
 std::string destinationText(const Destination& destination) {
     std::string text = destination.city + ", " + std::to_string(destination.miles) + " miles, " +
                        std::to_string(destination.flights) +
                        (destination.flights == 1 ? " flight today" : " flights today");
-    if (destination.next >= 0)
-        text += ", next " + formatInteger("00", destination.next / 100) + ":" +
-                formatInteger("00", destination.next % 100);
+    if (destination.next >= 0) text += ", next " + nextText(destination);
     return text;
 }
 

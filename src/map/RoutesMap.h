@@ -30,6 +30,9 @@ struct Destination {
 std::vector<Destination> destinationsOf(const Tables& tables, const std::vector<FlightRecord>& flights,
                                         const RoutesFilter& filter);
 
+/// "09:15": when the next one goes; empty without any.
+std::string nextText(const Destination& destination);
+
 /// "Chicago, 525 miles, 12 flights today, next 09:15"
 std::string destinationText(const Destination& destination);
 

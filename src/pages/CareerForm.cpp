@@ -15,12 +15,7 @@ Waited showCareer(Program& p) {
 
 void bindCareerForm(Program& p) {
     auto& f = p.forms.CareerForm;
-    f.load = [&p] {
-        placeScreen(p, p.forms.CareerForm);
-        for (ListView* list : {&p.forms.CareerForm.totals, &p.forms.CareerForm.previewList}) {
-            for (int i = 0; i < static_cast<int>(list->columns.size()); ++i) list->resetColumn(i);
-        }
-    };
+    f.load = [&p] { placeScreen(p, p.forms.CareerForm); };
     f.activate = [&p] {
         CenterOnMain(p, p.forms.CareerForm);
         restorePictures(p.forms.CareerForm);

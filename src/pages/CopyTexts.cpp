@@ -10,7 +10,8 @@ namespace {
 
 std::string line(const std::vector<std::string>& cells) {
     std::string out;
-    for (const std::string& cell : cells) out += (out.empty() ? "" : "\t") + std::string(trimmed(cell));
+    for (const std::string& cell : cells) out.append(trimmed(cell)).append("\t");
+    if (!out.empty()) out.pop_back();
     return out + "\n";
 }
 

@@ -25,7 +25,6 @@ std::optional<int> pickedPosition(const forms::FlightForm& f) {
 void loadFlightForm(Program& p) {
     auto& f = p.forms.FlightForm;
     placeScreen(p, f);
-    for (int i = 0; i < static_cast<int>(f.FlightList.columns.size()); ++i) f.FlightList.resetColumn(i);
     restorePictures(f);
 }
 

@@ -1,7 +1,6 @@
 #include "pages/FlyForm.h"
 
 #include "pages/FlyAircraft.h"
-
 #include "pages/MsgForm.h"
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
@@ -24,7 +23,6 @@ void loadFlyForm(Program& p) {
     auto& f = p.forms.FlyForm;
     placeScreen(p, f);
     restorePictures(f);
-    for (int i = 0; i < static_cast<int>(f.PlanList.columns.size()); ++i) f.PlanList.resetColumn(i);
 }
 
 ListView::Row planRow(std::string_view id, std::string_view name, std::string_view route,

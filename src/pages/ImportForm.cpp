@@ -180,7 +180,6 @@ void bindImportForm(Program& p) {
     auto& f = p.forms.ImportForm;
     const auto desk = std::make_shared<ImportDesk>();
     f.startButton.enabled = false;
-    for (int i = 0; i < static_cast<int>(f.sourceList.columns.size()); ++i) f.sourceList.resetColumn(i);
     f.sourceList.on(Event::Column, [&f](const EventArgs& args) { f.sourceList.resetColumn(args.value); });
     f.load = [&p] { placeScreen(p, p.forms.ImportForm); };
     f.activate = [&p] {

@@ -1,7 +1,6 @@
 #include "pages/OptionsForm.h"
 
 #include "pages/MainBoard.h"
-
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
 #include "pages/SettingControls.h"
@@ -13,6 +12,7 @@ namespace gatewise {
 
 namespace {
 
+using forms::MainForm;
 using forms::OptionsForm;
 
 constexpr SettingBox<OptionsForm> kOptionBoxes[] = {
@@ -21,8 +21,6 @@ constexpr SettingBox<OptionsForm> kOptionBoxes[] = {
     {&OptionsForm::a2_CHECK, &Settings::Arr2},   {&OptionsForm::a3_CHECK, &Settings::Arr3},
     {&OptionsForm::muteCHECK, &Settings::Muted},
 };
-
-using forms::MainForm;
 
 struct SortOption {
     Option OptionsForm::*option;

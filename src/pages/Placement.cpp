@@ -4,6 +4,14 @@
 
 namespace gatewise {
 
+namespace {
+
+void resetColumns(ListView& list) {
+    for (int i = 0; i < static_cast<int>(list.columns.size()); ++i) list.resetColumn(i);
+}
+
+} // namespace
+
 bool IsNormalFontSize(const Desktop& desktop, LocaleSigns& signs) {
     signs.ScreenDpi = desktop.dpi();
     return signs.ScreenDpi == 96;
@@ -32,6 +40,9 @@ void CenterOnMain(Program& p, Screen& screen) {
 void placeScreen(Program& p, Screen& screen) {
     ApplySmallFontFix(p, screen);
     CenterOnMain(p, screen);
+    for (Control* control : screen.controls) {
+        if (control->kind == Kind::ListView) resetColumns(static_cast<ListView&>(*control));
+    }
 }
 
 } // namespace gatewise

@@ -13,7 +13,8 @@ void ApplySmallFontFix(Program& p, Screen& screen);
 /// Puts a screen over the middle of the main screen's content area.
 void CenterOnMain(Program& p, Screen& screen);
 
-/// What every screen's load begins with: the font fix, then its place.
+/// What every screen's load begins with: the font fix, then its place, then the widths of its tables'
+/// columns.
 void placeScreen(Program& p, Screen& screen);
 
 } // namespace gatewise

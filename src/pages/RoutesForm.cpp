@@ -6,30 +6,21 @@
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
 #include "pages/SelectForm.h"
-#include "platform/Numbers.h"
-
-#include <charconv>
+#include "platform/Text.h"
 
 namespace gatewise {
 
 namespace {
 
-int digitsOf(const std::string& text) {
-    int value = 0;
-    std::from_chars(text.data(), text.data() + text.size(), value);
-    return value;
+int numberIn(std::string_view text) {
+    return parseInteger(text).value_or(0);
 }
 
 std::vector<map::Destination> destinations(const Program& p) {
     const auto& f = p.forms.MainForm;
     const map::RoutesFilter filter{f.dayCombo.data(), p.session.board.BoardAirlineCode.view(),
-                                   digitsOf(f.gt_hoursLABEL.text) * 100 + digitsOf(f.gt_minutesLABEL.text)};
+                                   numberIn(f.gt_hoursLABEL.text) * 100 + numberIn(f.gt_minutesLABEL.text)};
     return map::destinationsOf(p.session.schedule.tables, p.session.schedule.DepartureFlights, filter);
-}
-
-std::string nextText(const map::Destination& d) {
-    if (d.next < 0) return "-";
-    return formatInteger("00", d.next / 100) + ":" + formatInteger("00", d.next % 100);
 }
 
 void pointOut(forms::RoutesForm& f, int row) {
@@ -40,37 +31,36 @@ void pointOut(forms::RoutesForm& f, int row) {
     }
 }
 
-/// What stands out goes on to do so where the same places are left.
-void fillRoutes(Program& p) {
+/// What stands out goes on to do so where the same places are left; true then.
+bool fillRoutes(Program& p) {
     auto& f = p.forms.RoutesForm;
     const auto list = destinations(p);
     MapScene scene =
         map::routesScene(p.session.schedule.tables, p.session.dispatch.DepartureIndex, list, shownLand(p));
-    if (scene == f.map.scene && !f.routesList.rows.empty()) return;
-    const int chosen = map::samePlaces(scene, f.map.scene) ? f.map.chosen : -1;
+    if (scene == f.map.scene && !f.routesList.rows.empty()) return true;
+    const bool same = map::samePlaces(scene, f.map.scene);
+    const int chosen = same ? f.map.chosen : -1;
     setScene(f.map, std::move(scene));
     f.routesList.clear();
     for (const auto& d : list) {
-        f.routesList.rows.push_back(
-            {std::to_string(d.airport),
-             {" " + d.city, std::to_string(d.miles), std::to_string(d.flights), nextText(d)},
-             false});
+        const std::string next = d.next < 0 ? "-" : map::nextText(d);
+        f.routesList.rows.push_back({std::to_string(d.airport),
+                                     {" " + d.city, std::to_string(d.miles), std::to_string(d.flights), next},
+                                     false});
     }
     pointOut(f, chosen);
+    return same;
 }
 
 /// Clock, day, airline and airport may have changed while the map is open: what the pointer is told is true.
 void pointAtRoute(Program& p, int id) {
-    auto& f = p.forms.RoutesForm;
-    const MapScene before = f.map.scene;
-    fillRoutes(p);
-    pointOut(f, map::samePlaces(before, f.map.scene) ? id : -1);
+    pointOut(p.forms.RoutesForm, fillRoutes(p) ? id : -1);
 }
 
 Waited takeRoute(Program& p, int row) {
     auto& f = p.forms.RoutesForm;
     if (row < 0 || row >= static_cast<int>(f.routesList.rows.size())) return waited(p);
-    const int airport = digitsOf(f.routesList.rows[static_cast<std::size_t>(row)].key);
+    const int airport = numberIn(f.routesList.rows[static_cast<std::size_t>(row)].key);
     hideScreen(p, f);
     return pickArrival(p, airport);
 }
@@ -86,11 +76,7 @@ void showRoutes(Program& p) {
 
 void bindRoutesForm(Program& p) {
     auto& f = p.forms.RoutesForm;
-    f.load = [&p] {
-        placeScreen(p, p.forms.RoutesForm);
-        for (int i = 0; i < static_cast<int>(p.forms.RoutesForm.routesList.columns.size()); ++i)
-            p.forms.RoutesForm.routesList.resetColumn(i);
-    };
+    f.load = [&p] { placeScreen(p, p.forms.RoutesForm); };
     f.activate = [&p] { CenterOnMain(p, p.forms.RoutesForm); };
     f.map.on(Event::Pick, [&p](const EventArgs& args) { return takeRoute(p, args.value); });
     f.map.on(Event::Hover, [&p](const EventArgs& args) { pointAtRoute(p, args.value); });

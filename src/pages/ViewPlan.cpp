@@ -41,7 +41,6 @@ void fillPlanList(Program& p) {
 void loadViewPlan(Program& p) {
     auto& f = p.forms.ViewPlan;
     placeScreen(p, f);
-    for (int i = 0; i < static_cast<int>(f.PlanList.columns.size()); ++i) f.PlanList.resetColumn(i);
     restorePictures(f);
 }
 

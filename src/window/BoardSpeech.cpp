@@ -1,5 +1,6 @@
 #include "window/BoardSpeech.h"
 
+#include "pages/MainBoard.h"
 #include "window/QtText.h"
 
 #include <QRegularExpression>
@@ -9,9 +10,6 @@ namespace gatewise::window {
 
 namespace {
 
-constexpr int kHeads = 20; // index of the labels above the columns
-constexpr int kLines = 20;
-
 QString textOf(const Label& label) {
     return toQt(label.text).simplified();
 }
@@ -19,13 +17,13 @@ QString textOf(const Label& label) {
 /// What a turn of the board changes in its heading: neither the time nor how many pages there are.
 QString headingOf(const forms::MainForm& form) {
     static const QRegularExpression passing("\\d\\d:\\d\\d(:\\d\\d)?| of \\d+");
-    return textOf(form.header_LABEL).remove(passing) + textOf(form.city_LABEL(kHeads));
+    return textOf(form.header_LABEL).remove(passing) + textOf(form.city_LABEL(kHeadingRow));
 }
 
 /// "Departures, page 2 of 4, 20 flights"
 QString turned(const forms::MainForm& form, std::size_t flights) {
     static const QRegularExpression page("Page \\d+ of \\d+");
-    QStringList words{textOf(form.city_LABEL(kHeads)).contains("ARRIV") ? "Arrivals" : "Departures"};
+    QStringList words{textOf(form.city_LABEL(kHeadingRow)).contains("ARRIV") ? "Arrivals" : "Departures"};
     const auto found = page.match(textOf(form.header_LABEL));
     if (found.hasMatch()) words << found.captured().toLower();
     words << (flights == 1 ? QString("1 flight") : QString::number(flights) + " flights");
@@ -35,7 +33,7 @@ QString turned(const forms::MainForm& form, std::size_t flights) {
 } // namespace
 
 QString boardTime(const Screen& screen, const QString& text) {
-    const auto* head = static_cast<const Label*>(screen.find("city_LABEL", kHeads));
+    const auto* head = static_cast<const Label*>(screen.find("city_LABEL", kHeadingRow));
     const bool arrives = head != nullptr && textOf(*head).contains("ARRIV");
     QString time = text;
     if (time.size() == 4) time.insert(2, ':');
@@ -49,7 +47,7 @@ QString BoardSpeech::look(const forms::MainForm& form) {
     }
     std::map<QString, QString> now;
     QStringList news;
-    for (int line = 0; line < kLines; ++line) {
+    for (int line = 0; line < kRowsOnPage; ++line) {
         const QString flight = textOf(form.fltnum_LABEL(line));
         if (flight.isEmpty()) continue;
         const QString status = textOf(form.status_LABEL(line));

@@ -20,7 +20,6 @@ namespace gatewise::window {
 namespace {
 
 constexpr const char* kSection = "Window";
-constexpr int kNotch = 120;       // of QWheelEvent
 constexpr double kShare = 0.7;    // of the screen's height that is proposed
 constexpr double kLargest = 3;    // 300 %
 constexpr double kSmallest = 0.5; // on a screen that is smaller still the window is cut
@@ -212,10 +211,7 @@ bool Display::eventFilter(QObject* object, QEvent* event) {
     if (wheel) {
         const auto* turned = static_cast<const QWheelEvent*>(event);
         if (!turned->modifiers().testFlag(Qt::ControlModifier)) return false;
-        wheel_ += turned->angleDelta().y();
-        const int notches = wheel_ / kNotch;
-        wheel_ -= notches * kNotch;
-        if (notches != 0) step(notches);
+        if (const int notches = wheel_.take(*turned); notches != 0) step(notches);
         return true;
     }
     const auto* pressed = static_cast<const QKeyEvent*>(event);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "forms/Forms.h"
+#include "window/Notches.h"
 #include "window/SystemWishes.h"
 
 #include <QObject>
@@ -71,7 +72,7 @@ private:
     int percent_ = -1; // nobody chose and nothing was proposed
     SkinChoice skin_ = SkinChoice::AsComputer;
     bool steady_ = false;
-    int wheel_ = 0; // eighths of a degree that the wheel was turned since the last step
+    Notches wheel_;
     bool following_ = false;
 };
 

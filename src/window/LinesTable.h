@@ -10,8 +10,8 @@ class LinesTable : public QObject {
     Q_OBJECT
 public:
     struct Column {
-        QString
-            says; // the head's words, and what is said before the values of a column with a head of its own
+        /// The head's words, and what is said before the values of a column with a head of its own.
+        QString says;
         View* head = nullptr;          // null where the picture below shows it
         std::vector<View*> cells;      // by line
         QObject* spokenHead = nullptr; // stands for a head that is only seen in the picture

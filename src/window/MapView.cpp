@@ -18,7 +18,6 @@ namespace gatewise::window {
 namespace {
 
 constexpr double kStep = 1.3;   // a zoom by one key or one notch of the wheel
-constexpr double kNotch = 120;  // of QWheelEvent
 constexpr double kShare = 0.15; // of the sheet that an arrow key moves
 constexpr int kEdge = 2;        // pixels of the well around the map
 constexpr double kDragFrom = 4; // pixels, below that a press is a click
@@ -143,7 +142,8 @@ void MapView::mouseDoubleClickEvent(QMouseEvent* event) {
 }
 
 void MapView::wheelEvent(QWheelEvent* event) {
-    zoom(std::pow(kStep, event->angleDelta().y() / kNotch), inLayout(event->position()));
+    const double notches = event->angleDelta().y() / static_cast<double>(QWheelEvent::DefaultDeltasPerStep);
+    zoom(std::pow(kStep, notches), inLayout(event->position()));
     event->accept();
 }
 

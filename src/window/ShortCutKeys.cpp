@@ -18,8 +18,6 @@ namespace gatewise::window {
 
 namespace {
 
-constexpr int kNotch = 120; // of a wheel, eighths of a degree
-
 std::string nameOf(const QKeyEvent& event) {
     const auto bare = event.modifiers() & ~Qt::KeypadModifier;
     return QKeySequence(QKeyCombination(bare, static_cast<Qt::Key>(event.key())))
@@ -52,8 +50,8 @@ bool keeps(const QWidget* focus, const std::string& keys) {
 }
 
 /// Home and End go on to the row with the focus, which moves to the first or the last line of the new page.
-bool goesOn(const QWidget* focus, const std::string& keys) {
-    const View* view = viewOf(const_cast<QWidget*>(focus));
+bool goesOn(QWidget* focus, const std::string& keys) {
+    const View* view = viewOf(focus);
     return (keys == "Home" || keys == "End") && view != nullptr && view->place.family > 0;
 }
 
@@ -63,14 +61,14 @@ ShortCutKeys::ShortCutKeys(Program& program, Desk& desk) : program_(program), de
     qApp->installEventFilter(this);
 }
 
-/// Whether input may start something now.
+/// Whether the program is at work, so that input has to wait.
 bool ShortCutKeys::atWork() const {
     return program_.ending || desk_.painting() || program_.session.desk.StartupDone == kFalse;
 }
 
 bool ShortCutKeys::key(const QKeyEvent& event) {
     const std::string keys = nameOf(event);
-    const QWidget* focus = QApplication::focusWidget();
+    QWidget* focus = QApplication::focusWidget();
     if (!known(keys) || keeps(focus, keys)) return false;
     bool done = false;
     desk_.act([&] { done = runShortCut(program_, keys); });
@@ -79,15 +77,12 @@ bool ShortCutKeys::key(const QKeyEvent& event) {
 
 bool ShortCutKeys::wheel(const QWidget& under, const QWheelEvent& event) {
     auto& f = program_.forms.MainForm;
-    const View* board = desk_.mainWindow().view(f.status_pic);
-    const bool over = board != nullptr && f.status_pic.visible && under.window() == &desk_.mainWindow() &&
-                      const_cast<View*>(board)->widget()->isAncestorOf(&under);
-    const bool onBoard = over || (board != nullptr && const_cast<View*>(board)->widget() == &under);
-    if (!onBoard || event.modifiers() != Qt::NoModifier) return false;
-    turned_ += event.angleDelta().y();
-    const int pages = turned_ / kNotch;
-    turned_ -= pages * kNotch;
-    if (pages != 0) desk_.act([&] { user::turn(f.status_pic, -pages); });
+    View* board = desk_.mainWindow().view(f.status_pic);
+    if (board == nullptr || event.modifiers() != Qt::NoModifier) return false;
+    const QWidget* ground = board->widget();
+    if (ground != &under && !(f.status_pic.visible && ground->isAncestorOf(&under))) return false;
+    if (const int notches = wheel_.take(event); notches != 0)
+        desk_.act([&] { user::turn(f.status_pic, -notches); });
     return true;
 }
 

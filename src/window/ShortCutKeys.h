@@ -2,6 +2,7 @@
 
 #include "pages/Program.h"
 #include "window/Desk.h"
+#include "window/Notches.h"
 
 #include <QObject>
 
@@ -23,7 +24,7 @@ private:
     [[nodiscard]] bool atWork() const;
     Program& program_;
     Desk& desk_;
-    int turned_ = 0; // of the wheel since the last page, eighths of a degree
+    Notches wheel_;
 };
 
 } // namespace gatewise::window

@@ -51,7 +51,7 @@ QColor groundOf(const QColor& color) {
     if (!strong || !color.isValid()) return color;
     const double most = std::max({color.redF(), color.greenF(), color.blueF()});
     if (most <= 0) return color;
-    return mixed(Qt::black, color, stretched(most) / most > 1 ? 1 : stretched(most) / most);
+    return mixed(Qt::black, color, std::min(1.0, stretched(most) / most));
 }
 
 QColor inkOf(const QColor& color) {

@@ -1,6 +1,6 @@
 #include "announce/Hall.h"
 
-#include "platform/Binary.h"
+#include "support/Wave.h"
 
 #include <algorithm>
 #include <fstream>
@@ -9,49 +9,15 @@ namespace gatewise::test {
 
 namespace {
 
-struct ArgumentText {
-    const std::string& folder;
-
-    std::string operator()(std::int32_t number) const { return std::to_string(number); }
-    std::string operator()(bool flag) const { return flag ? "true" : "false"; }
-    std::string operator()(const std::string& text) const {
-        return text.starts_with(folder) ? text.substr(folder.size()) : text;
-    }
-};
-
-Bytes recording() {
-    Bytes wave;
-    appendText(wave, "RIFF");
-    appendField(wave, std::int32_t{36 + 8});
-    appendText(wave, "WAVEfmt ");
-    appendField(wave, std::int32_t{16});
-    appendField(wave, std::int16_t{1});
-    appendField(wave, std::int16_t{1});
-    appendField(wave, std::int32_t{8000});
-    appendField(wave, std::int32_t{8000});
-    appendField(wave, std::int16_t{1});
-    appendField(wave, std::int16_t{8});
-    appendText(wave, "data");
-    appendField(wave, std::int32_t{8});
-    wave.resize(wave.size() + 8, 0x80);
-    return wave;
-}
-
 /// A recording of a few samples of silence.
 void record(const std::string& path) {
-    static const Bytes wave = recording();
+    static const Bytes wave = waveOf(Bytes(8, 0x80));
     std::filesystem::create_directories(std::filesystem::path(path).parent_path());
     std::ofstream(path, std::ios::binary)
         .write(reinterpret_cast<const char*>(wave.data()), static_cast<std::streamsize>(wave.size()));
 }
 
 } // namespace
-
-void Heard::operation(std::string_view name, std::span<const SoundArgument> arguments) {
-    std::string line(name);
-    for (const SoundArgument& argument : arguments) line += " " + std::visit(ArgumentText{folder}, argument);
-    lines.push_back(std::move(line));
-}
 
 Hall::Hall() {
     schedule = smallSchedule();

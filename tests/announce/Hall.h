@@ -1,22 +1,13 @@
 #pragma once
 
 #include "dispatch/Terminal.h"
+#include "sound/SoundFixture.h"
 
-#include <span>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 namespace gatewise::test {
-
-/// Writes down sound operations as text: "SetPan 7 -9000".
-class Heard : public SoundLog {
-public:
-    void operation(std::string_view name, std::span<const SoundArgument> arguments) override;
-    std::vector<std::string> lines;
-    std::string folder; // cut from paths
-};
 
 /// The screens' timers in the queue of the simulated machine.
 struct QueuedTimers : TimerHost {
@@ -52,7 +43,7 @@ protected:
 
     TempFolder folder;
     Schedule schedule;
-    Heard sounds;
+    sound_test::Listener sounds;
     Terminal t{folder};
     QueuedTimers timers{t.machine.loop};
     forms::MainForm& board = t.p.forms.MainForm;

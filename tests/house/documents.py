@@ -1,7 +1,8 @@
 """Holds the documents against the code.
 
     documents.py driver GTDRIVE PROJECT   docs/gtdrive.md names the driver's commands, functions and properties, and no others
-    documents.py paths PROJECT            the files and folders that the documents name are there
+    documents.py paths PROJECT            the files and folders that the documents name are there: `src/plan/Build.h`,
+                                          `plan/Build` or `Build.h` of the room `plan`
     documents.py --self-test
 """
 
@@ -14,6 +15,9 @@ import tempfile
 
 SPAN = re.compile(r'`([^`\n]+)`')
 PATH = re.compile(r'(?:src|tools|tests|docs|data|assets|bench|cmake|\.ci)/[\w./-]+')
+PLACEHOLDER = re.compile('NAME|PLAN|SUBJECT|FORM')
+OF_ROOM = re.compile(r'`([^`\n]+)`\s+of\s+the\s+room\s+`(\w+)`')
+IN_ROOM = re.compile(r'(\w+)/[\w.]+')
 
 
 def differences(what, code, document):
@@ -53,13 +57,21 @@ def driver_faults(driver, project):
     return found + differences('property', properties, named)
 
 
+def is_there(project, path):
+    """A file or folder, or the module of a room without its ending."""
+    return any((project / (path + ending)).exists() for ending in ('', '.h', '.cpp'))
+
+
 def path_faults(project):
+    rooms = {folder.name for folder in project.glob('src/*') if folder.is_dir()}
     found = []
     for document in [*project.glob('*.md'), *project.glob('docs/**/*.md')]:
-        for span in SPAN.findall(document.read_text(encoding='utf-8')):
-            placeholder = re.search('NAME|PLAN|SUBJECT|FORM', span)
-            if PATH.fullmatch(span) and not placeholder and not (project / span).exists():
-                found.append(f'{document.relative_to(project)}: there is no {span}')
+        text = document.read_text(encoding='utf-8')
+        spans = [span for span in SPAN.findall(text) if not PLACEHOLDER.search(span)]
+        paths = [span for span in spans if PATH.fullmatch(span)]
+        paths += [f'src/{span}' for span in spans if (match := IN_ROOM.fullmatch(span)) and match[1] in rooms]
+        paths += [f'src/{room}/{name}' for name, room in OF_ROOM.findall(text)]
+        found += [f'{document.relative_to(project)}: there is no {path}' for path in paths if not is_there(project, path)]
     return found
 
 
@@ -72,8 +84,13 @@ def self_test():
     with tempfile.TemporaryDirectory() as folder:
         project = pathlib.Path(folder)
         (project / 'docs').mkdir()
-        (project / 'docs/a.md').write_text('`docs/a.md` `docs/none.md` `word`')
-        if path_faults(project) != ['docs/a.md: there is no docs/none.md']:
+        (project / 'src/plan').mkdir(parents=True)
+        (project / 'src/plan/Build.h').touch()
+        (project / 'docs/a.md').write_text(
+            '`docs/a.md` `docs/none.md` `word` `plan/Build` `plan/Gone` `no/room` `src/plan/NAME.h`\n'
+            '`Build.h` of the\nroom `plan`, `Lost.cpp` of the room `plan`, `A.cpp` of the room `hall`')
+        missing = ['docs/none.md', 'src/plan/Gone', 'src/plan/Lost.cpp', 'src/hall/A.cpp']
+        if path_faults(project) != [f'docs/a.md: there is no {path}' for path in missing]:
             sys.exit(f'paths: {path_faults(project)}')
 
 

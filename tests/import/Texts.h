@@ -34,7 +34,7 @@ inline const std::string kAirportsCsv =
     "scheduled_service,gps_code,iata_code,local_code\n"
     "1,KAAA,large_airport,\"Alpha International "
     "Airport\",40.01,-100.01,1001,NA,US,US-X,Alphaville,yes,KAAA,AAA,\n"
-    "2,KXXX,closed,\"Old Field\",40.2,-100.2,1001,NA,US,US-X,Alphaville,no,KXXX,XXX,\n"
+    "2,KQQQ,closed,\"Old Field\",40.2,-100.2,1001,NA,US,US-X,Alphaville,no,KQQQ,QQQ,\n"
     "3,KHEL,heliport,\"Roof\",40.2,-100.2,1001,NA,US,US-X,Alphaville,no,KHEL,HEL,\n";
 inline const std::string kNewAirportsCsv =
     "\"id\",\"ident\",\"type\",\"name\",\"latitude_deg\",\"longitude_deg\",\"elevation_ft\",\"municipality\","

@@ -144,7 +144,7 @@ TEST(AircraftPerformance, AnUnknownCodeLeavesThePlansNumbers) {
     test::FlightWorld world;
     world.plan.ceilingAltitude = 31000;
     world.plan.climbRate = 1500;
-    loadAircraftPerformance(world.plan, world.tables.aircraft, "XXX");
+    loadAircraftPerformance(world.plan, world.tables.aircraft, "QQQ");
     EXPECT_EQ(world.plan.ceilingAltitude, 31000);
     EXPECT_EQ(world.plan.climbRate, 1500);
 }

@@ -1,8 +1,8 @@
 #include "scripts/Transcript.h"
 
-#include "platform/Binary.h"
 #include "platform/Profile.h"
 #include "platform/Text.h"
+#include "support/Wave.h"
 
 #include <fstream>
 #include <sstream>
@@ -19,20 +19,7 @@ bool isClosing(std::string_view line) {
 }
 
 void writeSilence(const fs::path& file, std::uint32_t samples) {
-    Bytes wave;
-    appendText(wave, "RIFF");
-    appendField(wave, samples + 36);
-    appendText(wave, "WAVEfmt ");
-    appendField(wave, std::uint32_t{16});
-    appendField(wave, std::uint16_t{1}); // samples as they are
-    appendField(wave, std::uint16_t{1}); // one channel
-    appendField(wave, std::uint32_t{8000});
-    appendField(wave, std::uint32_t{8000});
-    appendField(wave, std::uint16_t{1});
-    appendField(wave, std::uint16_t{8});
-    appendText(wave, "data");
-    appendField(wave, samples);
-    wave.resize(wave.size() + samples, 128);
+    const Bytes wave = test::waveOf(Bytes(samples, 0x80));
     fs::create_directories(file.parent_path());
     std::ofstream(file, std::ios::binary)
         .write(reinterpret_cast<const char*>(wave.data()), static_cast<std::streamsize>(wave.size()));

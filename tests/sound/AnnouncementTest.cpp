@@ -116,7 +116,7 @@ TEST_F(Announcing, OldTargetIsReplacedWhole) {
 
 TEST_F(Announcing, AirportWithoutRecordingGivesZeroTwiceAndNoLinkingWord) {
     record("0", 'Z');
-    announce("DL 1234", 1, "XXX");
+    announce("DL 1234", 1, "QQQ");
     EXPECT_EQ(marks("tmp1.wav"), (Bytes{1, 'D', 'F', 'L', 'Z', 'Z', 3}));
     announce("DL 1234", 6, "");
     EXPECT_EQ(marks("tmp6.wav"), (Bytes{8, 'D', 'F', 'L', 'Z', 'Z', 9}));
@@ -193,7 +193,7 @@ TEST_F(Announcing, WelcomeIsJoinedAndPlayedPlainly) {
 }
 
 TEST_F(Announcing, WelcomeFallsBackLikeAnAnnouncement) {
-    PlayWelcome(engine, folder.path(), "ZZ 5", 99, "XXX");
+    PlayWelcome(engine, folder.path(), "ZZ 5", 99, "QQQ");
     EXPECT_EQ(marks("tmp.wav"), (Bytes{'W', 2, 'F', 'L', 'F', 'F'}));
 }
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "platform/Binary.h"
 #include "platform/Machine.h"
 #include "sound/Device.h"
 #include "sound/SilentDevice.h"
 #include "support/TempFolder.h"
+#include "support/Wave.h"
 
 #include <gtest/gtest.h>
 
@@ -20,25 +20,7 @@ namespace gatewise::sound_test {
 
 using Shorts = std::initializer_list<std::int16_t>;
 
-/// A wave file with the common 44-byte header around `data`.
-inline Bytes waveOf(const Bytes& data, std::uint16_t channels = 1, std::uint32_t rate = 8000,
-                    std::uint16_t bits = 8) {
-    Bytes file;
-    appendText(file, "RIFF");
-    appendField(file, static_cast<std::uint32_t>(data.size() + 36));
-    appendText(file, "WAVEfmt ");
-    appendField(file, std::uint32_t{16});
-    appendField(file, std::uint16_t{1});
-    appendField(file, channels);
-    appendField(file, rate);
-    appendField(file, rate * channels * bits / 8U);
-    appendField(file, static_cast<std::uint16_t>(channels * bits / 8U));
-    appendField(file, bits);
-    appendText(file, "data");
-    appendField(file, static_cast<std::uint32_t>(data.size()));
-    file.insert(file.end(), data.begin(), data.end());
-    return file;
-}
+using test::waveOf;
 
 /// Writes down the waits and lets a test act in them.
 class ScriptedLoop : public EventLoop {

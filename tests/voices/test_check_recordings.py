@@ -169,7 +169,7 @@ class BrokenRecordings(unittest.TestCase):
     def test_airport_and_airline_without_recording(self):
         sample = Path(self.folder.name) / "sample"
         sample.mkdir()
-        (sample / "airports.csv").write_text("icao,iata\nKJFK,JFK\nXXXX,QQQ\n", encoding="utf-8")
+        (sample / "airports.csv").write_text("icao,iata\nKJFK,JFK\nQQQQ,QQQ\n", encoding="utf-8")
         (sample / "airlines.csv").write_text("code,name\nX0 ,One\nX9,Two\n", encoding="utf-8")
         self.assertEqual(check.check_sample(self.wavs, sample, self.report), 4)
         self.assertEqual(len(self.report.faults), 4, self.report.faults)

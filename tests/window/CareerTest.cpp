@@ -26,7 +26,7 @@ protected:
             << "date,from,to,aircraft,airline,flight,total\n"
                "2001-03-05,KATL,KJFK,Boeing 737-800,Quillmark Air Lines,7,2.1\n"
                "2002-06-15,KJFK,EGLL,Boeing 767-300,Quillmark Air Lines,8,7\n"
-               "2002-06-16,KJFK,XXXX,Glider,,,1\n";
+               "2002-06-16,KJFK,QQQQ,Glider,,,1\n";
         then([&] { stage().click(forms().MainForm.log_LABEL); });
         then([&] { stage().click(forms().MainForm.careerButton); });
     }

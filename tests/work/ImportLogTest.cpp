@@ -233,7 +233,7 @@ TEST_F(ImportLog, TheSimulatorsTimesStayWithTheirFlights) {
 TEST_F(ImportLog, CodesBecomeTheNamesOfTheTables) {
     haveBook({});
     look("Date,From,To,Type Code,Flight\n2002-06-15,atl,ORD,B738,QA 12\n"
-         "2002-06-16,O'Hare Intl,KATL,738,\n2002-06-17,XXX,KATL,Glider,\n");
+         "2002-06-16,O'Hare Intl,KATL,738,\n2002-06-17,QQQ,KATL,Glider,\n");
     ASSERT_EQ(career.found.entries.size(), 3U);
     const auto& e = career.found.entries;
     EXPECT_EQ(e[0].departureIcao.view(), "KATL");
@@ -244,7 +244,7 @@ TEST_F(ImportLog, CodesBecomeTheNamesOfTheTables) {
     EXPECT_EQ(e[0].flightNumber, 12);
     EXPECT_EQ(e[1].departureIcao.view(), "KORD");
     EXPECT_EQ(e[1].aircraft.trimmed(), "Boeing 737-800");
-    EXPECT_EQ(e[2].departureIcao.trimmed(), "XXX");
+    EXPECT_EQ(e[2].departureIcao.trimmed(), "QQQ");
     EXPECT_EQ(e[2].aircraft.trimmed(), "Glider");
 }
 

@@ -102,9 +102,13 @@ def changes_in(room):
 
 
 def known_equal():
-    """Lines of equal.txt: file, line and other form between tabs, the reason behind them."""
+    """Lines of equal.txt: file, line and other form between tabs, the reason behind them. Each line stands in its file."""
     path = HERE / 'equal.txt'
     rows = [row.split('\t') for row in path.read_text(encoding='utf-8').splitlines() if row and row[0] != '#']
+    for file, old, *_ in rows:
+        lines = (ROOT / file).read_text(encoding='utf-8').splitlines()
+        if ' '.join(old.split()) not in (' '.join(line.split()) for line in lines):
+            sys.exit(f'equal.txt: {file} has no line {old}')
     return {(file, ' '.join(old.split()), ' '.join(new.split())) for file, old, new, *_ in rows}
 
 

@@ -3,7 +3,8 @@
 in its size, every text fits its box and reaches its contrast. The texts are those of the layout itself and the longest
 ones that the screens show, from tests/skin/samples.json. Prints one line for each finding and fails when there is one.
 
-  layout_check.py [--verbose]"""
+  layout_check.py [--verbose]
+  layout_check.py --texts FILE     writes how it measures all of these texts, for the window's test"""
 import json
 import os
 import re
@@ -154,6 +155,29 @@ def text_boxes(control, texts):
     return [(font, text, width, lines) for text in texts]
 
 
+def wraps(control):
+    return bool(control.get('wrap') or control.get('multiline'))
+
+
+def lines_of(layout, control, role, text, width):
+    return fonts.wrap(layout, role, text, width) if wraps(control) else text.split('\n')
+
+
+def measured(layout, samples):
+    """All texts with the lines that they break into in their boxes, and the widths of these."""
+    rows = []
+    for name, screen in layout['screens'].items():
+        for control in screen['controls']:
+            index, _, _ = next(instances(control))
+            texts = texts_of(control, index, samples.get(name, {}))
+            for role, text, width, _ in text_boxes(control, texts):
+                lines = lines_of(layout, control, role, text, width)
+                rows.append({'who': label_of(name, control, index), 'role': role, 'text': text, 'width': width,
+                             'wraps': wraps(control), 'lines': lines,
+                             'widths': [fonts.text_width(layout, role, line) for line in lines]})
+    return rows
+
+
 def check_fit(layout, name, screen, samples):
     """Findings on texts wider or higher than their box. A box with an ellipsis may cut its text."""
     findings = []
@@ -166,8 +190,7 @@ def check_fit(layout, name, screen, samples):
 
 def fit_of(layout, who, control, role, text, width, limit):
     font = layout['fonts'][role]
-    wraps = control.get('wrap') or control.get('multiline')
-    lines = fonts.wrap(layout, role, text, width) if wraps else text.split('\n')
+    lines = lines_of(layout, control, role, text, width)
     findings = []
     widest = max(fonts.text_width(layout, role, line) for line in lines)
     if widest > width + 0.5 and 'ellipsis' not in control:
@@ -399,6 +422,10 @@ def check_all(layout, samples, sources, verbose=False):
 def main():
     with open(SAMPLES, encoding='utf-8') as file:
         samples = json.load(file)
+    if sys.argv[1:2] == ['--texts']:
+        with open(sys.argv[2], 'w', encoding='utf-8') as file:
+            json.dump(measured(templates.layout(), samples), file, indent=0)
+        return 0
     findings = check_all(templates.layout(), samples, templates.Skin(), '--verbose' in sys.argv[1:])
     for finding in findings:
         print(finding)
