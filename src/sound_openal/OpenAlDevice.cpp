@@ -39,7 +39,7 @@ SoundBuffer OpenAlDevice::add(OpenAlVoice voice) {
 void OpenAlDevice::catchUp() {
     if (!output_.takeOver()) return;
     rest_.watch(output_.device());
-    const auto now = std::chrono::steady_clock::now();
+    const auto now = now_();
     for (auto& [buffer, voice] : voices_) {
         attach(voice);
         if (const auto frame = frameNow(voice, now)) startSources(voice, *frame);
@@ -119,7 +119,7 @@ void OpenAlDevice::play(SoundBuffer buffer, bool loop) {
     if (voice == nullptr) return;
     voice->playing = true;
     voice->loop = loop;
-    voice->started = std::chrono::steady_clock::now();
+    voice->started = now_();
     keepAwake();
     startSources(*voice, 0);
 }
@@ -149,7 +149,7 @@ void OpenAlDevice::setFrequency(SoundBuffer buffer, std::int32_t frequency) {
     catchUp();
     OpenAlVoice* voice = find(buffer);
     if (voice == nullptr) return;
-    const auto now = std::chrono::steady_clock::now();
+    const auto now = now_();
     const auto frame = frameNow(*voice, now);
     if (!voice->settings.setFrequency(frequency)) return;
     if (frame) voice->started = startOf(*voice, *frame, now);

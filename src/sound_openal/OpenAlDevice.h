@@ -16,7 +16,7 @@ namespace gatewise {
 /// and plugged in again, comes in at the place where it would be. Without a device it pretends.
 class OpenAlDevice : public SoundDevice {
 public:
-    explicit OpenAlDevice(OpenAlRoad road = {}) : output_(std::move(road)) {}
+    explicit OpenAlDevice(OpenAlRoad road = {}) : now_(road.now), output_(std::move(road)) {}
     ~OpenAlDevice() override;
 
     /// Waits for the loudspeakers a fraction of a second at most. Always true.
@@ -41,6 +41,8 @@ public:
     [[nodiscard]] const OpenAlOutput& output() const { return output_; }
     /// Whether the mixer stands still because nothing plays.
     [[nodiscard]] bool resting() const { return rest_.resting(); }
+    /// How often the thread that sends it to rest has looked at the time: a rest costs none.
+    [[nodiscard]] int turnsOfRest() const { return rest_.turns(); }
 
 private:
     OpenAlVoice* find(SoundBuffer buffer);
@@ -52,6 +54,7 @@ private:
     /// Tells the mixer how long there is something to play.
     void keepAwake();
 
+    const std::function<VoiceClock::time_point()> now_;
     OpenAlOutput output_;
     OpenAlRest rest_; // lets go of the output's device before that is closed
     std::map<SoundBuffer, OpenAlVoice> voices_;

@@ -62,6 +62,7 @@ void OpenAlOutput::begin() {
 void OpenAlOutput::settle(std::chrono::milliseconds limit) {
     if (!attempt_) return;
     std::unique_lock lock(attempt_->mutex);
+    if (!attempt_->done) heldUp_ += limit;
     attempt_->over.wait_for(lock, limit, [&] { return attempt_->done; });
 }
 

@@ -16,6 +16,10 @@ struct OpenAlRoad {
     std::function<ALCdevice*()> openDevice = [] { return alcOpenDevice(nullptr); };
     /// Attributes of the context, ended by 0; empty: none.
     std::vector<ALCint> contextAttributes;
+    /// The clock by which a sound that nobody hears goes on.
+    std::function<std::chrono::steady_clock::time_point()> now = [] {
+        return std::chrono::steady_clock::now();
+    };
 };
 
 /// The device and the context behind all sound. A sound server can take seconds to answer, or never answer;
@@ -39,6 +43,9 @@ public:
     void close();
 
     [[nodiscard]] ALCdevice* device() const { return device_; }
+    /// How long openings have held up those who asked for them, at most: the limits of all waits that found
+    /// one under way.
+    [[nodiscard]] std::chrono::milliseconds heldUp() const { return heldUp_; }
 
 private:
     struct Attempt; // shared with the thread
@@ -46,6 +53,7 @@ private:
     OpenAlRoad road_;
     std::shared_ptr<Attempt> attempt_;
     std::chrono::steady_clock::time_point retryAt_{};
+    std::chrono::milliseconds heldUp_{0};
     ALCdevice* device_ = nullptr;
     ALCcontext* context_ = nullptr;
 };

@@ -63,6 +63,11 @@ bool OpenAlRest::resting() const {
     return resting_;
 }
 
+int OpenAlRest::turns() const {
+    const std::lock_guard lock(mutex_);
+    return turns_;
+}
+
 void OpenAlRest::wake() {
     if (!resting_) return;
     deviceFunction<void(ALCdevice*)>(device_, "alcDeviceResumeSOFT")(device_);
@@ -72,6 +77,7 @@ void OpenAlRest::wake() {
 void OpenAlRest::run() {
     std::unique_lock lock(mutex_);
     while (!over_) {
+        ++turns_;
         const Time wanted = end_;
         if (resting_) {
             // Not for a new end: a sound may have come and gone again before this thread gets its turn.

@@ -34,6 +34,8 @@ public:
     void playUntil(Time end);
 
     [[nodiscard]] bool resting() const;
+    /// How often the thread has looked whether it is time; while the mixer rests it does not.
+    [[nodiscard]] int turns() const;
 
 private:
     void run();
@@ -44,6 +46,7 @@ private:
     std::condition_variable changed_;
     std::thread thread_;
     Time end_{};
+    int turns_ = 0;
     bool resting_ = false;
     bool over_ = false;
 };

@@ -152,7 +152,6 @@ void Desk::showWindow(ScreenWindow& window) {
     if (window.parentWidget() != owner || window.windowFlags() != flags) window.setParent(owner, flags);
     window.setWindowModality(screen.modal ? Qt::ApplicationModal : Qt::NonModal);
     window.setAttribute(Qt::WA_ShowWithoutActivating, notice);
-    window.putOut();
     window.place();
     window.show();
     window.raise();
@@ -192,9 +191,20 @@ void Desk::turnTo(ScreenWindow& window) {
     window.activateWindow();
 }
 
+/// Whether the event would close a window that a modal screen blocks: not every way in asks.
+bool Desk::closesBlocked(const QObject& object, const QEvent& event) const {
+    if (event.type() != QEvent::Close) return false;
+    const auto* window = dynamic_cast<const ScreenWindow*>(&object);
+    return window != nullptr && user::blockedBy(forms_, window->screen()) != nullptr;
+}
+
 /// A press or a key in a window is the person's turning to it.
 bool Desk::eventFilter(QObject* object, QEvent* event) {
     if (showTip(object, event)) return true;
+    if (closesBlocked(*object, *event)) {
+        event->ignore();
+        return true;
+    }
     const bool turns = event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress;
     if (turns && object->isWidgetType()) {
         auto* window = dynamic_cast<ScreenWindow*>(static_cast<QWidget*>(object)->window());

@@ -57,6 +57,7 @@ private:
     void showWindow(ScreenWindow& window);
     void turnTo(ScreenWindow& window);
     [[nodiscard]] QWidget* ownerOf(const Screen& screen) const;
+    [[nodiscard]] bool closesBlocked(const QObject& object, const QEvent& event) const;
     Forms& forms_;
     Skin& skin_;
     std::map<const Screen*, std::unique_ptr<ScreenWindow>> windows_;

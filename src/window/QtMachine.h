@@ -21,7 +21,8 @@ public:
     void attach(Desk* desk) { desk_ = desk; }
 
     /// Screens are laid out in pixels of 96 to the inch; the toolkit scales them to the real ones.
-    [[nodiscard]] int dpi() const override { return 96; }
+    [[nodiscard]] int dpi() const override { return dotsPerInch; }
+    int dotsPerInch = 96; // another number tries a desk that is not scaled
     void setPointer(bool busy) override;
     void paint() override;
     void minimise() override;

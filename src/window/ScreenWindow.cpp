@@ -148,14 +148,18 @@ void ScreenWindow::mouseReleaseEvent(QMouseEvent*) {
 }
 
 void ScreenWindow::putOut() {
-    // Pictures go out with a move over the ground; outside of the window, or before it came up, there is
-    // none.
+    // Pictures go out with a move over the ground; a fast hand comes and goes without one.
     actor_.act([this] {
         for (View* view : views_.all) {
             const bool ground = view->control != nullptr && view->control->kind == Kind::Container;
             if (ground && view->control->visible) user::move(*view->control);
         }
     });
+}
+
+/// What was lit when the screen went may be lit still when it has come again.
+void ScreenWindow::enterEvent(QEnterEvent* event) {
+    leaveEvent(event);
 }
 
 void ScreenWindow::leaveEvent(QEvent*) {

@@ -25,8 +25,6 @@ public:
     void touched(bool byMouse) { byMouse_ = byMouse; }
     /// The focus went to a widget of this window.
     void focusMoved(QWidget* now);
-    /// Puts out what was lit under a mouse that is not there any more.
-    void putOut();
     /// Presses the key that closes the screen, if it has one.
     void pressClose();
 
@@ -42,6 +40,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void moveEvent(QMoveEvent* event) override;
@@ -51,6 +50,8 @@ private:
     [[nodiscard]] const Zoom& zoom() const { return actor_.skin().zoom(); }
     [[nodiscard]] QRect ringBox(View& view) const;
     void movedTo(QPoint corner);
+    /// Puts out what was lit under a mouse that is not there any more.
+    void putOut();
 
     Actor& actor_;
     Screen& screen_;

@@ -4,8 +4,9 @@
 walk.py GTWINDOW PROGRAM_FOLDER WALKS EVENTS [FIRST]
 
 Each walk plays so many events at controls in sight, drawn from its own number (from FIRST on, else from 1), and looks
-at the screen in front after every tenth. Fails when the window shows something else than its form holds, when the tool ends badly, or when a walk
-of many events holds ever more memory. Prints events a second.
+at the screen in front after every tenth. A walk that leaves the program starts it anew and goes on. Fails when the window
+shows something else than its form holds, when the tool ends badly, or when a run of many events holds ever more memory.
+Prints events a second and the most memory that a run has won in its second half.
 """
 
 import json
@@ -34,6 +35,7 @@ class Desk:
         self.tool = subprocess.Popen([tool, folder], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True, encoding="utf-8")
         self.ended = False
         self.said = []
+        self.held = []  # megabytes after every look
 
     def say(self, command):
         """The value lines of an answer and its closing line."""
@@ -52,6 +54,18 @@ class Desk:
                     sys.exit("\n".join(self.said[-2 * LOOK :] + [line]))
                 return values, line
             values.append(line)
+
+    def start(self, number):
+        self.say(f"seed {number}")
+        self.say("start")
+
+    def leave(self):
+        """The tool's end, which the program's own end may have brought about."""
+        if not self.ended:
+            self.tool.stdin.write("quit\n")
+            self.tool.stdin.flush()
+        if self.tool.wait() != 0:
+            sys.exit("\n".join(self.said[-2 * LOOK :] + [f"the tool ended with {self.tool.returncode}"]))
 
     def memory(self):
         with open(f"/proc/{self.tool.pid}/status", encoding="ascii") as status:
@@ -80,29 +94,38 @@ def event(draw, screen, controls):
     return f"advance {draw.choice([100, 500, 5000])}" if word == "advance" else f"{word} {full}"
 
 
+def growth(held):
+    """Megabytes won between the middle of a run and its end; too many end the walk."""
+    if len(held) < 2 * LOOK:
+        return 0
+    middle, end = held[len(held) // 2], held[-1]
+    if end > middle * 1.5 + 20:
+        sys.exit(f"{middle:.0f} MB in the middle and {end:.0f} MB at the end")
+    return end - middle
+
+
 def walk(tool, program, number, events):
-    """Plays one walk; MB held in the middle and at the end, where it came so far."""
+    """Plays one walk; the most memory that one of its runs has won."""
     draw = random.Random(number)
+    most = 0
     with tempfile.TemporaryDirectory() as scratch:
-        desk = Desk(tool, program, scratch)
-        desk.say(f"seed {number}")
-        desk.say("start")
-        controls, screen, middle = {}, "", None
+        desk = None
+        controls, screen = {}, ""
         for i in range(events):
-            if i % LOOK == 0:
+            if desk is None:
+                desk = Desk(tool, program, scratch)
+                desk.start(number)
+            if i % LOOK == 0 or not controls:
                 shown = json.loads(desk.say("shown")[0][0])
                 screen = shown[0]
                 controls = json.loads(desk.say(f"dump {screen}")[0][0])
-            if i == events // 2:
-                middle = desk.memory()
+                desk.held.append(desk.memory())
             desk.say(event(draw, screen, controls))
-            if desk.ended:
-                desk.tool.wait()
-                return None
-        memory = (middle, desk.memory())
-        desk.say("quit")
-        desk.tool.wait()
-        return memory
+            if desk.ended or i == events - 1:
+                desk.leave()
+                most = max(most, growth(desk.held))
+                desk, controls = None, {}
+    return most
 
 
 def main():
@@ -110,12 +133,11 @@ def main():
     walks, events = map(int, sys.argv[3:5])
     begun = time.perf_counter()
     first = int(sys.argv[5]) if len(sys.argv) > 5 else 1
+    most = 0
     for number in range(first, first + walks):
         print(f"walk {number}", file=sys.stderr)
-        memory = walk(tool, program, number, events)
-        if memory and memory[1] > memory[0] * 1.5 + 20:
-            sys.exit(f"walk {number} holds {memory[0]:.0f} MB in the middle and {memory[1]:.0f} MB at the end")
-    print(f"{walks} walks, {walks * events / (time.perf_counter() - begun):.0f} events a second at least")
+        most = max(most, walk(tool, program, number, events))
+    print(f"{walks} walks, {walks * events / (time.perf_counter() - begun):.0f} events a second, {most:.1f} MB won at most")
 
 
 if __name__ == "__main__":

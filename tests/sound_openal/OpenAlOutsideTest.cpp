@@ -4,7 +4,6 @@
 
 #include <atomic>
 #include <future>
-#include <thread>
 
 namespace gatewise::sound_test {
 namespace {
@@ -90,42 +89,47 @@ struct HeldRoad {
     }
 };
 
-/// Time of `work` while the device is held, the quickest of three tries: what else the machine does counts
-/// little then. `before` is not measured. Ends when the threads that were left behind have: each holds its
-/// road.
-template<class Before, class Work> std::chrono::nanoseconds quickest(Before before, Work work) {
-    auto best = std::chrono::nanoseconds::max();
-    std::vector<std::shared_ptr<std::atomic<bool>>> roads;
-    for (int i = 0; i < 3; ++i) {
-        HeldRoad held;
-        roads.push_back(held.opened);
-        OpenAlDevice device(held.road);
-        before(device);
-        const auto start = std::chrono::steady_clock::now();
-        work(device);
-        best = std::min<std::chrono::nanoseconds>(best, std::chrono::steady_clock::now() - start);
-        held.let.set_value();
-        EXPECT_TRUE(opens(device));
+/// A clock that stands until it is moved, for sounds that wait for their device.
+struct StandingClock {
+    VoiceClock::time_point time = VoiceClock::now();
+    [[nodiscard]] std::function<VoiceClock::time_point()> now() {
+        return [this] { return time; };
     }
-    for (const auto& road : roads) EXPECT_TRUE(soon([&] { return road.use_count() == 1; }));
-    return best;
-}
+};
 
 TEST(OpenAlOutside, SlowDeviceHoldsUpNobodyForLong) {
-    const auto openTwice = [](OpenAlDevice& device) {
+    HeldRoad held;
+    {
+        OpenAlDevice device(held.road);
         device.open();
-        device.open();
-    };
-    EXPECT_LT(quickest([](OpenAlDevice&) {}, openTwice), 700ms);
-    EXPECT_LT(
-        quickest([](OpenAlDevice& device) { device.open(); }, [](OpenAlDevice& device) { device.close(); }),
-        900ms);
+        EXPECT_EQ(device.output().heldUp(), 400ms);
+        device.open(); // waits no more
+        device.playOnce("\\click.wav");
+        EXPECT_EQ(device.output().heldUp(), 400ms);
+        device.close(); // gives it a last moment
+        EXPECT_EQ(device.output().heldUp(), 700ms);
+        device.close();
+        EXPECT_EQ(device.output().heldUp(), 700ms);
+    }
+    held.let.set_value();
+    EXPECT_TRUE(soon([&] { return held.opened.use_count() == 2; })) << "the thread has not ended";
+}
+
+TEST(OpenAlOutside, DeviceThatIsThereHoldsUpNobody) {
+    OpenAlDevice device(loopbackRoad());
+    ASSERT_TRUE(opens(device));
+    const auto before = device.output().heldUp();
+    device.open();
+    device.close();
+    EXPECT_EQ(device.output().heldUp(), before);
 }
 
 TEST(OpenAlOutside, SlowDeviceHoldsUpTheStartForAMomentOnlyAndComesInLater) {
     test::TempFolder folder;
     folder.write("tone.wav", waveOf(tone(16000)));
     HeldRoad held;
+    StandingClock clock;
+    held.road.now = clock.now();
     OpenAlDevice device(held.road);
     // The device comes only below: were it waited for, this test would never end.
     EXPECT_TRUE(device.open());
@@ -137,7 +141,7 @@ TEST(OpenAlOutside, SlowDeviceHoldsUpTheStartForAMomentOnlyAndComesInLater) {
     folder.write("short.wav", waveOf(tone(80)));
     const SoundBuffer gone = device.load(folder.path() + "\\short.wav");
     device.play(gone, false);
-    std::this_thread::sleep_for(100ms); // the short tone, 10 ms of it, is over meanwhile
+    clock.time += 100ms; // the short tone, 10 ms of it, is over meanwhile
     held.let.set_value();
     EXPECT_TRUE(soon([&] {
         device.setVolume(loop, -1000); // as a step of the fade
@@ -146,6 +150,37 @@ TEST(OpenAlOutside, SlowDeviceHoldsUpTheStartForAMomentOnlyAndComesInLater) {
     render(device, 4800);
     const Rendered heard = render(device, 9600);
     EXPECT_NEAR(decibels(amplitudeAt(heard.left, kTone, 0, 9600)), decibels(0.5) - 10, 0.5);
+}
+
+/// A sound of 400 ms with one click in its middle, started `before` the device comes.
+std::vector<std::size_t> clicksHeard(std::chrono::milliseconds before, int rate) {
+    Bytes samples(3200, 0x80);
+    samples[1600] = samples[1601] = 0xF0;
+    test::TempFolder folder;
+    folder.write("late.wav", waveOf(samples));
+    HeldRoad held;
+    StandingClock clock;
+    held.road.now = clock.now();
+    OpenAlDevice device(held.road);
+    device.open();
+    const SoundBuffer buffer = device.load(folder.path() + "\\late.wav");
+    device.setFrequency(buffer, rate);
+    device.play(buffer, false);
+    clock.time += before;
+    held.let.set_value();
+    EXPECT_TRUE(opens(device));
+    return onsets(renderMilliseconds(device, 1000).left, 0.2F, 480);
+}
+
+TEST(OpenAlOutside, WhatPlaysComesInAtThePlaceWhereItWouldBe) {
+    const auto at = [](const std::vector<std::size_t>& clicks) {
+        return clicks.size() == 1 ? static_cast<double>(clicks[0]) * 1000 / kRate : -1;
+    };
+    EXPECT_NEAR(at(clicksHeard(0ms, 8000)), 200, 1);
+    EXPECT_NEAR(at(clicksHeard(150ms, 8000)), 50, 1);
+    EXPECT_NEAR(at(clicksHeard(150ms, 4000)), 250, 1); // at half the rate all of it lasts twice as long
+    EXPECT_TRUE(clicksHeard(201ms, 8000).empty());
+    EXPECT_TRUE(clicksHeard(400ms, 8000).empty());
 }
 
 TEST(OpenAlOutside, DeviceThatNeverAnswersIsLeftBehind) {

@@ -5,7 +5,6 @@
 #include <ctime>
 #include <filesystem>
 #include <fstream>
-#include <thread>
 
 // The mixer's rest, on the library's own device that plays to nobody: it mixes in real time as a sound card's
 // does.
@@ -35,9 +34,34 @@ std::string silentWave(const std::filesystem::path& folder, int milliseconds) {
     return path.string();
 }
 
-double processorSeconds() {
-    return static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+/// The sound that the device has mixed so far, in time. It stands while the mixer rests.
+std::chrono::nanoseconds mixedBy(ALCdevice* device) {
+    auto* ask = reinterpret_cast<LPALCGETINTEGER64VSOFT>(alcGetProcAddress(device, "alcGetInteger64vSOFT"));
+    ALCint64SOFT time = 0;
+    ask(device, ALC_DEVICE_CLOCK_SOFT, 1, &time);
+    return std::chrono::nanoseconds(time);
 }
+
+/// A device beside ours that nobody lets rest: what it has mixed is how much time a mixer had.
+class Beside {
+public:
+    Beside() : device_(alcOpenDevice(nullptr)), context_(alcCreateContext(device_, nullptr)) {}
+    ~Beside() {
+        alcDestroyContext(context_);
+        alcCloseDevice(device_);
+    }
+    Beside(const Beside&) = delete;
+    Beside& operator=(const Beside&) = delete;
+    /// Waits until it has mixed so much more.
+    bool mixes(std::chrono::nanoseconds more) const {
+        const auto until = mixedBy(device_) + more;
+        return soon([&] { return mixedBy(device_) >= until; });
+    }
+
+private:
+    ALCdevice* device_;
+    ALCcontext* context_;
+};
 
 class Resting : public testing::Test {
 protected:
@@ -50,6 +74,7 @@ protected:
     bool rests() {
         return soon([&] { return device_.resting(); });
     }
+    [[nodiscard]] std::chrono::nanoseconds mixed() const { return mixedBy(device_.output().device()); }
 
     std::filesystem::path folder_ = std::filesystem::temp_directory_path() /
                                     ("rest" + std::to_string(std::time(nullptr)) + "_" +
@@ -60,10 +85,13 @@ protected:
 } // namespace
 
 TEST_F(Resting, WithoutASoundTheMixerRestsAndCostsNothing) {
+    const Beside beside;
     ASSERT_TRUE(rests());
-    const double before = processorSeconds();
-    std::this_thread::sleep_for(std::chrono::seconds(1));
-    EXPECT_LT(processorSeconds() - before, 0.005);
+    const auto before = mixed();
+    const int turns = device_.turnsOfRest();
+    ASSERT_TRUE(beside.mixes(std::chrono::seconds(1)));
+    EXPECT_EQ(mixed(), before) << "silence is mixed";
+    EXPECT_EQ(device_.turnsOfRest(), turns) << "nobody called the one who sends to rest";
 }
 
 TEST_F(Resting, ASoundWakesItUntilItHasRunOut) {
@@ -78,7 +106,9 @@ TEST_F(Resting, ASoundWakesItUntilItHasRunOut) {
 TEST_F(Resting, ALoopKeepsItAwakeUntilItIsStopped) {
     const SoundBuffer buffer = device_.load(silentWave(folder_, 100));
     device_.play(buffer, true);
-    std::this_thread::sleep_for(std::chrono::milliseconds(900));
+    // Longer than the sound and the time until a rest together.
+    const auto until = mixed() + std::chrono::milliseconds(900);
+    EXPECT_TRUE(soon([&] { return mixed() >= until; })) << "the mixer rests under a loop";
     EXPECT_FALSE(device_.resting());
     device_.stop(buffer);
     EXPECT_TRUE(rests());

@@ -123,17 +123,22 @@ TEST_F(Front, ANoteCoversNoKeyAndTakesNoClickBesideIt) {
 TEST_F(Front, HandlersMayShowAndHideScreensWhileTheDeskBringsThemUp) {
     auto& program = stage().window.program;
     int runs = 0;
-    // A screen that comes up is told that nothing lies under the mouse, in the middle of the desk's walk.
-    forms().OptionsForm.BG.on(Event::Move, [&] {
-        if (++runs > 1) return;
+    bool walking = false;
+    // A control that goes leaves the focus to another one, in the middle of the desk's walk.
+    const auto handler = [&] {
+        if (!walking || ++runs > 1) return;
         hideScreen(program, forms().OptionsForm);
         showScreen(program, forms().SettingsForm);
         hideScreen(program, forms().ClockForm);
         showScreen(program, forms().FlyForm);
-    });
+    };
+    for (Control* control : forms().OptionsForm.controls) control->on(Event::Focus, handler);
+    then([&] { stage().desk().act([&] { showScreen(program, forms().OptionsForm); }); });
     then([&] {
+        ASSERT_TRUE(stage().tabTo(forms().OptionsForm.d1_CHECK));
         stage().desk().act([&] {
-            showScreen(program, forms().OptionsForm);
+            walking = true;
+            forms().OptionsForm.d1_CHECK.visible = false;
             showScreen(program, forms().ClockForm);
         });
         EXPECT_GE(runs, 1);
@@ -141,6 +146,24 @@ TEST_F(Front, HandlersMayShowAndHideScreensWhileTheDeskBringsThemUp) {
         EXPECT_FALSE(stage().desk().window(forms().ClockForm).isVisible());
         EXPECT_TRUE(stage().desk().window(forms().SettingsForm).isVisible());
         EXPECT_TRUE(stage().desk().window(forms().FlyForm).isVisible());
+    });
+    play();
+}
+
+TEST_F(Front, AKeyThatWasLitWhenItsScreenWentIsPutOutByTheNextMouse) {
+    auto& f = forms().SettingsForm;
+    then([&] { stage().click(main().FlatButton(1)); });
+    then([&] { stage().click(f.closeButton); });
+    then([&] {
+        EXPECT_FALSE(f.visible);
+        stage().click(main().FlatButton(1));
+    });
+    then([&] {
+        ASSERT_TRUE(f.visible);
+        stage().hover(f.homeButton); // in one leap from the other window
+        EXPECT_EQ(f.homeButton.picture, "home_mouse");
+        EXPECT_EQ(f.closeButton.picture, "close_regular");
+        stage().key(Qt::Key_Escape);
     });
     play();
 }

@@ -34,6 +34,8 @@ public:
     /// A key pressed in a control, with so many repeats while it is held.
     virtual void key(Control& control, Key key, int repeats) = 0;
     virtual void escape(Screen& screen) = 0;
+    /// The screen's window is closed by whatever manages the windows.
+    virtual void close(Screen& screen) = 0;
     virtual void type(TextBox& box, std::string text) = 0;
     /// A row or item, or what has that id of a chart.
     virtual void choose(Control& list, int place) = 0;

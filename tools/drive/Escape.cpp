@@ -5,7 +5,11 @@
 namespace gatewise::drive {
 
 void pressEscape(Screen& screen) {
-    Control* key = screen.heedsEscape ? screen.closingControl() : nullptr;
+    if (screen.heedsEscape) closeWindow(screen);
+}
+
+void closeWindow(Screen& screen) {
+    Control* key = screen.closingControl();
     if (key != nullptr) user::click(*key);
 }
 

@@ -8,4 +8,7 @@ namespace gatewise::drive {
 /// now.
 void pressEscape(Screen& screen);
 
+/// What the window manager does to a screen: it clicks that key, where Escape is not heeded too.
+void closeWindow(Screen& screen);
+
 } // namespace gatewise::drive

@@ -81,6 +81,17 @@ Outcome escapeScreen(Session& session, Screen& screen, std::string_view rest) {
     return kDone;
 }
 
+Outcome close(Session& session, std::string_view rest) {
+    Forms& forms = session.program().forms;
+    const std::string_view name = takeWord(rest);
+    Screen* screen = forms.find(name);
+    if (screen == nullptr) return noSuch("screen", name);
+    if (!rest.empty()) return unexpected(rest);
+    if (Outcome refused = refuseScreen(forms, *screen)) return refused;
+    session.backend().close(*screen);
+    return kDone;
+}
+
 Outcome key(Session& session, std::string_view rest) {
     std::string_view words = rest;
     Screen* screen = session.program().forms.find(takeWord(words));
@@ -201,6 +212,7 @@ constexpr Command kEventCommands[] = {
     {"focus", "C", "the control gets the input focus", plain<&Backend::focus>},
     {"key", "C enter|space|escape [held N]",
      "a key in a control, held down for N repeats; escape also in a screen", key},
+    {"close", "SCREEN", "the window manager closes the screen's window", close},
     {"type", "C TEXT", "the text of a text box is replaced by typing", type},
     {"choose", "C N", "picks item or row N, from 0; of a chart or map what has the id N", choose},
     {"hover", "C N", "the mouse rests on what has the id N of a chart or map; -1: beside all", hover},

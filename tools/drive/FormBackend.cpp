@@ -73,6 +73,10 @@ void FormBackend::escape(Screen& screen) {
     if (screen.visible) pressEscape(screen);
 }
 
+void FormBackend::close(Screen& screen) {
+    if (screen.visible) closeWindow(screen);
+}
+
 void FormBackend::type(TextBox& box, std::string text) {
     user::type(box, std::move(text));
 }

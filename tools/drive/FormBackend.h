@@ -26,6 +26,7 @@ public:
     /// A held key does what one press does, whatever the number of its repeats.
     void key(Control& control, Key key, int repeats) override;
     void escape(Screen& screen) override;
+    void close(Screen& screen) override;
     void type(TextBox& box, std::string text) override;
     void choose(Control& list, int place) override;
     void hover(Chart& chart, int id) override;

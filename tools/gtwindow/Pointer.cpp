@@ -141,11 +141,11 @@ void Pointer::doubleClick(const Spot& spot) {
     QCoreApplication::processEvents();
 }
 
-/// The window may go along with the hand: the way is measured on the desk.
+/// The window may go along with the hand: the way is measured on the desk, from where the button went down.
 void Pointer::drag(const Spot& from, QPoint by) {
     press(from);
     if (from.window == nullptr) return;
-    const QPoint to = from.window->mapToGlobal(from.at) + desk_.skin().zoom().point(by);
+    const QPoint to = from.window->mapToGlobal(last_.at) + desk_.skin().zoom().point(by);
     move({from.window, from.window->mapFromGlobal(to)});
     if (from.window == nullptr) return;
     last_.at = from.window->mapFromGlobal(to);

@@ -13,6 +13,7 @@
 #include <QDesktopServices>
 #include <QDialog>
 #include <QTimer>
+#include <QWindow>
 
 namespace gatewise::gtwindow {
 
@@ -80,6 +81,11 @@ void WindowBackend::answerDialog(QDialog& dialog) {
     again->start(5);
 }
 
+void WindowBackend::start() {
+    window_.desktop.dotsPerInch = bench_.machine.desktop.dotsPerInch;
+    window_.start();
+}
+
 void WindowBackend::advance(std::int64_t milliseconds) {
     window_.desk.act([&] { bench_.machine.loop.advance(milliseconds); });
 }
@@ -143,6 +149,18 @@ void WindowBackend::escape(Screen& screen) {
     Keyboard::press(Qt::Key_Escape);
 }
 
+/// The platform's own window is told, as by the sign in its frame; what comes of it comes back through the
+/// queue of the window system.
+void WindowBackend::close(Screen& screen) {
+    QPointer<QWindow> window = desk().window(screen).windowHandle();
+    if (window == nullptr || !desk().window(screen).isVisible()) return;
+    const auto tell = [window] {
+        if (window != nullptr) window->close();
+    };
+    QMetaObject::invokeMethod(qApp, tell, Qt::QueuedConnection);
+    QCoreApplication::processEvents();
+}
+
 void WindowBackend::type(TextBox& box, std::string text) {
     const auto spot = pointer_.reach(box);
     if (!spot) return;
@@ -178,16 +196,17 @@ void WindowBackend::choose(Control& list, int place) {
         chooseItem(pointer_, list, place);
 }
 
-/// Clicks until the box shows the value; each click turns it.
+/// A click turns a check box: one that shows the value already is turned and turned back. An option stays.
 void WindowBackend::check(Control& box, int value) {
     const auto now = [&] {
         return box.kind == Kind::Check ? static_cast<const Check&>(box).value
                                        : static_cast<int>(static_cast<const Option&>(box).value);
     };
-    for (int clicks = 0; clicks < 2 && now() != value; ++clicks) {
+    for (int clicks = 0; clicks < 2; ++clicks) {
         const auto spot = pointer_.reach(box);
         if (!spot) return;
         pointer_.click(*spot);
+        if (now() == value) return;
     }
 }
 

@@ -23,7 +23,7 @@ public:
     window::Desk& desk() { return window_.desk; }
 
     Program& program() override { return window_.program; }
-    void start() override { window_.start(); }
+    void start() override;
     void advance(std::int64_t milliseconds) override;
     void tick(Timer& timer) override;
 
@@ -37,6 +37,7 @@ public:
     void focus(Control& control) override;
     void key(Control& control, drive::Key key, int repeats) override;
     void escape(Screen& screen) override;
+    void close(Screen& screen) override;
     void type(TextBox& box, std::string text) override;
     void choose(Control& list, int place) override;
     void hover(Chart& chart, int id) override;
