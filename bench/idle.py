@@ -1,18 +1,20 @@
 #!/usr/bin/env python3
-"""idle.py PROGRAM DELIVERED_FOLDER [SECONDS]: what the program as it ships takes of a core while nobody touches its board.
+"""idle.py PROGRAM DELIVERED_FOLDER [SECONDS]: what the program as it ships takes of a core while nobody touches it.
 
-Off screen and without sound, in a folder of its own; the start is over before the measurement begins. Fails above 2 %.
+Off screen, with a sound device that mixes and plays to nobody, in a folder of its own; the start is over before the
+measurement begins. Fails above 2 % on the board with its hall, above 0.5 % on the main page, where nothing is to be heard.
 """
 
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
 import tempfile
 import time
 
-MOST = 2.0  # percent of a core
+MOST = (('board', '1', 2.0), ('main page', '0', 0.5))  # page, StatusBoard of GT.cfg, percent of a core
 START = 5  # seconds
 
 
@@ -21,20 +23,25 @@ def processor_seconds(process):
     return (int(fields[11]) + int(fields[12])) / os.sysconf('SC_CLK_TCK')
 
 
-def main():
-    program, delivered = (pathlib.Path(name).resolve() for name in sys.argv[1:3])
-    seconds = float(sys.argv[3]) if len(sys.argv) > 3 else 20
+def lay_out(folder, program, delivered, board):
+    """An installed program below a folder that starts with the board or without; returns the program."""
+    own = folder / 'bin' / program.name
+    own.parent.mkdir()
+    shutil.copy2(program, own)
+    shared = folder / 'share' / 'gatewise'
+    shared.mkdir(parents=True)
+    for part in ('Wavs', 'Data', 'help', 'Fonts', 'Images'):
+        (shared / part).symlink_to(delivered / part)
+    settings = (delivered / 'GT.cfg').read_bytes()
+    (shared / 'GT.cfg').write_bytes(re.sub(rb'StatusBoard=\d', b'StatusBoard=' + board.encode(), settings))
+    return own
+
+
+def idle_percent(program, delivered, board, seconds):
     with tempfile.TemporaryDirectory() as name:
-        folder = pathlib.Path(name)
-        own = folder / 'bin' / program.name
-        own.parent.mkdir()
-        shutil.copy2(program, own)
-        shared = folder / 'share' / 'gatewise'
-        shared.mkdir(parents=True)
-        for part in ('Wavs', 'Data', 'help', 'GT.cfg', 'Fonts', 'Images'):
-            (shared / part).symlink_to(delivered / part)
+        own = lay_out(pathlib.Path(name), program, delivered, board)
         surroundings = dict(os.environ, QT_QPA_PLATFORM='offscreen', ALSOFT_DRIVERS='null', HOME=name,
-                            XDG_DATA_HOME=str(folder / 'user'))
+                            XDG_DATA_HOME=f'{name}/user')
         with subprocess.Popen([own], env=surroundings, stderr=subprocess.DEVNULL) as running:
             time.sleep(START)
             before = processor_seconds(running.pid)
@@ -44,8 +51,18 @@ def main():
             running.kill()
     if ended:
         sys.exit('the program has ended by itself')
-    print(f'{percent:.2f} % of a core')
-    sys.exit(percent > MOST)
+    return percent
+
+
+def main():
+    program, delivered = (pathlib.Path(name).resolve() for name in sys.argv[1:3])
+    seconds = float(sys.argv[3]) if len(sys.argv) > 3 else 20
+    above = False
+    for page, board, most in MOST:
+        percent = idle_percent(program, delivered, board, seconds)
+        print(f'{page}: {percent:.2f} % of a core')
+        above = above or percent > most
+    sys.exit(above)
 
 
 if __name__ == '__main__':

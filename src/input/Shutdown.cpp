@@ -14,6 +14,7 @@ void Shutdown(Program& p) {
     p.session.board.board = {};
     p.session.schedule.DepartureFlights.clear();
     p.session.schedule.BoardFlights.clear();
+    if (p.session.simulator.scan) p.session.simulator.scan->stop = true; // it holds a wait, and so the end
     if (p.SoundEngine) p.SoundEngine->Terminate_Engine();
     saveSettings(p);
     p.forms.attachTimers(nullptr);

@@ -4,6 +4,7 @@
 #include "work/SendFlight.h"
 
 #include <memory>
+#include <optional>
 
 namespace gatewise {
 
@@ -21,13 +22,14 @@ void sayProgress(forms::FlyForm& f, int folders) {
     f.acftEmpty_LABEL.text = "Looking for aircraft: " + std::to_string(folders);
 }
 
-/// While a scan runs: how far it is, and its end when nobody waits for it any more.
+/// While a scan runs: how far it is, and its end when nobody waits for it any more. The end of the program
+/// ends it without this.
 void watch(Program& p) {
     const auto scan = running(p);
     auto& f = p.forms.FlyForm;
     if (scan == nullptr) return;
     sayProgress(f, scan->folders);
-    if (!f.visible || p.ending) scan->stop = true;
+    if (!f.visible) scan->stop = true;
 }
 
 void showScanning(forms::FlyForm& f, bool scanning) {
@@ -55,12 +57,13 @@ void take(Program& p, std::vector<ScannedAircraft> found, const std::string& fol
     for (const ScannedAircraft& aircraft : simulator.AircraftTable) list.add(aircraft.title);
 }
 
-/// Off the thread that draws, where there is one.
-std::vector<ScannedAircraft> scan(Program& p, const std::string& folder) {
+/// Off the thread that draws, where there is one. Nothing of a scan that was ended before its time.
+std::optional<std::vector<ScannedAircraft>> scan(Program& p, const std::string& folder) {
     const auto progress = running(p) = std::make_shared<ScanProgress>();
     std::vector<ScannedAircraft> found;
     p.machine.loop.work([&] { found = FilesSearch(folder, progress.get()); });
     running(p).reset();
+    if (progress->stop) return std::nullopt;
     return found;
 }
 
@@ -81,10 +84,12 @@ Scanned fillAircraft(Program& p) {
         sayProgress(f, 0);
         p.machine.desktop.setPointer(true);
         auto found = scan(p, folder);
+        // A screen that was closed and is up again before the scan had heard of it.
+        while (!found && f.visible && !p.ending) found = scan(p, folder);
         p.machine.desktop.setPointer(false);
         showScanning(f, false);
         if (!f.visible || p.ending) return Scanned::Left;
-        take(p, std::move(found), folder);
+        take(p, std::move(*found), folder);
     }
     sayEmpty(p);
     return Scanned::Done;

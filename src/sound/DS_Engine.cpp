@@ -11,7 +11,6 @@ namespace gatewise {
 namespace {
 
 constexpr std::int32_t kDefaultEchoDelay = 50;
-constexpr std::int32_t kSilent = -10000;
 
 struct ReadableVolume {
     std::int32_t atLeast;
@@ -71,7 +70,7 @@ void DS_Engine::releaseAll() {
     for (Channel& channel : channels_) {
         dropBuffer(channel.buffer);
         channel.loaded = false;
-        for (SoundBuffer& echo : channel.echoes) dropBuffer(echo);
+        for (Sounding& echo : channel.echoes) dropBuffer(echo.buffer);
     }
 }
 
@@ -139,10 +138,9 @@ void DS_Engine::PlayEcho(std::int16_t channel, std::int16_t count, std::int32_t 
         if (!source->loaded) return;
         const SoundBuffer echo = device_.duplicate(source->buffer);
         if (echo == SoundBuffer::None) return;
-        SoundBuffer& slot = source->echoes[static_cast<std::size_t>(i - 1)];
-        dropBuffer(slot);
-        slot = echo;
-        if (muted_) device_.setVolume(echo, kSilent);
+        Sounding& slot = source->echoes[static_cast<std::size_t>(i - 1)];
+        dropBuffer(slot.buffer);
+        slot = {echo, source->volume};
         device_.play(echo, false);
         if (delay > 0) loop_.wait(std::int64_t{i} * delay);
     }
@@ -205,20 +203,19 @@ void DS_Engine::Pause(std::int32_t milliseconds) {
     if (milliseconds > 0) loop_.wait(milliseconds);
 }
 
-void DS_Engine::setLoudness(Channel& channel, std::int32_t volume) {
-    channel.volume = volume;
-    device_.setVolume(channel.buffer, muted_ ? kSilent : volume);
+void DS_Engine::setLoudness(Sounding& sounding, std::int32_t volume) {
+    if (volume < kLowestVolume || volume > kHighestVolume) return;
+    sounding.volume = volume;
+    device_.setVolume(sounding.buffer, muted_ ? kLowestVolume : volume);
 }
 
 void DS_Engine::setMuted(bool muted) {
     if (muted == muted_) return;
     muted_ = muted;
     for (Channel& channel : channels_) {
-        if (!channel.loaded) continue;
         setLoudness(channel, channel.volume);
-        for (const SoundBuffer echo : channel.echoes) {
-            if (echo != SoundBuffer::None) device_.setVolume(echo, muted ? kSilent : channel.volume);
-        }
+        // An echo goes on when its channel is cleared.
+        for (Sounding& echo : channel.echoes) setLoudness(echo, echo.volume);
     }
 }
 

@@ -58,11 +58,14 @@ public:
     void setMuted(bool muted);
 
 private:
-    struct Channel {
+    /// A buffer with the volume that was set for it, heard or not.
+    struct Sounding {
         SoundBuffer buffer = SoundBuffer::None;
-        std::int32_t volume = 0; // that was set, heard or not
+        std::int32_t volume = 0;
+    };
+    struct Channel : Sounding {
         bool loaded = false;
-        std::array<SoundBuffer, kEchoes> echoes{};
+        std::array<Sounding, kEchoes> echoes{};
     };
 
     void report(const char* name, std::initializer_list<SoundArgument> arguments) const;
@@ -75,8 +78,8 @@ private:
 
     SoundDevice& device_;
     EventLoop& loop_;
-    /// Sets a channel's volume on the device, or none while muted.
-    void setLoudness(Channel& channel, std::int32_t volume);
+    /// Sets a volume on the device, or none while muted. One out of range changes nothing.
+    void setLoudness(Sounding& sounding, std::int32_t volume);
 
     bool open_ = false;
     bool muted_ = false;

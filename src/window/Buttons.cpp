@@ -30,12 +30,10 @@ const char* folderOf(Kind kind) {
 
 void drawKey(QPainter& painter, const QRectF& box, const QString& caption, const Skin& skin, bool lit,
              bool usable) {
-    const QColor face = lit ? QColor(0x24, 0x44, 0x4D) : QColor(0x28, 0x30, 0x39);
-    const QColor rim = lit ? QColor(0x00, 0xB4, 0xBE) : QColor(0x3E, 0x4A, 0x55);
-    drawBox(painter, box, face, kSocket, 5);
-    drawBox(painter, box.adjusted(1, 1, -1, -1), QColor(), rim, 4);
+    drawBox(painter, box, skin.style(lit ? "key.faceLit" : "key.face"), kSocket, 5);
+    drawBox(painter, box.adjusted(1, 1, -1, -1), QColor(), skin.style(lit ? "key.rimLit" : "key.rim"), 4);
     TextStyle style = skin.text("section");
-    style.color = usable ? QColor(0xE3, 0xEA, 0xF0) : QColor(0x77, 0x85, 0x92);
+    style.color = skin.style(usable ? "key.text" : "key.disabledText");
     style.align = Qt::AlignHCenter;
     style.ellipsis = Ellipsis::Right;
     style.pad = 3;

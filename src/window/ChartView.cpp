@@ -4,6 +4,7 @@
 #include "window/LabelText.h"
 #include "window/QtText.h"
 #include "window/Skin.h"
+#include "window/Tone.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -20,37 +21,41 @@ namespace {
 
 struct ToneLook {
     Tone tone;
-    QColor screen, paper;
-    double width;  // of a line, pixels of the screen
-    double radius; // of a mark, pixels of the screen
+    QColor screen, strong, paper; // strong: on the screen in high contrast
+    double width;                 // of a line, pixels of the screen
+    double radius;                // of a mark, pixels of the screen
 };
 
 const ToneLook& look(Tone tone) {
     static const ToneLook kLooks[] = {
-        {Tone::Grid, QColor(0x22, 0x2B, 0x33), QColor(0xCC, 0xCC, 0xCC), 1, 0},
-        {Tone::Route, QColor(0x00, 0xC8, 0xD2), QColor(0x30, 0x30, 0x30), 2, 0},
-        {Tone::Airport, QColor(0xFF, 0xC5, 0x31), QColor(0, 0, 0), 2, 5},
-        {Tone::Fix, QColor(0xA6, 0xB6, 0xC4), QColor(0x50, 0x50, 0x50), 1, 2.5},
-        {Tone::Top, QColor(0x00, 0xFF, 0xFF), QColor(0, 0, 0), 1, 4},
-        {Tone::Step, QColor(0x00, 0xFF, 0x00), QColor(0x20, 0x20, 0x20), 1, 3},
-        {Tone::Water, QColor(0x0A, 0x0D, 0x10), QColor(0xFF, 0xFF, 0xFF), 0, 0},
-        {Tone::Land, QColor(0x1B, 0x21, 0x27), QColor(0xEE, 0xEE, 0xEE), 0, 0},
-        {Tone::Coast, QColor(0x4A, 0x57, 0x63), QColor(0x99, 0x99, 0x99), 1, 0},
-        {Tone::Border, QColor(0x33, 0x3D, 0x46), QColor(0xBB, 0xBB, 0xBB), 1, 0},
-        {Tone::Vor, QColor(0xA6, 0xB6, 0xC4), QColor(0x40, 0x40, 0x40), 1, 4},
-        {Tone::Ndb, QColor(0xA6, 0xB6, 0xC4), QColor(0x40, 0x40, 0x40), 1, 4},
-        {Tone::Alternate, QColor(0xC5, 0xD0, 0xDA), QColor(0x60, 0x60, 0x60), 1, 4},
-        {Tone::Flight, QColor(0x00, 0xA4, 0xAE), QColor(0x30, 0x30, 0x30), 1, 3},
-        {Tone::Other, QColor(0x56, 0x63, 0x6F), QColor(0x99, 0x99, 0x99), 1, 2.5},
-        {Tone::Runway, QColor(0xFF, 0xFF, 0xFF), QColor(0, 0, 0), 3, 0},
-        {Tone::Chosen, QColor(0xFF, 0xFF, 0xFF), QColor(0, 0, 0), 2.5, 6},
-        {Tone::Level, QColor(0xA6, 0xB6, 0xC4), QColor(0x40, 0x40, 0x40), 1, 0},
-        {Tone::Bar, QColor(0x0E, 0x5A, 0x63), QColor(0x80, 0x80, 0x80), 1, 0},
+        {Tone::Grid, QColor(0x22, 0x2B, 0x33), QColor(0x6F, 0x7C, 0x88), QColor(0xCC, 0xCC, 0xCC), 1, 0},
+        {Tone::Route, QColor(0x00, 0xC8, 0xD2), QColor(0x00, 0xFF, 0xFF), QColor(0x30, 0x30, 0x30), 2, 0},
+        {Tone::Airport, QColor(0xFF, 0xC5, 0x31), QColor(0xFF, 0xC5, 0x31), QColor(0, 0, 0), 2, 5},
+        {Tone::Fix, QColor(0xA6, 0xB6, 0xC4), QColor(0xFF, 0xFF, 0xFF), QColor(0x50, 0x50, 0x50), 1, 2.5},
+        {Tone::Top, QColor(0x00, 0xFF, 0xFF), QColor(0x00, 0xFF, 0xFF), QColor(0, 0, 0), 1, 4},
+        {Tone::Step, QColor(0x00, 0xFF, 0x00), QColor(0x00, 0xFF, 0x00), QColor(0x20, 0x20, 0x20), 1, 3},
+        {Tone::Water, QColor(0x0A, 0x0D, 0x10), QColor(0, 0, 0), QColor(0xFF, 0xFF, 0xFF), 0, 0},
+        {Tone::Land, QColor(0x1B, 0x21, 0x27), QColor(0, 0, 0), QColor(0xEE, 0xEE, 0xEE), 0, 0},
+        {Tone::Coast, QColor(0x4A, 0x57, 0x63), QColor(0xC5, 0xD0, 0xDA), QColor(0x99, 0x99, 0x99), 1, 0},
+        {Tone::Border, QColor(0x33, 0x3D, 0x46), QColor(0x84, 0x91, 0xA0), QColor(0xBB, 0xBB, 0xBB), 1, 0},
+        {Tone::Vor, QColor(0xA6, 0xB6, 0xC4), QColor(0xFF, 0xFF, 0xFF), QColor(0x40, 0x40, 0x40), 1, 4},
+        {Tone::Ndb, QColor(0xA6, 0xB6, 0xC4), QColor(0xFF, 0xFF, 0xFF), QColor(0x40, 0x40, 0x40), 1, 4},
+        {Tone::Alternate, QColor(0xC5, 0xD0, 0xDA), QColor(0xFF, 0xFF, 0xFF), QColor(0x60, 0x60, 0x60), 1, 4},
+        {Tone::Flight, QColor(0x00, 0xA4, 0xAE), QColor(0x00, 0xFF, 0xFF), QColor(0x30, 0x30, 0x30), 1, 3},
+        {Tone::Other, QColor(0x56, 0x63, 0x6F), QColor(0xA6, 0xB6, 0xC4), QColor(0x99, 0x99, 0x99), 1, 2.5},
+        {Tone::Runway, QColor(0xFF, 0xFF, 0xFF), QColor(0xFF, 0xFF, 0xFF), QColor(0, 0, 0), 3, 0},
+        {Tone::Chosen, QColor(0xFF, 0xFF, 0xFF), QColor(0xFF, 0xFF, 0xFF), QColor(0, 0, 0), 2.5, 6},
+        {Tone::Level, QColor(0xA6, 0xB6, 0xC4), QColor(0xFF, 0xFF, 0xFF), QColor(0x40, 0x40, 0x40), 1, 0},
+        {Tone::Bar, QColor(0x0E, 0x5A, 0x63), QColor(0x00, 0x8C, 0x96), QColor(0x80, 0x80, 0x80), 1, 0},
     };
     for (const auto& row : kLooks) {
         if (row.tone == tone) return row;
     }
     return kLooks[0];
+}
+
+QColor colorOf(const ToneLook& look, bool paper) {
+    return paper ? look.paper : highContrast() ? look.strong : look.screen;
 }
 
 /// Finds room for the words of a chart: beside their mark, off each other and, where it can be, off the
@@ -166,7 +171,7 @@ template<class Place> void drawAreas(QPainter& painter, const Drawing& drawing, 
             for (const auto& p : ring) points << place(p);
             path.addPolygon(points);
         }
-        painter.fillPath(path, paper ? look(area.tone).paper : look(area.tone).screen);
+        painter.fillPath(path, colorOf(look(area.tone), paper));
     }
     painter.setRenderHint(QPainter::Antialiasing);
 }
@@ -195,7 +200,7 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
     drawAreas(painter, drawing, place, paper);
     for (const auto& line : drawing.lines) {
         const ToneLook& tone = look(line.tone);
-        QPen pen(paper ? tone.paper : tone.screen, (line.width > 0 ? line.width : tone.width) * pixel);
+        QPen pen(colorOf(tone, paper), (line.width > 0 ? line.width : tone.width) * pixel);
         pen.setJoinStyle(Qt::RoundJoin);
         if (line.tone == Tone::Alternate) pen.setStyle(Qt::DashLine);
         // The many lines of the ground are drawn without smoothing on the screen: a frame has 16 ms for them.
@@ -210,7 +215,7 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
     painter.setRenderHint(QPainter::Antialiasing);
     for (const auto& word : drawing.texts) {
         const ToneLook& tone = look(word.tone == Tone::Grid ? Tone::Level : word.tone);
-        painter.setPen(paper ? tone.paper : tone.screen);
+        painter.setPen(colorOf(tone, paper));
         const QString text = toQt(word.text);
         QPointF at = place(word.at);
         at.ry() += metrics.ascent() * 0.36;
@@ -226,7 +231,7 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
         const ToneLook& tone = look(mark.tone);
         const QPointF at = place(mark.at);
         const double radius = tone.radius * pixel;
-        drawMark(painter, at, mark.tone, radius, paper ? tone.paper : tone.screen);
+        drawMark(painter, at, mark.tone, radius, colorOf(tone, paper));
         words.keepOff(QRectF(at.x() - radius, at.y() - radius, 2 * radius, 2 * radius));
     }
     for (const auto& mark : drawing.marks) {
@@ -235,7 +240,7 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
         const QString word = toQt(mark.label);
         const auto at = words.place(place(mark.at), tone.radius * pixel, word);
         if (word.isEmpty() || !at) continue;
-        painter.setPen(paper ? tone.paper : tone.screen);
+        painter.setPen(colorOf(tone, paper));
         painter.drawText(*at, word);
     }
     painter.restore();
@@ -251,9 +256,10 @@ void ChartView::sync() {
 
 void ChartView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this, scale());
-    drawWell(painter, painter.whole().adjusted(0, 0, 0, -1), QColor(0x05, 0x07, 0x09), kSocket,
-             QColor(0x39, 0x43, 0x4D));
-    drawDrawing(painter, sheet(), shown_, actor_.skin().text("caption").font);
+    const Skin& skin = actor_.skin();
+    drawWell(painter, painter.whole().adjusted(0, 0, 0, -1), skin.style("glass.back"), kSocket,
+             skin.style("glass.rim"));
+    drawDrawing(painter, sheet(), shown_, skin.text("caption").font);
 }
 
 } // namespace gatewise::window

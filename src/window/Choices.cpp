@@ -5,6 +5,7 @@
 #include "window/LabelText.h"
 #include "window/QtText.h"
 #include "window/Skin.h"
+#include "window/Tone.h"
 
 #include <QMouseEvent>
 
@@ -72,8 +73,8 @@ void CheckView::paintEvent(QPaintEvent*) {
     if (checkState() != Qt::Unchecked) {
         painter.setRenderHint(QPainter::Antialiasing);
         const bool full = checkState() == Qt::Checked && isEnabled();
-        painter.setPen(QPen(skin.style(full ? "check.mark" : "check.grey"), 2, Qt::SolidLine, Qt::RoundCap,
-                            Qt::RoundJoin));
+        painter.setPen(QPen(inkOf(skin.style(full ? "check.mark" : "check.grey")), 2, Qt::SolidLine,
+                            Qt::RoundCap, Qt::RoundJoin));
         const QPointF tick[] = {
             {box.x() + 3, box.y() + 7.2}, {box.x() + 5.8, box.y() + 10.2}, {box.x() + 11, box.y() + 3.8}};
         painter.drawPolyline(tick, 3);
@@ -113,12 +114,13 @@ void OptionView::paintEvent(QPaintEvent*) {
     const Skin& skin = actor_.skin();
     painter.setRenderHint(QPainter::Antialiasing);
     const QPointF middle(kBox / 2.0, height / 2);
-    painter.setPen(QPen(skin.style(underMouse() && isEnabled() ? "option.hoverBorder" : "option.border"), 1));
-    painter.setBrush(skin.style("option.back"));
+    painter.setPen(
+        QPen(edgeOf(skin.style(underMouse() && isEnabled() ? "option.hoverBorder" : "option.border")), 1));
+    painter.setBrush(groundOf(skin.style("option.back")));
     painter.drawEllipse(middle, 6.5, 6.5);
     if (static_cast<const Option&>(*control).value) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(skin.style("option.mark"));
+        painter.setBrush(inkOf(skin.style("option.mark")));
         painter.drawEllipse(middle, 3.2, 3.2);
     }
     drawChoiceText(painter, *this, skin, text(), isEnabled());
@@ -170,18 +172,19 @@ void SliderView::paintEvent(QPaintEvent*) {
     const double left = 8;
     const double length = painter.whole().width() - 16;
     const double middle = 14;
-    drawBox(painter, {left - 4, middle - 3, length + 8, 6}, skin.style("slider.groove"), QColor(), 3);
+    drawBox(painter, {left - 4, middle - 3, length + 8, 6}, skin.style("slider.groove"),
+            highContrast() ? kSocket : QColor(), 3); // black in black shows where it ends
     drawBox(painter, {left - 4, middle - 1.5, length * share + 4, 3}, skin.style("slider.fill"), QColor(),
             1.5);
     for (int i = 0; i <= 20; ++i) {
         painter.fillRect(QRectF(std::round(left + length * i / 20), 24, 1, i % 5 == 0 ? 7 : 4),
-                         skin.style("slider.tick"));
+                         inkOf(skin.style("slider.tick")));
     }
     const double x = left + length * share;
     drawBox(painter, {x - 6, middle - 10, 12, 20}, kSocket, QColor(), 3);
     drawBox(painter, {x - 5, middle - 9, 10, 18},
             skin.style(underMouse() ? "slider.thumbHover" : "slider.thumb"), QColor(), 2);
-    painter.fillRect(QRectF(x - 1, middle - 5, 2, 10), QColor(0x0E, 0x7C, 0x86));
+    painter.fillRect(QRectF(x - 1, middle - 5, 2, 10), skin.style("slider.thumbLine"));
 }
 
 UpDownView::UpDownView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent)
@@ -251,7 +254,7 @@ void UpDownView::paintEvent(QPaintEvent*) {
     drawBox(painter, {0, half, width, half}, mouse >= half ? hover : face, kSocket, 2);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(skin.style("updown.arrow"));
+    painter.setBrush(inkOf(skin.style("updown.arrow")));
     const double x = width / 2;
     const QPointF up[] = {{x - 3.5, 8}, {x, 4}, {x + 3.5, 8}};
     const QPointF down[] = {{x - 3.5, height - 8}, {x, height - 4}, {x + 3.5, height - 8}};

@@ -1,5 +1,6 @@
 #include "window/ContextMenus.h"
 
+#include "window/Sheets.h"
 #include "window/View.h"
 
 #include <QApplication>
@@ -44,16 +45,6 @@ template<class Field> void fill(QMenu& menu, Field& field) {
     add("Select All", QKeySequence::SelectAll, can.filled, &Field::selectAll);
 }
 
-QString styleOf(const Skin& skin) {
-    return QString("QMenu{background:%1;color:%2;border:1px solid %3;padding:4px}"
-                   "QMenu::item{padding:4px 24px 4px 12px}"
-                   "QMenu::item:selected{background:%4;color:%5}"
-                   "QMenu::item:disabled{color:#8491A0}"
-                   "QMenu::separator{height:1px;background:%3;margin:4px}")
-        .arg("#1B2127", "#E3EAF0", "#39434D", skin.style("list.selected").name(),
-             skin.style("list.selectedText").name());
-}
-
 } // namespace
 
 ContextMenus::ContextMenus(const Skin& skin) : skin_(skin) {
@@ -64,7 +55,7 @@ QMenu* ContextMenus::menuOf(QWidget& field) const {
     auto* menu = new QMenu(&field);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setFont(skin_.widgetFont("data"));
-    menu->setStyleSheet(styleOf(skin_));
+    menu->setStyleSheet(menuSheet(skin_));
     if (auto* line = qobject_cast<QLineEdit*>(&field)) fill(*menu, *line);
     if (auto* notes = qobject_cast<QPlainTextEdit*>(&field)) fill(*menu, *notes);
     return menu;

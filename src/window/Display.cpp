@@ -3,6 +3,7 @@
 #include "platform/Profile.h"
 #include "window/Desk.h"
 #include "window/DisplayKey.h"
+#include "window/Sheets.h"
 #include "window/Tone.h"
 #include "work/ConfigFile.h"
 
@@ -181,6 +182,7 @@ QMenu* Display::makeMenu(QWidget* owner) {
     auto* menu = new QMenu(owner);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setFont(desk_.skin().widgetFont("data"));
+    menu->setStyleSheet(menuSheet(desk_.skin()));
     const auto add = [menu](const QString& text, bool on, bool usable, auto choose) {
         QAction* action = menu->addAction(text, menu, choose);
         action->setCheckable(true);

@@ -59,7 +59,7 @@ void drawWell(QPainter& painter, const QRectF& wanted, const QColor& fill, const
     drawBox(painter, box, fill, edge, 3);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(rim, line));
+    painter.setPen(QPen(groundOf(rim), line));
     const double y = box.bottom() + line / 2;
     painter.drawLine(QPointF(box.x() + 3, y), QPointF(box.right() - 3, y));
     painter.restore();

@@ -4,11 +4,14 @@
 #include "window/Drawing.h"
 #include "window/LabelText.h"
 #include "window/QtText.h"
+#include "window/Sheets.h"
 #include "window/Skin.h"
+#include "window/Tone.h"
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
 #include <QListView>
+#include <QScrollBar>
 #include <QTimer>
 
 namespace gatewise::window {
@@ -154,6 +157,7 @@ void NotesView::sync() {
 void NotesView::takePlace() {
     View::takePlace();
     setFont(actor_.skin().widgetFont(place.font));
+    verticalScrollBar()->setStyleSheet(scrollBarSheet(actor_.skin()));
     document()->setDocumentMargin(5 * scale().factor);
 }
 
@@ -197,6 +201,7 @@ void ComboView::takePlace() {
                                    skin.style("combo.popupSelectText").name())
                               .arg(scale().edge(kItemHeight))
                               .arg(scale().edge(kItemLeft)));
+    view()->verticalScrollBar()->setStyleSheet(scrollBarSheet(skin));
 }
 
 void ComboView::pick(int at) {
@@ -233,7 +238,7 @@ void ComboView::paintEvent(QPaintEvent*) {
     const QRectF arrow(width - kArrowField, 1, kArrowField - 1, height - 2);
     drawBox(painter, arrow, isEnabled() ? skin.style("combo.arrowField") : back, QColor(), 1);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(skin.style("combo.arrow"), 2));
+    painter.setPen(QPen(inkOf(skin.style("combo.arrow")), 2));
     const double x = width - 16;
     const double y = height / 2 - 2;
     const QPointF tip[] = {{x, y}, {x + 4.5, y + 5}, {x + 9, y}};

@@ -85,8 +85,9 @@ void MapView::zoom(double factor, QPointF about) {
 
 void MapView::paintEvent(QPaintEvent*) {
     ViewPainter painter(*this, scale());
-    drawWell(painter, painter.whole(), QColor(0x05, 0x07, 0x09), kSocket, QColor(0x39, 0x43, 0x4D));
-    drawDrawing(painter, sheet(), drawing_, actor_.skin().text("caption").font);
+    const Skin& skin = actor_.skin();
+    drawWell(painter, painter.whole(), skin.style("glass.back"), kSocket, skin.style("glass.rim"));
+    drawDrawing(painter, sheet(), drawing_, skin.text("caption").font);
 }
 
 void MapView::resizeEvent(QResizeEvent*) {

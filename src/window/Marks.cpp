@@ -1,5 +1,7 @@
 #include "window/Marks.h"
 
+#include "window/Tone.h"
+
 namespace gatewise::window {
 
 namespace {
@@ -35,7 +37,7 @@ void drawMark(QPainter& painter, const QRect& box, const Label& label) {
         painter.fillRect(box.left() + kInset, box.bottom() - kLine, box.width() - 2 * kInset, kLine,
                          kWhereYouAre);
     else if (sortsTable(label))
-        drawArrow(painter, box, label.mark == Mark::Sorted ? kWhereYouAre : kAsleep);
+        drawArrow(painter, box, label.mark == Mark::Sorted ? kWhereYouAre : edgeOf(kAsleep));
 }
 
 } // namespace gatewise::window

@@ -2,6 +2,7 @@
 
 #include "window/Drawing.h"
 #include "window/Skin.h"
+#include "window/Tone.h"
 
 #include <algorithm>
 
@@ -25,7 +26,8 @@ void ProgressView::paintEvent(QPaintEvent*) {
     const Skin& skin = actor_.skin();
     const QSizeF box = place.box.size();
     const double share = static_cast<double>(value() - minimum()) / std::max(1, maximum() - minimum());
-    drawBox(painter, {0, 0, box.width(), box.height()}, skin.style("slider.groove"), QColor(), 3);
+    drawBox(painter, {0, 0, box.width(), box.height()}, skin.style("slider.groove"),
+            highContrast() ? kSocket : QColor(), 3); // black in black shows where it ends
     if (value() > minimum())
         drawBox(painter, {1.5, 1.5, std::max(3.0, (box.width() - 3) * share), box.height() - 3},
                 skin.style("slider.fill"), QColor(), 1.5);

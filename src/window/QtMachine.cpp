@@ -2,14 +2,15 @@
 
 #include "input/UserEvents.h"
 #include "platform/Files.h"
+#include "platform/Proposals.h"
 #include "platform/Text.h"
 #include "window/Desk.h"
+#include "window/FileDialogs.h"
 #include "window/QtText.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
-#include <QFileDialog>
 #include <QUrl>
 #include <atomic>
 #include <exception>
@@ -29,6 +30,15 @@ std::string topicOf(const std::string& page) {
     return topic;
 }
 
+/// Where a dialog begins for which work proposes a path.
+QString startOf(const std::string& proposal, const std::string& AppDir) {
+    return nativePath(proposalFor(proposal, AppDir, userFolders()));
+}
+
+std::optional<std::string> pathOrNothing(const QString& native) {
+    return native.isEmpty() ? std::nullopt : std::optional(pathText(native));
+}
+
 } // namespace
 
 void QtDesktop::setPointer(bool busy) {
@@ -41,23 +51,18 @@ void QtDesktop::setPointer(bool busy) {
 }
 
 std::optional<std::string> QtDesktop::askSavePath(const std::string& title, const std::string& proposal) {
-    const QString path = nativePath(proposal);
-    const QString ending = QFileInfo(path).suffix();
-    const QString kinds =
-        ending.isEmpty() ? QString() : ending.toUpper() + " files (*." + ending + ");;All files (*)";
-    const QString name = QFileDialog::getSaveFileName(QApplication::activeWindow(), toQt(title), path, kinds);
-    return name.isEmpty() ? std::nullopt : std::optional(pathText(name));
+    if (desk_ == nullptr) return std::nullopt;
+    return pathOrNothing(askNewFile(desk_->skin(), toQt(title), startOf(proposal, folder_)));
 }
 
 std::optional<std::string> QtDesktop::askOpenPath(const std::string& title, const std::string& proposal) {
-    const QString name =
-        QFileDialog::getOpenFileName(QApplication::activeWindow(), toQt(title), nativePath(proposal));
-    return name.isEmpty() ? std::nullopt : std::optional(pathText(name));
+    if (desk_ == nullptr) return std::nullopt;
+    return pathOrNothing(askFile(desk_->skin(), toQt(title), startOf(proposal, folder_)));
 }
 
 std::optional<std::string> QtDesktop::askFolder(const std::string& title) {
-    const QString name = QFileDialog::getExistingDirectory(QApplication::activeWindow(), toQt(title));
-    return name.isEmpty() ? std::nullopt : std::optional(pathText(name));
+    if (desk_ == nullptr) return std::nullopt;
+    return pathOrNothing(window::askFolder(desk_->skin(), toQt(title), startOf({}, folder_)));
 }
 
 void QtDesktop::paint() {

@@ -3,6 +3,7 @@
 #include "input/UserEvents.h"
 #include "window/LabelText.h"
 #include "window/Skin.h"
+#include "window/Tone.h"
 
 #include <algorithm>
 #include <cmath>
@@ -56,12 +57,12 @@ void RowsHead::paintEvent(QPaintEvent* event) {
     QHeaderView::paintEvent(event);
     QPainter painter(viewport());
     const QRect rest = viewport()->rect().adjusted(length(), 0, 0, 0);
-    painter.fillRect(rest, actor_.skin().style("list.head"));
-    painter.fillRect(0, height() - 1, viewport()->width(), 1, actor_.skin().style("list.rim"));
+    painter.fillRect(rest, groundOf(actor_.skin().style("list.head")));
+    painter.fillRect(0, height() - 1, viewport()->width(), 1, edgeOf(actor_.skin().style("list.rim")));
 }
 
 void RowsHead::paintSection(QPainter* painter, const QRect& box, int section) const {
-    painter->fillRect(box, actor_.skin().style("list.head"));
+    painter->fillRect(box, groundOf(actor_.skin().style("list.head")));
     TextStyle style = actor_.skin().text("list-head");
     style.color = actor_.skin().style("list.headText");
     style.ellipsis = Ellipsis::Right;
@@ -74,7 +75,7 @@ void RowsHead::paintSection(QPainter* painter, const QRect& box, int section) co
     painter->restore();
     const int gap = actor_.skin().zoom().edge(3);
     painter->fillRect(box.right(), box.top() + gap, 1, box.height() - 2 * gap,
-                      actor_.skin().style("list.rim"));
+                      edgeOf(actor_.skin().style("list.rim")));
 }
 
 } // namespace gatewise::window

@@ -3,7 +3,9 @@
 #include "input/UserEvents.h"
 #include "window/Drawing.h"
 #include "window/QtText.h"
+#include "window/Sheets.h"
 #include "window/Skin.h"
+#include "window/Tone.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -32,20 +34,6 @@ public:
 private:
     const Skin& skin_;
 };
-
-QString scrollBarStyle(const Skin& skin) {
-    return QString("QScrollBar:vertical{background:%1;width:%4px;border:0}"
-                   "QScrollBar::handle:vertical{background:%2;border-radius:%5px;margin:%6px;min-height:%7px}"
-                   "QScrollBar::handle:vertical:hover{background:%3}"
-                   "QScrollBar::add-line,QScrollBar::sub-line{height:0}"
-                   "QScrollBar::add-page,QScrollBar::sub-page{background:none}")
-        .arg(skin.style("list.scrollTrack").name(), skin.style("list.scrollThumb").name(),
-             skin.style("list.scrollThumbHover").name())
-        .arg(skin.zoom().edge(12))
-        .arg(skin.zoom().edge(4))
-        .arg(skin.zoom().edge(2))
-        .arg(skin.zoom().edge(24));
-}
 
 ListView* columnsOf(Control& control) {
     return control.kind == Kind::ListView ? static_cast<ListView*>(&control) : nullptr;
@@ -76,7 +64,7 @@ RowsTable::RowsTable(Actor& actor, Control& control, const ControlLayout& place,
 }
 
 void RowsTable::takeSizes() {
-    verticalScrollBar()->setStyleSheet(scrollBarStyle(actor_.skin()));
+    verticalScrollBar()->setStyleSheet(scrollBarSheet(actor_.skin()));
     head_->takeSizes();
     scheduleDelayedItemsLayout();
 }
@@ -224,7 +212,7 @@ void RowsTable::keyPressEvent(QKeyEvent* event) {
 void RowsTable::paintEvent(QPaintEvent* event) {
     {
         QPainter painter(viewport());
-        const QColor stripe = actor_.skin().style("list.stripe");
+        const QColor stripe = groundOf(actor_.skin().style("list.stripe"));
         const int first = model_.rowCount() > 0 ? verticalScrollBar()->value() : 0;
         for (int y = 0, row = first; y < viewport()->height(); y += rowPixels(), ++row) {
             if (row % 2 == 1) painter.fillRect(0, y, viewport()->width(), rowPixels(), stripe);

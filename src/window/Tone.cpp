@@ -12,6 +12,7 @@ bool strong = false;
 
 constexpr double kBlack = 0.27; // what is darker than a key's face becomes black
 constexpr double kWhite = 0.80; // what is lighter than a caption becomes white
+constexpr double kLit = 0.70;   // an edge that is lighter is lit
 // Darker than the night shade of a clock: ink on paper.
 constexpr double kInk = 0.41;
 constexpr double kLeast = 7; // contrast of a text to black
@@ -65,8 +66,8 @@ QColor inkOf(const QColor& color) {
 
 QColor edgeOf(const QColor& color) {
     if (!strong || !color.isValid()) return color;
-    // What is lit, as the ring of the keyboard, stays lit.
-    if (std::max({color.redF(), color.greenF(), color.blueF()}) > kWhite) return color;
+    // What is lit, as the ring of the keyboard or of a key under the mouse, stays lit.
+    if (std::max({color.redF(), color.greenF(), color.blueF()}) > kLit) return color;
     return {0xC5, 0xD0, 0xDA};
 }
 

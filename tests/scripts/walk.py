@@ -32,7 +32,9 @@ class Desk:
         for name in NEVER_WRITTEN:
             if os.path.isdir(os.path.join(program, name)):
                 os.symlink(os.path.abspath(os.path.join(program, name)), os.path.join(folder, name))
-        self.tool = subprocess.Popen([tool, folder], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True, encoding="utf-8")
+        home = dict(os.environ, HOME=folder)  # dialogs begin there, and nowhere in the files of whoever walks
+        self.tool = subprocess.Popen([tool, folder], stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True, encoding="utf-8",
+                                     env=home)
         self.ended = False
         self.said = []
         self.held = []  # megabytes after every look

@@ -310,5 +310,23 @@ TEST(AircraftScan, AFileOfAbsurdLengthIsNoAircraft) {
     EXPECT_TRUE(FilesSearch(folder.path("/Aircraft")).empty());
 }
 
+TEST(AircraftScan, TellsHowFarItIs) {
+    const TempFolder folder;
+    for (const char* name : {"A", "B", "C"}) install(folder, name, "[fltsim.0]\ntitle=Plane\n");
+    std::ofstream(folder / "Aircraft/readme.txt") << "no folder";
+    ScanProgress progress;
+    EXPECT_EQ(FilesSearch(folder.path("\\Aircraft"), &progress).size(), 3U);
+    EXPECT_EQ(progress.folders, 3);
+}
+
+TEST(AircraftScan, EndsWhenItIsTold) {
+    const TempFolder folder;
+    for (const char* name : {"A", "B", "C"}) install(folder, name, "[fltsim.0]\ntitle=Plane\n");
+    ScanProgress progress;
+    progress.stop = true;
+    EXPECT_TRUE(FilesSearch(folder.path("\\Aircraft"), &progress).empty());
+    EXPECT_EQ(progress.folders, 0);
+}
+
 } // namespace
 } // namespace gatewise

@@ -3,6 +3,10 @@
 #include "window/QtText.h"
 
 #include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
 
@@ -59,6 +63,85 @@ TEST_F(SaveDialog, AFileIsOpenedWhereItWasProposed) {
     const auto answer = stage().window.desktop.askOpenPath("Open", files::textOf(folder()) + "\\log.csv");
     ASSERT_TRUE(answer);
     EXPECT_EQ(files::resolve(*answer), folder() / "log.csv");
+}
+
+TEST_F(SaveDialog, TheLogBookIsAskedForInTheColoursOfTheSkinWithItsKindAndEnding) {
+    const auto& skin = stage().desk().skin();
+    const std::string proposal = files::textOf(folder()) + "\\LogBook.csv";
+    QTimer::singleShot(0, &stage().desk(), [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->windowTitle(), "Export Log Book");
+        EXPECT_EQ(dialog->nameFilters(), (QStringList{"CSV files (*.csv)", "All files (*)"}));
+        EXPECT_EQ(dialog->selectedNameFilter(), "CSV files (*.csv)");
+        EXPECT_EQ(dialog->defaultSuffix(), "csv");
+        EXPECT_EQ(dialog->font().family(), skin.widgetFont("data").family());
+        const QImage seen = dialog->grab().toImage();
+        EXPECT_EQ(seen.pixelColor(2, 2), skin.style("menu.back"));
+        const auto* name = dialog->findChild<QLineEdit*>("fileNameEdit");
+        ASSERT_NE(name, nullptr);
+        EXPECT_EQ(seen.pixelColor(name->mapTo(dialog, QPoint(name->width() / 2, 3))),
+                  skin.style("textbox.back"));
+        dialog->selectFile("Other");
+        static_cast<QDialog*>(dialog)->accept();
+    });
+    const auto answer = stage().window.desktop.askSavePath("Export Log Book", proposal);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(files::resolve(*answer), folder() / "Other.csv");
+}
+
+TEST_F(SaveDialog, AFileThatIsThereIsOnlyTakenWhenThePilotSaysSo) {
+    std::ofstream(folder() / "LogBook.csv") << "mine";
+    bool asked = false;
+    auto* timer = new QTimer(&stage().desk());
+    QObject::connect(timer, &QTimer::timeout, timer, [&] {
+        auto* now = QApplication::activeModalWidget();
+        if (auto* question = qobject_cast<QMessageBox*>(now)) {
+            asked = true;
+            ASSERT_NE(question->defaultButton(), nullptr);
+            EXPECT_EQ(question->buttonRole(question->defaultButton()), QMessageBox::NoRole);
+            question->defaultButton()->click();
+        } else if (auto* dialog = qobject_cast<QFileDialog*>(now)) {
+            asked ? static_cast<QDialog*>(dialog)->reject() : static_cast<QDialog*>(dialog)->accept();
+        }
+    });
+    timer->start(5);
+    EXPECT_FALSE(stage().window.desktop.askSavePath("Save", files::textOf(folder()) + "\\LogBook.csv"));
+    timer->stop();
+    EXPECT_TRUE(asked);
+}
+
+TEST_F(SaveDialog, AProposalWhoseFolderIsGoneBeginsInTheDocuments) {
+    const QByteArray home = qgetenv("HOME");
+    const QByteArray config = qgetenv("XDG_CONFIG_HOME");
+    std::filesystem::create_directories(folder() / "home" / "Documents");
+    qputenv("HOME", QByteArray::fromStdString((folder() / "home").string()));
+    qunsetenv("XDG_CONFIG_HOME");
+    QTimer::singleShot(0, &stage().desk(), [] {
+        if (auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget()))
+            static_cast<QDialog*>(dialog)->accept();
+    });
+    const auto answer =
+        stage().window.desktop.askSavePath("Save", files::textOf(folder()) + "\\gone\\plan.pln");
+    qputenv("HOME", home);
+    if (!config.isNull()) qputenv("XDG_CONFIG_HOME", config);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(files::resolve(*answer), folder() / "home" / "Documents" / "plan.pln");
+}
+
+TEST_F(SaveDialog, GrowsWithTheWindowsAndNotBeyondTheScreen) {
+    for (const int percent : {100, 200}) {
+        stage().window.display.choosePercent(percent);
+        QTimer::singleShot(0, &stage().desk(), [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            EXPECT_GE(dialog->width(), 640 * percent / 100);
+            EXPECT_TRUE(dialog->screen()->availableGeometry().contains(dialog->geometry())) << percent;
+            EXPECT_EQ(dialog->font().pixelSize(), stage().desk().skin().widgetFont("data").pixelSize());
+            static_cast<QDialog*>(dialog)->reject();
+        });
+        EXPECT_FALSE(stage().window.desktop.askSavePath("Save", files::textOf(folder()) + "\\plan.pln"));
+    }
 }
 
 } // namespace gatewise::test

@@ -1,5 +1,6 @@
 #include "window/StageTest.h"
 
+#include "input/UserEvents.h"
 #include "work/ConfigFile.h"
 
 #include <QAbstractItemView>
@@ -286,6 +287,25 @@ TEST(ComeBack, APilotWhoWantsItFindsPageAndAirportAgain) {
         EXPECT_EQ(trimmed(again.forms().MainForm.departureText.text), "KATL");
     });
     again.play();
+}
+
+TEST_F(Search, TheWindowStandsWhereItWasLeftIfThePilotWantsIt) {
+    QPoint wanted;
+    then([&] { stage().click(main().FlatButton(1)); });
+    then([&] {
+        stage().click(forms().SettingsForm.returnCHECK);
+        stage().key(Qt::Key_Escape);
+    });
+    then([&] {
+        stage().desk().act([&] { user::moveTo(main(), 333, 77); });
+        wanted = stage().desk().mainWindow().pos();
+        EXPECT_EQ(wanted, QPoint(333, 77));
+        stage().click(main().FlatButton(4));
+    });
+    play();
+    restart();
+    then([&] { EXPECT_EQ(stage().desk().mainWindow().pos(), wanted); });
+    play();
 }
 
 } // namespace gatewise::test

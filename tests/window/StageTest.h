@@ -23,6 +23,14 @@ protected:
         stage_->machine.registry.folder = files::textOf(std::filesystem::path(folder) / "FS2002");
     }
 
+    /// The program anew in the folder that the last run left, once that run is over.
+    void restart() {
+        const std::string appDir = stage_->window.program.session.AppDir;
+        stage_.reset();
+        stage_ = std::make_unique<stage::Stage>(appDir, stage::Time::Simulated);
+        stage_->machine.registry.folder = files::textOf(folder().parent_path() / "FS2002");
+    }
+
     static bool dataIsThere() { return std::filesystem::exists(GATEWISE_PROGRAM_DIR "/Data/index.gt1"); }
 
     void then(stage::Stage::Step step) { stage_->then(std::move(step)); }

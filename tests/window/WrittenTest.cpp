@@ -201,6 +201,21 @@ TEST_F(Written, TheFolderScreenBeginsWhereTheSimulatorLiesAndSaysWhatItLooksFor)
     qputenv("HOME", home);
 }
 
+TEST_F(Written, TheFolderScreenBeginsAtTheLastFolderWhereThatIsThere) {
+    const std::string last = files::textOf(simulator());
+    then([&] {
+        stage().window.program.session.settings.FsPath = last;
+        stage().click(main().FlatButton(1));
+    });
+    then([&] { stage().click(forms().SettingsForm.pathButton); });
+    then([&] {
+        EXPECT_EQ(forms().DirForm.Dir1.path, last);
+        EXPECT_EQ(forms().DirForm.File1.items, std::vector<std::string>{"FS2002.exe"});
+        stage().key(Qt::Key_Escape);
+    });
+    play();
+}
+
 TEST_F(Written, AFolderWithoutAircraftSaysSo) {
     auto& fly = forms().FlyForm;
     std::filesystem::remove_all(simulator() / "Aircraft");

@@ -101,6 +101,33 @@ TEST_F(Zooms, PicturesHaveTheSizeOfTheirKeysToThePixel) {
     play();
 }
 
+/// The highest step between neighbours in a line: what is stretched has none that is as high.
+int sharpestEdge(const QImage& picture) {
+    int sharpest = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 1; x < picture.width(); ++x)
+            sharpest =
+                std::max(sharpest, std::abs(qGray(picture.pixel(x, y)) - qGray(picture.pixel(x - 1, y))));
+    }
+    return sharpest;
+}
+
+TEST_F(Zooms, TextsAndPicturesAreDrawnAnewAndNotStretched) {
+    then([&] {
+        for (Control* control : std::initializer_list<Control*>{
+                 &main().statusboard_LABEL, &main().time_LABEL(20), &main().FlatButton(0)}) {
+            display().choosePercent(100);
+            const QImage usual = stage().widget(*control).grab().toImage();
+            display().choosePercent(200);
+            const QImage large = stage().widget(*control).grab().toImage();
+            const QImage stretched =
+                usual.scaled(large.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            EXPECT_GT(sharpestEdge(large), sharpestEdge(stretched) * 5 / 4) << control->fullName();
+        }
+    });
+    play();
+}
+
 TEST_F(Zooms, HandsReachWhatTheySee) {
     for (const int percent : {75, 150, 200}) {
         then([&, percent] {

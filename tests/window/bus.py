@@ -326,6 +326,7 @@ def main_page(reader):
             if thing.role == role and 'showing' in thing.states and not thing.related('labelled-by'):
                 reader.miss(f'{thing} is tied to no label')
     visit(reader, 'Gatewise Terminal - Import Schedules', lambda: reader.press('Import...'))
+    visit(reader, 'Gatewise Terminal - Routes', lambda: reader.press('Map'))
 
 
 def flight(reader):
@@ -348,10 +349,25 @@ def flight(reader):
     visit(reader, 'Gatewise Terminal - Fly Options', lambda: reader.press('FLY'))
 
 
+def plain_message(reader, bring_up):
+    """The one screen that is called like the main window: told apart by its role."""
+    def boxes():
+        return [window for window in reader.windows() if window.name == MAIN and window.role == 'dialog']
+    bring_up()
+    box = wait_for('the plain message', boxes)[0]
+    reader.look_at(box)
+    reader.seen[-1] += ', plain message'
+    next(thing for thing in box.everything() if thing.name == 'OK' and thing.role == 'push button').press()
+    wait_for('the end of the plain message', lambda: not boxes())
+
+
 def files(reader):
     reader.press('Export')
     reader.look_at(reader.window('Gatewise Terminal - Export'))
-    visit(reader, 'Gatewise Terminal - Other Programs', lambda: reader.press('Other Programs...'))
+    reader.press('Other Programs...')
+    reader.window('Gatewise Terminal - Other Programs')
+    plain_message(reader, lambda: reader.find('Export', 'push button', 'Gatewise Terminal - Other Programs').press())
+    visit(reader, 'Gatewise Terminal - Other Programs', lambda: None)
     visit(reader, 'Gatewise Terminal - Export File', lambda: reader.press('FS2000 Flight Plan'))
     reader.press('Close')
     reader.gone('Gatewise Terminal - Export')
@@ -373,6 +389,7 @@ def log_book(reader):
     totals = [thing.name for thing in window.everything() if thing.name.startswith('Totals to date, ')]
     if len(totals) != 2:
         reader.miss(f'the totals are called {totals}')
+    visit(reader, 'Gatewise Terminal - Career', lambda: reader.press('Career'))
     reader.press('Line 1', 'table row header')
     reader.press('Edit Entry')
     reader.look_at(reader.window('Gatewise Terminal - Log Book Entry'))

@@ -11,20 +11,26 @@
 #include <QTest>
 #include <QTimer>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
+#include <utility>
 
 namespace gatewise::stage {
 
 namespace fs = std::filesystem;
 
-void useRoomyDesk(const std::string& scratch) {
-    const double scale = qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble();
+void useDesk(const std::string& scratch, int width, int height) {
     const fs::path file = files::pathOfUtf8(scratch + "/desk.json");
     std::ofstream(file)
-        << "{\"windowFrameMargins\":false,\"screens\":[{\"name\":\"desk\",\"x\":0,\"y\":0,\"width\":"
-        << 1920 * scale << ",\"height\":" << 1200 * scale << ",\"logicalDpi\":96,\"dpr\":1}]}";
+        << "{\"windowFrameMargins\":false,\"screens\":[{\"name\":\"desk\",\"x\":0,\"y\":0,\"width\":" << width
+        << ",\"height\":" << height << ",\"logicalDpi\":96,\"dpr\":1}]}";
     qputenv("QT_QPA_PLATFORM", gtwindow::offscreenDesk(file));
+}
+
+void useRoomyDesk(const std::string& scratch) {
+    const double scale = qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble();
+    useDesk(scratch, static_cast<int>(1920 * scale), static_cast<int>(1200 * scale));
 }
 
 namespace {
@@ -91,6 +97,21 @@ void quietHandler(QtMsgType type, const QMessageLogContext& context, const QStri
 }
 
 } // namespace
+
+void StageLoop::work(const std::function<void()>& job) {
+    constexpr std::chrono::minutes kPatience(5); // a step that fails must not hold the stage for ever
+    if (!std::exchange(holds_, false)) return QtLoop::work(job);
+    ++depth;
+    QtLoop::work([&] {
+        (void)gate_.try_acquire_for(kPatience);
+        job();
+    });
+}
+
+void StageLoop::letGo() {
+    --depth;
+    gate_.release();
+}
 
 Stage::Stage(const std::string& appDir, Time time)
     : loop_(timeOf(time)),

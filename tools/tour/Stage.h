@@ -9,13 +9,16 @@
 
 #include <deque>
 #include <functional>
+#include <semaphore>
 #include <string>
 #include <vector>
 
 namespace gatewise::stage {
 
-/// A desk without a display that is larger than the windows. To be called before the application object is
-/// made.
+/// A desk without a display of that size in pixels of the screen. To be called before the application object
+/// is made.
+void useDesk(const std::string& scratch, int width, int height);
+/// One that is larger than the windows, whatever the scale.
 void useRoomyDesk(const std::string& scratch);
 
 /// A program folder of its own below a scratch folder: pictures and sounds of `program` by links, a copy
@@ -35,7 +38,17 @@ public:
         QtLoop::runModal(screen, done);
         --depth;
     }
-    int depth = 0; // modal waits now, one inside the other
+    /// Work that is held before it begins counts as a wait: the next steps run meanwhile.
+    void work(const std::function<void()>& job) override;
+    /// Holds the next work on its own thread.
+    void hold() { holds_ = true; }
+    /// Lets it go; the step after this one runs when it is done.
+    void letGo();
+    int depth = 0; // waits now, one inside the other
+
+private:
+    bool holds_ = false;
+    std::binary_semaphore gate_{0};
 };
 
 /// The real windows with a clock, a printer and a simulator of the stage. Steps run one by one between
@@ -62,6 +75,7 @@ public:
         return *desk().window(*control.screen).view(control)->widget();
     }
     window::Desk& desk() { return window.desk; }
+    StageLoop& loop() { return loop_; }
 
     /// What the person sees: the main window with all that lies over it.
     QImage picture();

@@ -3,6 +3,7 @@
 #include "input/UserEvents.h"
 #include "pages/Screens.h"
 #include "platform/Paths.h"
+#include "tour/Structure.h"
 #include "window/QtText.h"
 
 #include <algorithm>
@@ -13,8 +14,8 @@ namespace gatewise::tour {
 
 namespace {
 
-/// Pictures that are taken for fine screens too.
-constexpr const char* kFine[] = {"board", "pass", "settings", "plan", "log", "charts", "routes"};
+/// Pictures that are taken where not all are.
+constexpr const char* kFew[] = {"board", "pass", "settings", "plan", "log", "charts", "routes"};
 
 /// A few downloaded tables as an import takes them; returns their folder.
 std::string writeTables(const std::string& appDir) {
@@ -70,8 +71,7 @@ std::string writeLogBook(const std::string& appDir) {
 
 } // namespace
 
-Tour::Tour(stage::Stage& stage, std::string folder, bool fine)
-    : stage_(stage), f_(stage.forms()), folder_(std::move(folder)), fine_(fine) {}
+Tour::Tour(stage::Stage& stage, Album album) : stage_(stage), f_(stage.forms()), album_(std::move(album)) {}
 
 void Tour::play() {
     board();
@@ -89,9 +89,11 @@ void Tour::play() {
 }
 
 void Tour::take(const char* name) {
+    for (auto& fault : stage::misplaced(f_, stage_.desk()))
+        complaints_.push_back(std::string(name) + ": " + std::move(fault));
     const auto wanted = [&](const char* one) { return std::string_view(one) == name; };
-    if (fine_ && std::none_of(std::begin(kFine), std::end(kFine), wanted)) return;
-    const std::string file = folder_ + "/" + name + (fine_ ? "@2x" : "") + ".png";
+    if (!album_.whole && std::none_of(std::begin(kFew), std::end(kFew), wanted)) return;
+    const std::string file = album_.folder + "/" + name + album_.ending + ".png";
     if (stage_.picture().save(QString::fromStdString(file)))
         pictures_.push_back(file);
     else

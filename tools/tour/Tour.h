@@ -7,11 +7,18 @@
 
 namespace gatewise::tour {
 
-/// Plays the road of one flight and every screen beside it on a stage, and takes pictures.
+/// Which pictures a tour takes, and how their names end.
+struct Album {
+    std::string folder;
+    std::string ending; // before ".png"
+    bool whole = true;  // false: a few of them
+};
+
+/// Plays the road of one flight and every screen beside it on a stage, and takes pictures. At each of them
+/// what does not stand where it should is a complaint.
 class Tour {
 public:
-    /// `folder` takes the pictures; `fine`: only a few of them, for a screen with small pixels.
-    Tour(stage::Stage& stage, std::string folder, bool fine);
+    Tour(stage::Stage& stage, Album album);
     void play();
     [[nodiscard]] const std::vector<std::string>& pictures() const { return pictures_; }
     [[nodiscard]] const std::vector<std::string>& complaints() const { return complaints_; }
@@ -41,8 +48,7 @@ private:
 
     stage::Stage& stage_;
     Forms& f_;
-    std::string folder_;
-    bool fine_;
+    Album album_;
     std::vector<std::string> pictures_;
     std::vector<std::string> complaints_;
 };

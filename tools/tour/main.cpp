@@ -4,7 +4,6 @@
 #include "tour/Tour.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -12,15 +11,19 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <iterator>
 #include <map>
+#include <string>
+#include <vector>
 
 namespace {
 
 namespace fs = std::filesystem;
+using namespace gatewise;
 
 /// The program folder that the tour stands in, else that of the build.
 fs::path program() {
-    const fs::path own = gatewise::programFolder();
+    const fs::path own = programFolder();
     return fs::is_directory(own / "Images") ? own : fs::path(GATEWISE_PROGRAM_DIR);
 }
 
@@ -50,7 +53,7 @@ void keepFiles(const fs::path& folder, const Times& before, const fs::path& out)
     }
 }
 
-void keepPrints(const std::vector<gatewise::simulated::PrintedText>& prints, const fs::path& out) {
+void keepPrints(const std::vector<simulated::PrintedText>& prints, const fs::path& out) {
     for (std::size_t i = 0; i < prints.size(); ++i) {
         const fs::path file = out / ("printed " + std::to_string(i + 1) + ".txt");
         std::ofstream(file, std::ios::binary) << prints[i].text;
@@ -58,50 +61,101 @@ void keepPrints(const std::vector<gatewise::simulated::PrintedText>& prints, con
     }
 }
 
-int play(const std::string& folder, const std::string& out, bool fine) {
-    gatewise::stage::Stage stage(
-        gatewise::stage::makeProgramFolder(gatewise::files::utf8Of(program()), folder));
-    stage.machine.registry.folder = gatewise::files::textOf(fs::path(folder) / "FS2002");
+/// One play of the tour on a desk of its own.
+struct Round {
+    const char* name;   // of the folder of its pictures, empty: that of all
+    const char* ending; // of their names
+    double scale;       // of the screen: its pixels to the program's
+    int width, height;  // of the screen, its pixels
+    int percent;        // zoom of the program's own, 0: as large as the screen allows
+    window::SkinChoice skin;
+    bool whole; // all pictures, and the files that were written
+};
+
+constexpr auto kNight = window::SkinChoice::Night;
+constexpr Round kRounds[] = {
+    {"", "", 1, 1920, 1200, 100, kNight, true},
+    {"", "@2x", 2, 3840, 2400, 100, kNight, false},
+    {"zoom-150", "", 1, 1920, 1200, 150, kNight, true},
+    {"zoom-200", "", 1, 1920, 1200, 200, kNight, true},
+    {"1024x768", "", 1, 1024, 768, 100, kNight, true},
+    {"1024x768-by-1.5", "", 1.5, 1024, 768, 0, kNight, true},
+    {"contrast", "", 1, 1920, 1200, 100, window::SkinChoice::HighContrast, true},
+};
+constexpr int kUsual = 2; // rounds without --rounds
+
+int play(const std::string& folder, const fs::path& out, const Round& round) {
+    stage::Stage stage(stage::makeProgramFolder(files::utf8Of(program()), folder));
+    stage.machine.registry.folder = files::textOf(fs::path(folder) / "FS2002");
+    stage.then([&] {
+        stage.window.display.choosePercent(round.percent);
+        stage.window.display.chooseSkin(round.skin);
+    });
     const Times before = filesOf(folder);
     const Times delivered = filesOf(program());
-    gatewise::tour::Tour tour(stage, out, fine);
+    const fs::path pictures = out / round.name;
+    fs::create_directories(pictures);
+    tour::Tour tour(stage, {files::utf8Of(pictures), round.ending, round.whole});
     tour.play();
     for (const auto& picture : tour.pictures()) std::cout << picture << '\n';
-    if (!fine) {
-        keepFiles(folder, before, fs::path(out) / "files");
-        keepPrints(stage.machine.printer.printed, fs::path(out) / "files");
+    if (&round == kRounds) {
+        keepFiles(folder, before, out / "files");
+        keepPrints(stage.machine.printer.printed, out / "files");
     }
-    for (const auto& complaint : tour.complaints()) std::cerr << "tour: " << complaint << '\n';
-    for (const auto& miss : stage.misses) std::cerr << "tour: " << miss << '\n';
+    const std::string where = "tour" + (round.name[0] != 0 ? " " + std::string(round.name) : "") + ": ";
+    for (const auto& complaint : tour.complaints()) std::cerr << where << complaint << '\n';
+    for (const auto& miss : stage.misses) std::cerr << where << miss << '\n';
     const bool untouched = filesOf(program()) == delivered;
     if (!untouched) std::cerr << "tour: the delivered folder has changed\n";
     return untouched && tour.complaints().empty() && stage.misses.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
+int playAlone(int count, char** arguments, const Round& round, const fs::path& out) {
+    const QTemporaryDir scratch;
+    stage::useDesk(scratch.path().toStdString(), round.width, round.height);
+    const QApplication application(count, arguments);
+    return play(scratch.path().toStdString(), out, round);
+}
+
+/// Each in a process of its own, as screen and scale are settled at the start.
+int playAll(int count, char** arguments, int rounds, const fs::path& out) {
+    const QCoreApplication application(count, arguments);
+    int result = EXIT_SUCCESS;
+    for (int i = 0; i < rounds; ++i) {
+        QProcess round;
+        auto environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("QT_SCALE_FACTOR", QString::number(kRounds[i].scale));
+        round.setProcessEnvironment(environment);
+        round.setProcessChannelMode(QProcess::ForwardedChannels);
+        round.start(QCoreApplication::applicationFilePath(),
+                    {"--round", QString::number(i), QString::fromStdString(files::utf8Of(out))});
+        round.waitForFinished(-1);
+        if (round.exitStatus() != QProcess::NormalExit || round.exitCode() != EXIT_SUCCESS)
+            result = EXIT_FAILURE;
+    }
+    return result;
+}
+
+int usage() {
+    std::cerr << "tour [--rounds] [OUT_FOLDER]\n";
+    return EXIT_FAILURE;
+}
+
 } // namespace
 
-/// tour [OUT_FOLDER]: plays the program without a display and leaves its pictures in the folder ("tour" when
-/// none is named). The second round, for fine screens, runs in a process of its own, as its scale is settled
-/// at the start.
+/// tour [--rounds] [OUT_FOLDER]: plays the program without a display and leaves its pictures in the folder
+/// ("tour" when none is named), a few of them once more for fine screens. With --rounds also at other sizes,
+/// on a small screen and in high contrast, in a folder each.
 int main(int count, char** arguments) {
-    if (count > 2 || (count == 2 && arguments[1][0] == '-')) {
-        std::cerr << "tour [OUT_FOLDER]\n";
-        return EXIT_FAILURE;
-    }
-    const bool fine = qgetenv("QT_SCALE_FACTOR") == "2";
-    const QTemporaryDir scratch;
-    gatewise::stage::useRoomyDesk(scratch.path().toStdString());
-    QApplication application(count, arguments);
-    const QString out = QDir(count > 1 ? arguments[1] : "tour").absolutePath();
-    QDir().mkpath(out);
-    const int result = play(scratch.path().toStdString(), out.toStdString(), fine);
-    if (fine || result != EXIT_SUCCESS) return result;
-    QProcess second;
-    auto environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("QT_SCALE_FACTOR", "2");
-    second.setProcessEnvironment(environment);
-    second.setProcessChannelMode(QProcess::ForwardedChannels);
-    second.start(QCoreApplication::applicationFilePath(), {out});
-    second.waitForFinished(-1);
-    return second.exitCode();
+    const std::vector<std::string> words = files::commandLine(count, arguments);
+    const bool alone = words.size() == 3 && words[0] == "--round";
+    const bool all = !words.empty() && words[0] == "--rounds";
+    const std::size_t own = alone ? 2 : all ? 1 : 0; // words before the folder
+    if (words.size() > own + 1 || (words.size() == own + 1 && words[own].starts_with('-'))) return usage();
+    const fs::path out = fs::absolute(files::pathOfUtf8(words.size() > own ? words[own] : "tour"));
+    fs::create_directories(out);
+    if (!alone) return playAll(count, arguments, all ? static_cast<int>(std::size(kRounds)) : kUsual, out);
+    const int number = std::atoi(words[1].c_str());
+    if (number < 0 || number >= static_cast<int>(std::size(kRounds))) return usage();
+    return playAlone(count, arguments, kRounds[number], out);
 }

@@ -1,0 +1,154 @@
+#include "window/StageTest.h"
+
+#include "window/ChartView.h"
+#include "window/QtText.h"
+#include "window/Tone.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+
+// The second skin as it is seen: no ground of the night is left, every text stands out from what is behind
+// it.
+
+namespace gatewise::test {
+
+namespace {
+
+using window::SkinChoice;
+using window::View;
+
+double linear(double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+}
+
+/// 1 to 21, as guides for readable texts count it.
+double contrast(QRgb one, QRgb other) {
+    const auto light = [](QRgb c) {
+        return 0.2126 * linear(qRed(c) / 255.0) + 0.7152 * linear(qGreen(c) / 255.0) +
+               0.0722 * linear(qBlue(c) / 255.0);
+    };
+    const double a = light(one), b = light(other);
+    return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+}
+
+std::map<QRgb, int> countsOf(const QImage& picture, const QRect& part) {
+    std::map<QRgb, int> counts;
+    const QRect box = part & picture.rect();
+    for (int y = box.top(); y <= box.bottom(); ++y) {
+        for (int x = box.left(); x <= box.right(); ++x) ++counts[picture.pixel(x, y) | 0xFF000000];
+    }
+    return counts;
+}
+
+/// How far the strongest pixel stands out from the most frequent one.
+double standsOut(const std::map<QRgb, int>& counts) {
+    QRgb ground = 0;
+    int most = 0;
+    for (const auto& [color, count] : counts) {
+        if (count > most) ground = color, most = count;
+    }
+    double best = 1;
+    for (const auto& [color, count] : counts) best = std::max(best, contrast(color, ground));
+    return best;
+}
+
+class Contrast : public StageTest {
+protected:
+    QImage seen(const Screen& screen) {
+        auto& window = stage().desk().window(screen);
+        window.sync();
+        return window.grab().toImage().convertToFormat(QImage::Format_RGB32);
+    }
+    /// Pixels of a screen in one of the skin's dark grounds and edges.
+    int nightPixels(const Screen& screen) {
+        constexpr const char* kNight[] = {"menu.back",  "list.back",  "list.head",        "list.stripe",
+                                          "list.rim",   "key.face",   "list.scrollTrack", "list.scrollThumb",
+                                          "key.rim",    "glass.back", "slider.groove",    "frame.border",
+                                          "check.back", "well.rim",   "check.border"};
+        const QImage picture = seen(screen);
+        const auto counts = countsOf(picture, picture.rect());
+        int found = 0;
+        for (const char* key : kNight) {
+            const auto at = counts.find(stage().desk().skin().style(key).rgb());
+            if (at != counts.end()) found += at->second;
+        }
+        return found;
+    }
+};
+
+} // namespace
+
+TEST_F(Contrast, NoGroundOrEdgeOfTheNightIsLeftOnAnyScreen) {
+    then([&] {
+        int before = 0;
+        for (const Screen* screen : forms().all()) before += nightPixels(*screen);
+        EXPECT_GT(before, 100'000) << "else this looks for nothing";
+        stage().window.display.chooseSkin(SkinChoice::HighContrast);
+        // The softened edges of a picture meet one of these colours here and there.
+        for (const Screen* screen : forms().all()) EXPECT_LT(nightPixels(*screen), 40) << screen->name;
+    });
+    play();
+}
+
+TEST_F(Contrast, EveryTextStandsOutFromWhatIsBehindIt) {
+    then([&] {
+        stage().window.display.chooseSkin(SkinChoice::HighContrast);
+        for (const Screen* screen : forms().all()) {
+            const QImage picture = seen(*screen);
+            for (View* view : stage().desk().window(*screen).views()) {
+                const Control* control = view->control;
+                if (control == nullptr || control->kind != Kind::Label || !control->enabled) continue;
+                const QWidget& widget = *view->widget();
+                const QString text = window::toQt(static_cast<const Label*>(control)->text).trimmed();
+                if (text.isEmpty() || widget.isHidden() || !widget.isVisibleTo(widget.window())) continue;
+                const QRect box(widget.mapTo(widget.window(), QPoint(0, 0)), widget.size());
+                EXPECT_GE(standsOut(countsOf(picture, box)), 4.5)
+                    << control->fullName() << " " << text.toStdString();
+            }
+        }
+    });
+    play();
+}
+
+TEST_F(Contrast, AKeyUnderTheMouseStillLooksLit) {
+    then([&] {
+        stage().window.display.chooseSkin(SkinChoice::HighContrast);
+        stage().click(forms().MainForm.FlatButton(1));
+    });
+    then([&] {
+        auto& key = forms().SettingsForm.pathButton;
+        stage().hover(forms().SettingsForm.BG);
+        const QImage before = stage().widget(key).grab().toImage();
+        stage().hover(key);
+        EXPECT_NE(stage().widget(key).grab().toImage(), before);
+        stage().key(Qt::Key_Escape);
+    });
+    play();
+}
+
+TEST_F(Contrast, ChartsHaveStrongerColoursOnTheScreenAndTheSamePaper) {
+    then([&] {
+        DrawingLine line;
+        line.points = {{0.1, 0.5}, {0.9, 0.5}};
+        line.tone = Tone::Coast;
+        line.width = 9;
+        Drawing drawing;
+        drawing.lines.push_back(line);
+        const auto drawn = [&](double point) {
+            QImage picture(100, 100, QImage::Format_RGB32);
+            picture.fill(point > 0 ? Qt::white : Qt::black);
+            QPainter painter(&picture);
+            window::drawDrawing(painter, picture.rect(), drawing, QFont(), point);
+            return picture;
+        };
+        const QImage paper = drawn(1);
+        EXPECT_LT(contrast(drawn(0).pixel(50, 50), qRgb(0, 0, 0)), 4.5);
+        stage().window.display.chooseSkin(SkinChoice::HighContrast);
+        EXPECT_GT(contrast(drawn(0).pixel(50, 50), qRgb(0, 0, 0)), 7);
+        EXPECT_EQ(drawn(1), paper);
+    });
+    play();
+}
+
+} // namespace gatewise::test
