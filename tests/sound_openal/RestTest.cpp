@@ -1,4 +1,5 @@
 #include "sound_openal/Loopback.h"
+#include "support/Wave.h"
 
 #include <chrono>
 #include <cstdlib>
@@ -18,19 +19,9 @@ const bool kChosen = setenv("ALSOFT_DRIVERS", "null", 1) == 0;
 
 /// A wave file of silence at 8,000 Hz, eight bits.
 std::string silentWave(const std::filesystem::path& folder, int milliseconds) {
-    const auto size = static_cast<std::uint32_t>(8 * milliseconds);
-    std::string bytes = "RIFF";
-    const auto number = [&bytes](std::uint32_t value, int width) {
-        for (int i = 0; i < width; ++i) bytes += static_cast<char>(value >> (8 * i) & 0xFF);
-    };
-    number(size + 36, 4);
-    bytes += "WAVEfmt ";
-    number(16, 4), number(1, 2), number(1, 2), number(8000, 4), number(8000, 4), number(1, 2), number(8, 2);
-    bytes += "data";
-    number(size, 4);
-    bytes.append(size, '\x80');
+    const Bytes wave = test::waveOf(Bytes(static_cast<std::size_t>(8 * milliseconds), 0x80));
     const auto path = folder / ("silence" + std::to_string(milliseconds) + ".wav");
-    std::ofstream(path, std::ios::binary) << bytes;
+    std::ofstream(path, std::ios::binary) << asText(wave);
     return path.string();
 }
 
