@@ -35,8 +35,17 @@ double contrast(QRgb one, QRgb other) {
 std::map<QRgb, int> countsOf(const QImage& picture, const QRect& part) {
     std::map<QRgb, int> counts;
     const QRect box = part & picture.rect();
+    QRgb last = 0;
+    int* same = nullptr; // most pixels are like the one before
     for (int y = box.top(); y <= box.bottom(); ++y) {
-        for (int x = box.left(); x <= box.right(); ++x) ++counts[picture.pixel(x, y) | 0xFF000000];
+        const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        for (int x = box.left(); x <= box.right(); ++x) {
+            if (same == nullptr || line[x] != last) {
+                last = line[x];
+                same = &counts[last | 0xFF000000];
+            }
+            ++*same;
+        }
     }
     return counts;
 }

@@ -93,21 +93,23 @@ TEST_F(SaveDialog, TheLogBookIsAskedForInTheColoursOfTheSkinWithItsKindAndEnding
 TEST_F(SaveDialog, AFileThatIsThereIsOnlyTakenWhenThePilotSaysSo) {
     std::ofstream(folder() / "LogBook.csv") << "mine";
     bool asked = false;
-    auto* timer = new QTimer(&stage().desk());
-    QObject::connect(timer, &QTimer::timeout, timer, [&] {
-        auto* now = QApplication::activeModalWidget();
-        if (auto* question = qobject_cast<QMessageBox*>(now)) {
-            asked = true;
-            ASSERT_NE(question->defaultButton(), nullptr);
-            EXPECT_EQ(question->buttonRole(question->defaultButton()), QMessageBox::NoRole);
-            question->defaultButton()->click();
-        } else if (auto* dialog = qobject_cast<QFileDialog*>(now)) {
-            asked ? static_cast<QDialog*>(dialog)->reject() : static_cast<QDialog*>(dialog)->accept();
-        }
+    QTimer answer; // another than the one in whose turn the dialog asks
+    QObject::connect(&answer, &QTimer::timeout, &answer, [&] {
+        auto* question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (question == nullptr || question->defaultButton() == nullptr) return;
+        asked = true;
+        EXPECT_EQ(question->buttonRole(question->defaultButton()), QMessageBox::NoRole);
+        question->defaultButton()->click();
     });
-    timer->start(5);
+    answer.start(5);
+    QTimer::singleShot(0, &stage().desk(), [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        static_cast<QDialog*>(dialog)->accept(); // back when the question is answered
+        EXPECT_TRUE(dialog->isVisible()) << "no was taken for yes";
+        dialog->reject();
+    });
     EXPECT_FALSE(stage().window.desktop.askSavePath("Save", files::textOf(folder()) + "\\LogBook.csv"));
-    timer->stop();
     EXPECT_TRUE(asked);
 }
 
