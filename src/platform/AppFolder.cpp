@@ -2,6 +2,7 @@
 
 #include "platform/Delivered.h"
 #include "platform/Files.h"
+#include "platform/NativePath.h"
 
 #include <fstream>
 
@@ -16,15 +17,13 @@ constexpr const char* kFolderName = "Gatewise Terminal";
 /// Permission bits tell little about network drives and system folders; a file that comes into being does.
 bool canWrite(const fs::path& folder) {
     const fs::path probe = folder / "gatewise-probe.tmp";
-    const bool written = static_cast<bool>(std::ofstream(probe) << "probe" << std::flush);
-    std::error_code ignored;
-    fs::remove(probe, ignored);
+    const bool written = static_cast<bool>(std::ofstream(files::reachable(probe)) << "probe" << std::flush);
+    (void)files::removeFile(probe); // where it could not be written there is none
     return written;
 }
 
 bool holdsPictures(const fs::path& folder) {
-    std::error_code none;
-    return fs::is_directory(folder / "Images", none);
+    return files::kindOf(folder / "Images") == files::Kind::Folder;
 }
 
 } // namespace
@@ -41,7 +40,7 @@ AppFolders chooseFolders(const fs::path& program, const fs::path& userData, std:
     if (delivered == program && canWrite(program)) return {files::textOf(program), program};
     const fs::path own = userData / kFolderName;
     for (const char* folder : {"Data", "Wavs"}) {
-        if (!error) fs::create_directories(own / folder, error);
+        if (!error) fs::create_directories(files::reachable(own / folder), error);
     }
     return {files::textOf(error ? delivered : own), delivered};
 }

@@ -1,6 +1,8 @@
 #include "window/OneInstance.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QSysInfo>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
@@ -12,11 +14,20 @@ OneInstance::OneInstance(const QString& folder)
     : call_(folder + "/gatewise.show"), lock_(folder + "/gatewise.lock") {
     // A program may run for days: only the end of its process makes its lock a stale one.
     lock_.setStaleLockTime(0);
-    first_ = lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError;
+    first_ = lock_.tryLock(0) || lock_.error() != QLockFile::LockFailedError || takesOver();
     if (!first_) return;
     QFile::remove(call_);
     watcher_.addPath(folder);
     QObject::connect(&watcher_, &QFileSystemWatcher::directoryChanged, &watcher_, [this] { answer(); });
+}
+
+/// Numbers of processes come again, soon where few programs run: a lock with our own number was left by a
+/// program that has ended. The system does not let it be taken away while its owner lives.
+bool OneInstance::takesOver() {
+    qint64 process = 0;
+    QString computer, name;
+    return lock_.getLockInfo(&process, &computer, &name) && process == QCoreApplication::applicationPid() &&
+           computer == QSysInfo::machineHostName() && lock_.removeStaleLockFile() && lock_.tryLock(0);
 }
 
 void OneInstance::callFirst() const {

@@ -24,6 +24,7 @@ public:
     void onCall(std::function<void()> show);
 
 private:
+    bool takesOver();
     void answer();
 
     QString call_; // a file that a second start leaves

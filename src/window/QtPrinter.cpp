@@ -8,6 +8,7 @@
 #include <QBuffer>
 #include <QFontDatabase>
 #include <QFontInfo>
+#include <QFontMetricsF>
 #include <QLocale>
 #include <QPageSize>
 #include <QPdfWriter>
@@ -20,14 +21,21 @@ namespace gatewise::window {
 
 namespace {
 
-/// The named font, or the nearest with a fixed pitch.
+/// Whether all characters are of one width. A face of figures alone counts as such, but has points of none.
+bool isPitched(const QFont& font) {
+    const QFontMetricsF metrics(font);
+    return QFontInfo(font).fixedPitch() && metrics.horizontalAdvance('.') == metrics.horizontalAdvance('M');
+}
+
+/// The named font, else that of the system, else the one that the program brings along.
 QFont pitchedFont(const std::string& name, int size) {
-    QFont font(toQt(name), size);
-    font.setStyleHint(QFont::TypeWriter);
-    font.setFixedPitch(true);
-    if (!QFontInfo(font).fixedPitch()) {
-        font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-        font.setPointSize(size);
+    QFont font;
+    for (const QString& family : {toQt(name), QFontDatabase::systemFont(QFontDatabase::FixedFont).family(),
+                                  QString("Gatewise OCR B")}) {
+        font = QFont(family, size);
+        font.setStyleHint(QFont::TypeWriter);
+        font.setFixedPitch(true);
+        if (isPitched(font)) break;
     }
     return font;
 }

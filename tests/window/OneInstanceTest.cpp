@@ -3,6 +3,7 @@
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QSysInfo>
 
 #include <gtest/gtest.h>
 
@@ -55,6 +56,19 @@ TEST(OneInstance, WhenTheFirstEndsTheNextIsFirst) {
     const test::TempFolder folder;
     { const OneInstance first(native(folder)); }
     EXPECT_TRUE(OneInstance(native(folder)).first());
+}
+
+/// A sandbox counts its processes from the beginning: the next start has the number of the one that was
+/// killed.
+TEST(OneInstance, ALockWithItsOwnNumberIsThatOfAProgramThatHasEnded) {
+    const test::TempFolder folder;
+    const std::string own = std::to_string(QCoreApplication::applicationPid());
+    const std::string name = QCoreApplication::applicationName().toStdString();
+    const std::string here = QSysInfo::machineHostName().toStdString();
+    folder.write("/gatewise.lock", own + "\n" + name + "\n" + here + "\n");
+    EXPECT_TRUE(OneInstance(native(folder)).first());
+    folder.write("/gatewise.lock", own + "\n" + name + "\nanother-computer\n");
+    EXPECT_FALSE(OneInstance(native(folder)).first()) << "there it may be alive";
 }
 
 TEST(OneInstance, ACallThatNobodyHeardIsNoneForTheNext) {

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Plays every transcript with the driver for Windows under Wine, in a plain folder, in one whose name no code page holds
-# and in one that is deeper than most programs can go; then the sound device. Takes half a minute on two cores.
+# and in one that is deeper than most programs can go; then the sound device and the
+# services of the system. Takes half a minute on two cores.
 # Wants the presets release and windows built. Without Wine nothing is played.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
@@ -29,3 +30,6 @@ play "$scratch/$deep/$deep" "${anywhere[@]}"
 rm -rf "$scratch/Łódź 東京" "${scratch:?}/$deep"
 
 wine build/windows/bin/check_directsound.exe "Z:$scratch/sound" 2>/dev/null
+screen=()
+if command -v Xvfb >/dev/null; then screen=(tests/windows/on_screen.py); fi
+"${screen[@]}" wine build/windows/bin/check_services.exe "Z:$scratch/services" 2>/dev/null

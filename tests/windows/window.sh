@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The program for Windows with its window, under Wine: the tour with its pictures, every transcript through the real
-# window, the board on a screen, a second start, the version. Wants what `./package windows` leaves, and the preset release;
+# The program for Windows with its window, under Wine: the version, the tour with its pictures, every transcript through the
+# real window, a printed plan, the board on a screen, starts and ends. Wants what `./package windows` leaves, and the preset release;
 # without either, or without Wine, nothing is played.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
@@ -29,6 +29,12 @@ done)
 python3 -B tests/windows/transcripts.py build/release/bin/scripts_runner build/release/tests/scripts/Gatewise \
   build/release/bin/gtwindow "$tried/gtwindow.exe" "$scratch" "${window[@]}"
 
+# From the key to the sheet: what was handed to the printer stands in the pages.
+rm -rf "$scratch/printed"
+wine "$tried/check_window.exe" "Z:$scratch/printed" 2>"$scratch/printed.log" || { tail -20 "$scratch/printed.log" >&2; exit 1; }
+python3 -B tests/windows/printed.py "$scratch/printed/Printout 1.pdf" "$scratch/printed/Printout 1.txt"
+
 if command -v Xvfb >/dev/null; then
+  python3 -B tests/windows/starts.py "$tried" "$tried/check_services.exe" "$scratch/starts"
   tools/package/first_board.py --picture "$scratch/board.png" wine "$tried/gatewise.exe" 2>/dev/null
 fi

@@ -29,6 +29,12 @@ std::string nextFolder(const std::string& from, const std::string& to) {
     return to.substr(stem.size(), to.find('/', stem.size()) - stem.size());
 }
 
+/// `goal` as a list that stands at `here` spells it: without its drive where the list has none.
+std::string seenFrom(const std::string& here, const std::string& goal) {
+    const bool drive = goal.size() > 1 && goal[1] == ':';
+    return drive && here.starts_with('/') ? goal.substr(2) : goal;
+}
+
 bool openLine(Pointer& pointer, PathList& list, int line) {
     const auto spot = line < 0 ? std::nullopt : rowSpot(pointer, list, line);
     if (spot) pointer.doubleClick(*spot);
@@ -106,15 +112,16 @@ bool clickColumn(Pointer& pointer, const ListView& list, int column) {
 }
 
 void walkFolders(Pointer& pointer, PathList& list, const std::string& path) {
-    const std::string goal = forward(path);
+    const std::string named = forward(path);
     if (list.kind == Kind::DriveList) {
         const int item = list.find(path);
         if (item >= 0) chooseItem(pointer, list, item);
         return;
     }
-    if (goal.empty() || !files::folderExists(goal)) return;
+    if (named.empty() || !files::folderExists(named)) return;
     for (int step = 0; step < kMostSteps; ++step) {
         const std::string here = forward(list.path);
+        const std::string goal = seenFrom(here, named);
         if (here == goal) {
             openLine(pointer, list, 0); // the folder itself, once more
             return;

@@ -52,12 +52,14 @@ int main(int count, char** arguments) {
     std::ios::sync_with_stdio(false);
     auto scratch = std::make_unique<QTemporaryDir>(); // the process ends without unwinding
     // Who names the platform alone gets its wide desk too: its own is smaller than two windows.
+    const fs::path stood = fs::current_path(error);
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     if (platform.isEmpty() || platform == "offscreen")
         useWideDesk(files::pathOfUtf8(scratch->path().toStdString()));
     printMessage = qInstallMessageHandler(quietHandler);
     QApplication application(count, arguments);
     scratch.reset();
+    fs::current_path(stood, error);      // the desk's file may have wanted another drive
     QApplication::setCursorFlashTime(0); // two looks at a field show the same
 
     drive::Bench bench(files::textOf(folder));

@@ -7,10 +7,12 @@ need_packages "${BUILD_PACKAGES[@]}" "${PACKAGE_PACKAGES[@]}"
 . tools/package/common.sh
 
 architecture=$(dpkg --print-architecture)
+build_resources
 build_linux
 
 stage=$PWD/build/package-linux/deb
 rm -rf "$stage"
+install_resources "$stage"
 DESTDIR=$stage cmake --install build/package-linux --strip >/dev/null
 mkdir -p "$stage/DEBIAN" "$stage/usr/share/doc/gatewise"
 gzip -9n "$stage"/usr/share/man/man1/*.1

@@ -7,17 +7,18 @@ cd "$(dirname "$0")/../.."
 need_packages "${BUILD_PACKAGES[@]}" "${PACKAGE_PACKAGES[@]}"
 . tools/package/common.sh
 
+build_resources
 build_linux
 name=gatewise-$version-linux-$(uname -m)
 stage=$PWD/build/package-linux/tar
 folder=$stage/$name
 rm -rf "$stage"
-mkdir -p "$folder/lib" "$folder/plugins" "$folder/licences"
+mkdir -p "$folder/lib" "$folder/plugins"
+install_resources "$stage/installed"
 DESTDIR=$stage/installed cmake --install build/package-linux --strip >/dev/null
 cp -r "$stage/installed/usr/share/gatewise/." "$folder/"
 cp "$stage/installed/usr/bin/"* "$folder/"
-cp packaging/linux/copyright "$folder/LICENCE.txt"
-cp THIRD-PARTY.md "$folder/"
+licences "$folder"
 rm -rf "$stage/installed"
 
 qt_plugins=$(qtpaths6 --plugin-dir 2>/dev/null || echo "/usr/lib/$(gcc -print-multiarch)/qt6/plugins")
@@ -38,7 +39,7 @@ find "$folder" -type f \( -name '*.so*' -o -perm -u+x \) -print0 | xargs -0 ldd 
   # The licence of each lies in its package.
   real=$(realpath "$library")
   package=$({ dpkg -S "$real" || dpkg -S "${real#/usr}"; } 2>/dev/null | head -1 | cut -d: -f1)
-  cp -L "/usr/share/doc/$package/copyright" "$folder/licences/$package"
+  licence_of "$folder" "$package"
 done
 for program in gatewise gtdrive gt1; do patchelf --set-rpath '$ORIGIN/lib' "$folder/$program"; done
 find "$folder/plugins" -name '*.so' -exec patchelf --set-rpath '$ORIGIN/../../lib' {} \;

@@ -84,6 +84,18 @@ cp -r "$root/usr/share/gatewise" "$root/home/pilot/folder"
 chroot "$root" chown -R pilot:pilot /home/pilot/folder
 drives /usr/bin/gtdrive /home/pilot/folder
 echo "the package runs and writes nothing below /usr"
+
+# What the simulator's installer left in the pilot's Wine prefix.
+prefix=$root/home/pilot/.wine
+mkdir -p "$prefix/drive_c/Games/FS2002"
+touch "$prefix/drive_c/Games/FS2002/FS2002.cfg"
+printf 'WINE REGISTRY Version 2\n\n[%s] 1021372800\n"EXE Path"="C:\\\\Games\\\\FS2002"\n' \
+  'Software\\Wow6432Node\\Microsoft\\Microsoft Games\\Flight Simulator\\8.0' >"$prefix/system.reg"
+chroot "$root" chown -R pilot:pilot /home/pilot/.wine
+runs /usr/bin/gatewise "/home/pilot/.local/share/Gatewise Terminal"
+grep -qi '^FSPath=/home/pilot/.wine/drive_c/Games/FS2002' "$root/home/pilot/.local/share/Gatewise Terminal/GT.cfg" ||
+  fail "the program does not find the simulator in Wine's folder"
+echo "the package finds the simulator in Wine's folder"
 if command -v Xvfb >/dev/null; then
   tools/package/first_board.py --picture build/packages/board-of-the-package.png \
     chroot --userspec=pilot:pilot "$root" env HOME=/home/pilot ALSOFT_DRIVERS=null /usr/bin/gatewise

@@ -8,24 +8,27 @@ need_packages "${BUILD_PACKAGES[@]}" "${PACKAGE_PACKAGES[@]}" "${WINDOWS_PACKAGE
 . tools/package/common.sh
 
 qt=$(tools/package/windows_qt.sh)
-# Resources are drawn and spoken by this machine's tools; the programs are the other system's.
-build_linux
-build_shipped build/package-windows /usr -DCMAKE_TOOLCHAIN_FILE="$PWD/tools/package/mingw-qt.cmake" \
+build_resources
+configure_shipped build/package-windows /usr -DCMAKE_TOOLCHAIN_FILE="$PWD/tools/package/mingw-qt.cmake" \
   -DCMAKE_PREFIX_PATH="$qt" -DCMAKE_FIND_ROOT_PATH="/usr/x86_64-w64-mingw32;$qt" \
   -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH -DQT_HOST_PATH=/usr \
   -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake -DCMAKE_AUTORCC_OPTIONS=--no-zstd -DGATEWISE_DATA=OFF
+cmake --build build/package-windows --target all check_services
 
 name=Gatewise-$version-win64
 stage=$PWD/build/package-windows/stage
 folder=$stage/$name
 rm -rf "$stage"
 mkdir -p "$folder/platforms"
-DESTDIR=$stage/installed cmake --install build/package-linux >/dev/null
+install_resources "$stage/installed"
 cp -r "$stage/installed/usr/share/gatewise/." "$folder/"
 rm -rf "$stage/installed"
 cp build/package-windows/Gatewise/gatewise.exe build/package-windows/bin/gtdrive.exe build/package-windows/bin/gt1.exe "$folder/"
-cp THIRD-PARTY.md "$folder/"
-cp packaging/linux/copyright "$folder/LICENCE.txt"
+licences "$folder"
+for package in libqt6core6 gcc-mingw-w64-base mingw-w64-common; do licence_of "$folder" "$package"; done
+printf '%s %s\n' "Qt comes from Debian's source package qt6-base" "$(dpkg-query -W -f '${source:Version}' libqt6core6)," \
+  "the compiler's libraries from gcc-mingw-w64" "$(dpkg-query -W -f '${source:Version}' gcc-mingw-w64-base)" \
+  "and mingw-w64" "$(dpkg-query -W -f '${source:Version}' mingw-w64-common)." >"$folder/licences/SOURCES.txt"
 cp packaging/windows/qt.conf "$folder/"
 
 for library in Qt6Core Qt6Gui Qt6Widgets Qt6PrintSupport; do cp "$qt/bin/$library.dll" "$folder/"; done
@@ -35,6 +38,7 @@ for library in libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll; do
   [ -e "$found" ] || found=/usr/x86_64-w64-mingw32/lib/$library
   cp "$found" "$folder/"
 done
+tools/package/forget_folder.py "${qt/qt-win64-/qt-work-}" "$folder"/Qt6*.dll "$folder"/platforms/*.dll
 find "$folder" \( -name '*.exe' -o -name '*.dll' \) -exec x86_64-w64-mingw32-strip --strip-unneeded {} +
 
 no_traces "$stage"
@@ -42,10 +46,11 @@ same_dates "$stage"
 archive=$out/$name.zip
 rm -f "$archive"
 (cd "$stage" && find "$name" -type f | sort | zip -X -q -9 "$archive" -@)
+tools/package/look_inside.py "$archive" "$version" "$PWD" "$HOME" "${qt%/*}"
 
 # The same folder with the tools that try it, which no pilot needs.
 tried=$PWD/build/package-windows/tried
 rm -rf "$tried"
 cp -a "$folder" "$tried"
-cp build/package-windows/bin/gtwindow.exe build/package-windows/bin/tour.exe "$qt/bin/Qt6Test.dll" "$tried/"
+cp build/package-windows/bin/{gtwindow,tour,check_services,check_window}.exe "$qt/bin/Qt6Test.dll" "$tried/"
 echo "$archive"

@@ -3,28 +3,35 @@
 #include "platform/Files.h"
 #include "platform/UserFolders.h"
 
-#include <cstdlib>
 #include <filesystem>
+
+#ifndef NOMINMAX
+#define NOMINMAX
+#endif
+#include <windows.h>
+
+#include <knownfolders.h>
+#include <shlobj.h>
 
 namespace gatewise {
 
 namespace {
 
-std::filesystem::path named(const wchar_t* variable) {
-    const wchar_t* value = _wgetenv(variable);
-    return value != nullptr ? std::filesystem::path(value) : std::filesystem::path();
-}
-
-std::string textOrNothing(const std::filesystem::path& path) {
-    return path.empty() ? std::string() : files::textOf(path);
+/// Where the system keeps one of its folders for this person, who may have moved it to another drive or
+/// cloud.
+std::string known(const KNOWNFOLDERID& folder) {
+    PWSTR path = nullptr;
+    std::string text;
+    if (SUCCEEDED(SHGetKnownFolderPath(folder, KF_FLAG_DONT_VERIFY, nullptr, &path)))
+        text = files::textOf(std::filesystem::path(path));
+    CoTaskMemFree(path);
+    return text;
 }
 
 } // namespace
 
 UserFolders userFolders() {
-    const std::filesystem::path home = named(L"USERPROFILE");
-    return {textOrNothing(home), home.empty() ? std::string() : files::textOf(home / L"Documents"),
-            textOrNothing(named(L"LOCALAPPDATA"))};
+    return {known(FOLDERID_Profile), known(FOLDERID_Documents), known(FOLDERID_LocalAppData)};
 }
 
 } // namespace gatewise

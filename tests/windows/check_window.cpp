@@ -1,0 +1,55 @@
+// check_window FOLDER: from the key to the sheet on Windows: a flight is picked on the board, its plan is
+// shown and printed as it ships. Copies what was printed into the folder, the pages as PDF and the text that
+// was handed over.
+
+#include "platform/AppFolder.h"
+#include "platform/NativePath.h"
+#include "tour/Stage.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+
+namespace {
+
+namespace fs = std::filesystem;
+using namespace gatewise;
+
+void printPlan(stage::Stage& stage) {
+    Forms& forms = stage.forms();
+    stage.then([&] { stage.doubleClick(forms.MainForm.city_LABEL(3)); });
+    stage.then([&] { stage.click(forms.MainForm.viewButton); });
+    stage.then([&] { stage.click(forms.ViewPlan.chartsButton); });
+    stage.then([&] { stage.click(forms.ViewPlan.printButton); });
+    stage.then([&] { stage.key(Qt::Key_Escape); });
+    stage.then([&] { stage.key(Qt::Key_Escape); });
+    stage.play();
+    for (const auto& miss : stage.misses) std::cerr << "check_window: " << miss << '\n';
+}
+
+} // namespace
+
+int main(int count, char** arguments) {
+    const auto words = files::commandLine(count, arguments);
+    if (words.size() != 1) return 2;
+    const fs::path out = files::pathOfUtf8(words[0]);
+    const QTemporaryDir scratch;
+    const std::string folder = scratch.path().toStdString();
+    stage::useRoomyDesk(folder);
+    QApplication application(count, arguments);
+    stage::Stage stage(stage::makeProgramFolder(files::utf8Of(programFolder()), folder), stage::Time::Real);
+    printPlan(stage);
+    std::error_code error;
+    fs::create_directories(out, error);
+    const auto replace = fs::copy_options::overwrite_existing;
+    for (const char* name : {"Printout 1.pdf", "Printout 1.txt"}) {
+        if (!error)
+            fs::copy_file(files::pathOfUtf8(folder) / "Gatewise" / "Printouts" / name, out / name, replace,
+                          error);
+    }
+    if (error) std::cerr << "check_window: nothing was printed: " << error.message() << '\n';
+    return error || !stage.misses.empty() ? EXIT_FAILURE : EXIT_SUCCESS;
+}
