@@ -84,7 +84,10 @@ Note::Note(const QString& text, const QString& file, ScreenWindow& window, const
     raise();
     QAccessibleEvent event(this, QAccessible::Alert);
     QAccessible::updateAccessibility(&event);
-    QTimer::singleShot(kTime, this, &QObject::deleteLater);
+    auto* end = new QTimer(this);
+    end->setSingleShot(true);
+    connect(end, &QTimer::timeout, this, &QObject::deleteLater);
+    end->start(kTime);
 }
 
 void Note::mousePressEvent(QMouseEvent*) {

@@ -151,17 +151,17 @@ TEST_F(Front, HandlersMayShowAndHideScreensWhileTheDeskBringsThemUp) {
 }
 
 TEST_F(Front, AKeyThatWasLitWhenItsScreenWentIsPutOutByTheNextMouse) {
-    auto& f = forms().SettingsForm;
-    then([&] { stage().click(main().FlatButton(1)); });
+    auto& f = forms().OptionsForm;
+    then([&] { stage().click(main().switchButton(2)); });
     then([&] { stage().click(f.closeButton); });
     then([&] {
         EXPECT_FALSE(f.visible);
-        stage().click(main().FlatButton(1));
+        stage().click(main().switchButton(2));
     });
     then([&] {
         ASSERT_TRUE(f.visible);
-        stage().hover(f.homeButton); // in one leap from the other window
-        EXPECT_EQ(f.homeButton.picture, "home_mouse");
+        stage().hover(f.volUP); // in one leap from the other window
+        EXPECT_EQ(f.volUP.picture, "plus_mouse");
         EXPECT_EQ(f.closeButton.picture, "close_regular");
         stage().key(Qt::Key_Escape);
     });
