@@ -1,6 +1,7 @@
 #include "input/Shutdown.h"
 
 #include "pages/ComeBack.h"
+#include "pages/ImportForm.h"
 #include "pages/SaveSettings.h"
 #include "pages/Screens.h"
 #include "sound/DS_Engine.h"
@@ -14,7 +15,9 @@ void Shutdown(Program& p) {
     p.session.board.board = {};
     p.session.schedule.DepartureFlights.clear();
     p.session.schedule.BoardFlights.clear();
-    if (p.session.simulator.scan) p.session.simulator.scan->stop = true; // it holds a wait, and so the end
+    // Long work holds a wait, and so the end.
+    if (p.session.simulator.scan) p.session.simulator.scan->stop = true;
+    closeImport(p);
     if (p.SoundEngine) p.SoundEngine->Terminate_Engine();
     saveSettings(p);
     p.forms.attachTimers(nullptr);

@@ -200,10 +200,7 @@ void bindImportForm(Program& p) {
     f.removeButton.on(Event::Click, [&f, desk] { removeSource(f, *desk); });
     f.startButton.on(Event::Click, [&p, desk] { return startImport(p, *desk); });
     f.cancelButton.on(Event::Click, [desk] { desk->job.cancel(); });
-    f.progressTimer.on(Event::Tick, [&p, desk] {
-        if (p.ending) desk->job.cancel();
-        showProgress(p.forms.ImportForm, desk->job);
-    });
+    f.progressTimer.on(Event::Tick, [&p, desk] { showProgress(p.forms.ImportForm, desk->job); });
     p.forms.MainForm.importButton.on(Event::Click, [&p] { return showImport(p); });
 }
 
