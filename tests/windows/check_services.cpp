@@ -1,6 +1,7 @@
 // The services of Windows as the program asks for them. Needs no test library: there is none for this system
 // among the distribution's packages.
-//     check_services FOLDER           registry, signs and dates of the person's settings, programs that are
+//     check_services FOLDER           in a new folder: registry, signs and dates of the person's settings,
+//     programs that are
 //                                     started, the simulator's window, folders, names of files
 //     check_services press CLASS KEY  a key for the window in front whose class begins so
 //     check_services close CLASS      its end
@@ -251,7 +252,6 @@ int main(int count, char** arguments) {
     if (words.size() == 2 && words[0] == "close") return message(words);
     if (words.size() != 1) return 2;
     const fs::path folder = files::pathOfUtf8(words[0]);
-    fs::remove_all(folder);
     fs::create_directories(folder);
     theSimulatorsFolderIsRead();
     signsAndDatesAreThePersons();
