@@ -2,27 +2,40 @@
 #include "map/MapDrawing.h"
 #include "platform/Files.h"
 #include "window/ChartView.h"
+#include "window/MapPane.h"
 
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
+#include <QThread>
 
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
 #include <string>
 
-// Frames of a map that is moved by hand, 2560 by 1440 pixels in software: drawing and painting of each, in
-// milliseconds of the processor. The last column is the longest of them.
+// Frames of a map that is moved by hand, in software: milliseconds of the processor that each takes from the
+// thread of the window, the median and the longest. "drawn" makes the map anew for each of them, "moved" is
+// what the window does: 60 times a second it shows what was drawn beside its own work. The sheet is the whole
+// of a screen of 2560 by 1440 pixels, then the largest map that the program's windows have on it, and the
+// same at its own size.
 
 namespace {
 
 using namespace gatewise;
 using namespace gatewise::map;
 
-constexpr SheetSize kSize{2560, 1440};
+struct StandRow {
+    const char* name;
+    SheetSize size; // pixels of the layout
+    double factor;
+};
+constexpr StandRow kStands[] = {{"2560 x 1440", {2560, 1440}, 1},
+                                {"routes at 240 %", {588, 232}, 2.4},
+                                {"routes at 100 %", {588, 232}, 1}};
 constexpr int kFrames = 120;
-constexpr double kWay = 23; // pixels from frame to frame
+constexpr double kWay = 23;         // pixels of the screen from frame to frame
+constexpr double kFrameTime = 16.6; // milliseconds
 
 struct SceneRow {
     const char* name;
@@ -49,33 +62,72 @@ MapScene sceneOf(const SceneRow& row, const std::shared_ptr<const Land>& land) {
     return scene;
 }
 
-double milliseconds() {
+double milliseconds(clockid_t clock = CLOCK_THREAD_CPUTIME_ID) {
     timespec now{};
-    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+    clock_gettime(clock, &now);
     return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
 }
 
-void pan(const SceneRow& row, const std::shared_ptr<const Land>& land, const QFont& font) {
-    const MapScene scene = sceneOf(row, land);
-    const Sheet sheet{kSize, 9, {}};
-    QImage image(static_cast<int>(kSize.width), static_cast<int>(kSize.height), QImage::Format_RGB32);
-    MapSight sight{{row.latitude, row.longitude}, row.span};
-    (void)drawMap(scene, sight, sheet); // the level of detail is made once
+void print(const char* what, std::vector<double> times) {
+    std::sort(times.begin(), times.end());
+    std::printf("  %s %5.1f longest %5.1f", what, times[times.size() / 2], times.back());
+}
+
+QSize pixelsOf(const StandRow& stand) {
+    return (QSizeF(stand.size.width, stand.size.height) * stand.factor).toSize();
+}
+
+/// The sights that a hand goes through.
+std::vector<MapSight> sightsOf(const SceneRow& row, const StandRow& stand) {
+    std::vector<MapSight> out{{{row.latitude, row.longitude}, row.span}};
+    const double way = kWay / stand.factor;
+    for (int i = 0; i < kFrames; ++i)
+        out.push_back(panned(out.back(), stand.size, way, i % 40 < 20 ? way : -way));
+    return out;
+}
+
+void drawEach(const SceneRow& row, const StandRow& stand, const MapScene& scene, const QFont& font) {
+    QImage image(pixelsOf(stand), QImage::Format_RGB32);
+    const Sheet sheet{stand.size, 9, {}};
     std::vector<double> drawn, whole;
-    for (int i = 0; i < kFrames; ++i) {
+    for (const MapSight& sight : sightsOf(row, stand)) {
         const double before = milliseconds();
         const Drawing drawing = drawMap(scene, sight, sheet);
         drawn.push_back(milliseconds() - before);
         QPainter painter(&image);
-        window::drawDrawing(painter, image.rect(), drawing, font);
+        painter.scale(stand.factor, stand.factor);
+        window::drawDrawing(painter, {0, 0, stand.size.width, stand.size.height}, drawing, font);
         painter.end();
         whole.push_back(milliseconds() - before);
-        sight = panned(sight, kSize, kWay, i % 40 < 20 ? kWay : -kWay);
     }
-    std::sort(drawn.begin(), drawn.end());
-    std::sort(whole.begin(), whole.end());
-    std::printf("%-20s drawing %5.1f  frame %5.1f  longest %5.1f\n", row.name, drawn[kFrames / 2],
-                whole[kFrames / 2], whole.back());
+    print("lines", drawn);
+    print("  drawn", whole);
+}
+
+void move(const SceneRow& row, const StandRow& stand, const std::shared_ptr<const MapScene>& scene,
+          const QFont& font) {
+    QImage image(pixelsOf(stand), QImage::Format_RGB32);
+    window::MapPane pane([] {});
+    pane.stand({stand.size, {}, pixelsOf(stand), stand.factor, 1, font, Qt::black});
+    const auto sights = sightsOf(row, stand);
+    pane.show(scene, -1, sights.front());
+    std::vector<double> times;
+    for (const MapSight& sight : sights) {
+        const double began = milliseconds(CLOCK_MONOTONIC);
+        const double before = milliseconds();
+        pane.look(sight);
+        QPainter painter(&image);
+        painter.scale(stand.factor, stand.factor);
+        pane.paint(painter);
+        painter.end();
+        QCoreApplication::processEvents();
+        // The first is at rest.
+        if (&sight != &sights.front()) times.push_back(milliseconds() - before);
+        const double left = kFrameTime - (milliseconds(CLOCK_MONOTONIC) - began);
+        if (left > 0) QThread::usleep(static_cast<unsigned long>(left * 1000));
+    }
+    print("  moved", times);
+    std::printf("\n");
 }
 
 } // namespace
@@ -88,6 +140,16 @@ int main(int argc, char** argv) {
     const auto land = std::make_shared<const Land>(*bytes);
     QFont font;
     font.setPixelSize(12);
-    for (const SceneRow& row : kScenes) pan(row, land, font);
+    for (const StandRow& stand : kStands) {
+        std::printf("%s\n", stand.name);
+        for (const SceneRow& row : kScenes) {
+            const auto scene = std::make_shared<const MapScene>(sceneOf(row, land));
+            (void)drawMap(*scene, sightsOf(row, stand).front(),
+                          {stand.size, 9, {}}); // the level is made once
+            std::printf("%-20s", row.name);
+            drawEach(row, stand, *scene, font);
+            move(row, stand, scene, font);
+        }
+    }
     return 0;
 }

@@ -8,9 +8,9 @@ namespace gatewise {
 
 namespace {
 
-constexpr std::size_t kTop = 5;                     // rows of each list
-constexpr std::size_t kYears = 12, kRoomyYears = 5; // bars
-constexpr double kThinnest = 1, kThickest = 4;      // pixels of a route
+constexpr std::size_t kTop = 5;                // rows of each list
+constexpr std::size_t kYears = 12;             // bars
+constexpr double kThinnest = 1, kThickest = 4; // pixels of a route
 constexpr double kBarsAspect = 4;
 constexpr const char* kMonths[] = {"January", "February", "March",     "April",   "May",      "June",
                                    "July",    "August",   "September", "October", "November", "December"};
@@ -94,11 +94,31 @@ Bars monthBars(const Career& career) {
     return bars;
 }
 
+/// Shares of the sheet's width: where the months end, and where so many years begin and end. Many years take
+/// from the months what they need to stand apart.
+struct BarsRoom {
+    double months, from, to;
+};
+
+BarsRoom roomFor(std::size_t years) {
+    constexpr std::size_t kMany = 8;
+    constexpr double kWidest = 0.1, kEnd = 0.98;
+    if (years > kMany) return {0.36, 0.39, 0.99};
+    return {0.53, 0.57, std::min(kEnd, 0.57 + kWidest * static_cast<double>(years))};
+}
+
+std::size_t shownYears(const Career& career) {
+    return std::min(kYears, career.years.size());
+}
+
 /// The last years; where they stand close, without their centuries.
 Bars yearBars(const Career& career) {
     Bars bars;
-    const std::size_t skipped = career.years.size() - std::min(kYears, career.years.size());
-    const bool close = career.years.size() - skipped > kRoomyYears;
+    const std::size_t count = shownYears(career);
+    const std::size_t skipped = career.years.size() - count;
+    const BarsRoom room = roomFor(count);
+    const double pitch = (room.to - room.from) / static_cast<double>(std::max<std::size_t>(1, count));
+    const bool close = charactersIn(pitch) < 5; // four digits and what parts them from the next
     for (auto year = std::next(career.years.begin(), static_cast<std::ptrdiff_t>(skipped));
          year != career.years.end(); ++year) {
         const std::string name = std::to_string(year->first);
@@ -166,11 +186,11 @@ Drawing careerBars(const Career& career) {
     if (career.flights == 0) return out;
     out.aspect = kBarsAspect;
     out.summary = barsText(career);
-    addBars(out, monthBars(career), 0.02, 0.53);
+    const BarsRoom room = roomFor(shownYears(career));
+    addBars(out, monthBars(career), 0.02, room.months);
     const Bars years = yearBars(career);
     if (years.names.empty()) return out;
-    const double right = 0.57 + 0.08 * static_cast<double>(years.names.size());
-    addBars(out, years, 0.57, std::min(0.98, right));
+    addBars(out, years, room.from, room.to);
     return out;
 }
 

@@ -114,7 +114,7 @@ constexpr HelpRow kHelpPages[] = {
     {"SettingsForm", "settings.htm"}, {"OptionsForm", "boards.htm"}, {"DirForm", "settings.htm"},
     {"ImportForm", "settings.htm"},   {"ExportForm", "exports.htm"}, {"DirExportForm", "exports.htm"},
     {"ProgramsForm", "exports.htm"},  {"ViewPlan", "plan.htm"},      {"PlanCharts", "plan.htm"},
-    {"FlyForm", "flying.htm"},        {"RoutesForm", "boards.htm"},  {"CareerForm", "logbook.htm"},
+    {"FlyForm", "flying.htm"},        {"RoutesForm", "maps.htm"},    {"CareerForm", "career.htm"},
     {"LogEntry", "logbook.htm"},      {"ClockForm", "logbook.htm"},
 };
 

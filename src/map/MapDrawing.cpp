@@ -157,7 +157,9 @@ private:
         if (words) {
             for (const Path& part : parts) keepOff(part);
         }
-        if (i <= route.names.size() && !route.names[i - 1].empty()) legName(a, b, route.names[i - 1]);
+        if (i > route.names.size()) return;
+        if (i == 1 || route.names[i - 1] != route.names[i - 2]) airways_.push_back({route.names[i - 1], {}});
+        if (!route.names[i - 1].empty()) addLeg(a, b, airways_.back());
     }
     void keepOff(const Path& path) {
         for (std::size_t i = 1; i < path.size(); ++i) {
@@ -166,12 +168,44 @@ private:
             labels_.keepOffLine(a.x, a.y, b.x, b.y);
         }
     }
-    void legName(const Vector& a, const Vector& b, const std::string& name) {
+    struct AirwayLeg {
+        SheetPoint middle;
+        double length = 0; // pixels
+    };
+    /// Legs in a row that lead along the same airway.
+    struct Airway {
+        std::string name;
+        std::vector<AirwayLeg> legs; // that can be seen
+    };
+    void addLeg(const Vector& a, const Vector& b, Airway& airway) {
         const auto from = view_.place(a);
         const auto to = view_.place(b);
         const auto middle = view_.place(between(a, b, 0.5));
-        if (from && to && middle && std::hypot(from->x - to->x, from->y - to->y) > sheet_.widthOf(name) + 24)
-            legNames_.push_back({*middle, name});
+        if (from && to && middle)
+            airway.legs.push_back({*middle, std::hypot(from->x - to->x, from->y - to->y)});
+    }
+    bool nameLeg(const AirwayLeg& leg, const std::string& name) {
+        const auto box =
+            labels_.place(leg.middle.x, leg.middle.y, 1, sheet_.widthOf(name), sheet_.wordHeight);
+        if (box) addText(*box, name, Tone::Route);
+        return box.has_value();
+    }
+    /// Each leg that is long enough has the airway's name. One of many short legs has it once, beside the
+    /// longest that there is room at.
+    void nameAirway(Airway& airway) {
+        const double room = sheet_.widthOf(airway.name) + 24;
+        double length = 0;
+        bool named = false;
+        for (const AirwayLeg& leg : airway.legs) {
+            length += leg.length;
+            if (leg.length > room && nameLeg(leg, airway.name)) named = true;
+        }
+        if (named || length <= room) return;
+        std::stable_sort(airway.legs.begin(), airway.legs.end(),
+                         [](const AirwayLeg& x, const AirwayLeg& y) { return x.length > y.length; });
+        for (const AirwayLeg& leg : airway.legs) {
+            if (nameLeg(leg, airway.name)) return;
+        }
     }
     void mark(const MapPlace& place, int chosen) {
         const auto at = view_.place(vectorOf(place.at));
@@ -194,25 +228,17 @@ private:
 public:
     /// What is left of the room goes to the names of the legs.
     void legNames() {
-        for (const auto& row : legNames_) {
-            const auto box =
-                labels_.place(row.at.x, row.at.y, 1, sheet_.widthOf(row.name), sheet_.wordHeight);
-            if (box) addText(*box, row.name, Tone::Route);
-        }
+        for (Airway& airway : airways_) nameAirway(airway);
     }
 
 private:
-    struct LegName {
-        SheetPoint at;
-        std::string name;
-    };
     View view_;
     const Sheet& sheet_;
     Drawing& out_;
     double span_;
     Clipper clipper_;
     Labels labels_;
-    std::vector<LegName> legNames_;
+    std::vector<Airway> airways_;
 };
 
 double squareTo(const SheetSize& size, const DrawingPoint& a, const DrawingPoint& b) {

@@ -1,17 +1,18 @@
 #include "window/MapView.h"
 
-#include "window/ChartView.h"
 #include "window/Drawing.h"
 #include "window/QtText.h"
 #include "window/Skin.h"
+#include "window/Tone.h"
 
-#include <QFontMetricsF>
 #include <QGestureEvent>
 #include <QMouseEvent>
+#include <QNativeGestureEvent>
 #include <QPainter>
 #include <QWheelEvent>
 
 #include <cmath>
+#include <utility>
 
 namespace gatewise::window {
 
@@ -41,13 +42,18 @@ MapView::MapView(Actor& actor, Control* control, const ControlLayout& place, QWi
 
 void MapView::sync() {
     syncCommon();
-    if (mapChart().scene == shown_ && chart().chosen == chosen_) return;
+    const MapScene& shown = pane_.scene();
+    if (mapChart().scene == shown && chart().chosen == pane_.chosen()) return;
     // Other places are shown whole; another choice, or news of the same places, leaves the map where it is.
-    if (!map::samePlaces(mapChart().scene, shown_)) fits_ = true;
-    shown_ = mapChart().scene;
-    chosen_ = chart().chosen;
-    if (fits_) sight_ = fitted(shown_, size());
-    draw();
+    if (!map::samePlaces(mapChart().scene, shown)) fits_ = true;
+    auto scene = std::make_shared<const MapScene>(mapChart().scene);
+    const MapSight sight = fits_ ? whole(*scene) : pane_.sight();
+    pane_.show(std::move(scene), chart().chosen, sight);
+}
+
+QString MapView::spokenName() const {
+    const QString words = toQt(pane_.scene().summary);
+    return words.isEmpty() ? View::spokenName() : words;
 }
 
 QRectF MapView::sheet() const {
@@ -56,63 +62,79 @@ QRectF MapView::sheet() const {
     return {QPointF(kEdge, kEdge), inside};
 }
 
-map::Sheet MapView::mapSheet() const {
-    const QFontMetricsF metrics(actor_.skin().text("caption").font);
-    return {size(), metrics.ascent(),
-            [metrics](std::string_view word) { return metrics.horizontalAdvance(toQt(std::string(word))); }};
+void MapView::stand() {
+    const double ratio = devicePixelRatioF();
+    pane_.stand({size(), sheet().topLeft(), widget()->size() * ratio, scale().factor * ratio, ratio,
+                 actor_.skin().text("caption").font, groundOf(actor_.skin().style("glass.back"))});
 }
 
-void MapView::draw() {
-    drawing_ = drawMap(shown_, sight_, mapSheet(), chosen_);
-    update();
+void MapView::takePlace() {
+    PickView::takePlace();
+    stand();
 }
 
 void MapView::look(const MapSight& sight) {
-    sight_ = sight;
     fits_ = false;
-    draw();
+    pane_.look(sight);
 }
 
 void MapView::fit() {
-    look(fitted(shown_, size()));
+    look(whole(pane_.scene()));
     fits_ = true;
 }
 
 void MapView::zoom(double factor, QPointF about) {
     const QPointF at = inSheet(about);
-    look(zoomed(sight_, size(), factor, {at.x(), at.y()}));
-}
-
-void MapView::paintEvent(QPaintEvent*) {
-    ViewPainter painter(*this, scale());
-    const Skin& skin = actor_.skin();
-    drawWell(painter, painter.whole(), skin.style("glass.back"), kSocket, skin.style("glass.rim"));
-    drawDrawing(painter, sheet(), drawing_, skin.text("caption").font);
+    look(zoomed(sight(), size(), factor, {at.x(), at.y()}));
 }
 
 void MapView::resizeEvent(QResizeEvent*) {
-    if (fits_) sight_ = fitted(shown_, size());
-    draw();
+    stand();
+    if (fits_) pane_.look(whole(pane_.scene()));
+}
+
+void MapView::paintEvent(QPaintEvent*) {
+    stand(); // the desk may have turned to other colours
+    ViewPainter painter(*this, scale());
+    const Skin& skin = actor_.skin();
+    drawWell(painter, painter.whole(), skin.style("glass.back"), kSocket, skin.style("glass.rim"));
+    pane_.paint(painter);
 }
 
 PickView::Under MapView::under(QPointF at) const {
     Under found = PickView::under(at);
-    for (const auto& route : shown_.routes) {
+    for (const auto& route : pane_.scene().routes) {
         if (found.words.isEmpty() && found.id >= 0 && route.id == found.id) found.words = toQt(route.words);
     }
     return found;
 }
 
 bool MapView::event(QEvent* event) {
+    if (event->type() == QEvent::NativeGesture) {
+        pinched(*static_cast<QNativeGestureEvent*>(event));
+        return true;
+    }
     if (event->type() != QEvent::Gesture) return PickView::event(event);
     auto* gestures = static_cast<QGestureEvent*>(event);
     if (const auto* pinch = static_cast<QPinchGesture*>(gestures->gesture(Qt::PinchGesture))) pinched(*pinch);
     return true;
 }
 
+/// Two fingers on the screen. The first of them was taken for a mouse that drags: no longer.
 void MapView::pinched(const QPinchGesture& pinch) {
-    const double factor = pinch.scaleFactor();
+    held_.reset();
+    if (pinch.state() == Qt::GestureStarted) spread_ = 1;
+    // The last event tells of no move: its own factor is that of the event before.
+    const double factor = pinch.totalScaleFactor() / spread_;
+    spread_ = pinch.totalScaleFactor();
     if (factor > 0.01 && factor < 100) zoom(factor, inLayout(mapFromGlobal(pinch.centerPoint())));
+}
+
+/// Two fingers on a pad, where the desk tells of them.
+void MapView::pinched(const QNativeGestureEvent& pinch) {
+    if (pinch.gestureType() != Qt::ZoomNativeGesture) return;
+    const double factor = 1 + pinch.value();
+    if (factor > 0.01 && factor < 100) zoom(factor, inLayout(mapFromGlobal(pinch.globalPosition())));
 }
 
 void MapView::mousePressEvent(QMouseEvent* event) {
@@ -126,7 +148,7 @@ void MapView::mouseMoveEvent(QMouseEvent* event) {
     const QPointF way = inLayout(event->position()) - *held_;
     if (!dragged_ && std::hypot(way.x(), way.y()) < kDragFrom) return;
     dragged_ = true;
-    look(panned(sight_, size(), way.x(), way.y()));
+    look(panned(sight(), size(), way.x(), way.y()));
     held_ = inLayout(event->position());
 }
 
@@ -139,7 +161,7 @@ void MapView::mouseReleaseEvent(QMouseEvent* event) {
 void MapView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return event->ignore();
     const QPointF at = inSheet(inLayout(event->position()));
-    look(centred(sight_, size(), {at.x(), at.y()}));
+    look(centred(sight(), size(), {at.x(), at.y()}));
 }
 
 void MapView::wheelEvent(QWheelEvent* event) {
@@ -152,7 +174,7 @@ void MapView::keyPressEvent(QKeyEvent* event) {
     const QPointF middle = sheet().center();
     for (const auto& row : kKeys) {
         if (row.key == event->key())
-            return look(panned(sight_, size(), row.x * size().width, row.y * size().height));
+            return look(panned(sight(), size(), row.x * size().width, row.y * size().height));
     }
     switch (event->key()) {
     case Qt::Key_Plus:

@@ -1,10 +1,11 @@
 #pragma once
 
-#include "map/MapDrawing.h"
+#include "window/MapPane.h"
 #include "window/PickView.h"
 
 #include <optional>
 
+class QNativeGestureEvent;
 class QPinchGesture;
 
 namespace gatewise::window {
@@ -17,7 +18,12 @@ public:
     MapView(Actor& actor, Control* control, const ControlLayout& place, QWidget* parent);
     void sync() override;
     [[nodiscard]] bool takesFocus() const override { return true; }
-    [[nodiscard]] const MapSight& sight() const { return sight_; }
+    void takePlace() override;
+    [[nodiscard]] QString spokenName() const override;
+    [[nodiscard]] const MapSight& sight() const { return pane_.sight(); }
+    /// The map itself, where what was drawn of it before is shown for a moment.
+    void settle() { pane_.settle(); }
+    [[nodiscard]] bool settled() const { return pane_.settled(); }
 
 protected:
     bool event(QEvent* event) override;
@@ -30,27 +36,25 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
-    [[nodiscard]] const Drawing& painted() const override { return drawing_; }
+    [[nodiscard]] const Drawing& painted() const override { return pane_.drawing(); }
     [[nodiscard]] QRectF sheet() const override;
     [[nodiscard]] Under under(QPointF at) const override;
 
 private:
     [[nodiscard]] MapChart& mapChart() const { return static_cast<MapChart&>(*control); }
-    [[nodiscard]] map::Sheet mapSheet() const;
+    [[nodiscard]] MapSight whole(const MapScene& scene) const { return fitted(scene, size()); }
+    void stand();
     void look(const MapSight& sight);
     void fit();
     void zoom(double factor, QPointF about);
     void pinched(const QPinchGesture& pinch);
-    /// The drawing of what is in sight now, made when it is needed.
-    void draw();
+    void pinched(const QNativeGestureEvent& pinch);
 
-    MapScene shown_;
-    int chosen_ = -1;
-    MapSight sight_;
+    MapPane pane_{[this] { update(); }};
     bool fits_ = true; // nobody moved it yet
-    Drawing drawing_;
     std::optional<QPointF> held_;
     bool dragged_ = false;
+    double spread_ = 1; // of two fingers since they came down
 };
 
 } // namespace gatewise::window

@@ -2,13 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
 #include <cmath>
 
 namespace gatewise::window {
 
 namespace {
 
-bool strong = false;
+std::atomic<bool> strong = false; // maps are drawn on a thread of their own, too
 
 constexpr double kBlack = 0.27; // what is darker than a key's face becomes black
 constexpr double kWhite = 0.80; // what is lighter than a caption becomes white

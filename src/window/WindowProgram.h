@@ -64,7 +64,7 @@ private:
     const bool ownSize_;
     ShortCutKeys shortCuts_{program, desk};
     Accelerators accelerators_{desk};
-    ContextMenus contextMenus_{skin};
+    ContextMenus contextMenus_{desk, program.forms};
 };
 
 } // namespace gatewise::window

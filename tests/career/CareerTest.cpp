@@ -223,6 +223,29 @@ TEST(Career, ManyYearsStandWithoutTheirCenturies) {
     }
 }
 
+/// A digit is 6 pixels wide on the smallest sheet, which has 296.
+TEST(Career, YearsDoNotRunIntoEachOther) {
+    for (int years = 2; years <= 12; ++years) {
+        std::vector<LogRecord> log;
+        for (int i = 0; i < years; ++i) log.push_back(entry("KAAA", "KBBB", 1999 + i, 1, 1));
+        const Drawing bars = careerBars(careerOf(log, world()));
+        double end = 0;
+        int names = 0;
+        for (const auto& text : bars.texts) {
+            if (text.at.y < 0.9 || text.text.size() < 2) continue; // a number, or a month
+            const double half = static_cast<double>(text.text.size()) * 3 / 296;
+            EXPECT_GT(text.at.x - half, end + 2.0 / 296) << years << " years, " << text.text;
+            EXPECT_LE(text.at.x + half, 1);
+            end = text.at.x + half;
+            ++names;
+        }
+        EXPECT_EQ(names, years);
+    }
+    const std::vector<LogRecord> four{entry("KAAA", "KBBB", 1999, 1, 1), entry("KAAA", "KBBB", 2000, 1, 1),
+                                      entry("KAAA", "KBBB", 2001, 1, 1), entry("KAAA", "KBBB", 2002, 1, 1)};
+    EXPECT_EQ(countTexts(careerBars(careerOf(four, world())), "1999"), 1) << "four have room for all digits";
+}
+
 TEST(Career, WithoutADateThereAreNoYears) {
     LogRecord bad = entry("KAAA", "KBBB", 2002, 6, 1);
     bad.date = 1e300;

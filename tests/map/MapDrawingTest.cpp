@@ -191,5 +191,29 @@ TEST(Labels, ALineIsCrossedOnlyWhereNothingElseIsFree) {
     EXPECT_EQ(labels.place(50, 50, 4, 20, 10)->top, 56);
 }
 
+int countOf(const Drawing& drawing, const std::string& text) {
+    return static_cast<int>(
+        std::count_if(drawing.texts.begin(), drawing.texts.end(), [&](auto& t) { return t.text == text; }));
+}
+
+/// Two airways of five short legs each, none of which is long enough for a name beside it.
+TEST(Map, AnAirwayOfShortLegsHasItsNameOnce) {
+    MapScene s;
+    MapRoute route;
+    for (int i = 0; i <= 10; ++i) route.points.push_back({0, 0.1 * i});
+    for (int i = 0; i < 10; ++i) route.names.emplace_back(i < 5 ? "J89" : "J55");
+    s.routes.push_back(route);
+    s.places.push_back(place("A", 0, 0));
+    s.places.push_back(place("B", 0, 1));
+    // 400 pixels are 1.25 degrees: a leg has 32, a name 21 and wants 24 more.
+    const Drawing drawing = drawMap(s, {{0, 0.5}, 1.25}, sheet(400, 400));
+    EXPECT_EQ(countOf(drawing, "J89"), 1);
+    EXPECT_EQ(countOf(drawing, "J55"), 1);
+    // Ten times as near each of the few legs in sight has it.
+    EXPECT_GT(countOf(drawMap(s, {{0, 0.25}, 0.25}, sheet(400, 400)), "J89"), 1);
+    // Where the whole airway is shorter than its name there is none.
+    EXPECT_EQ(countOf(drawMap(s, {{0, 0.5}, 60}, sheet(400, 400)), "J89"), 0);
+}
+
 } // namespace
 } // namespace gatewise::map

@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QImage>
+#include <QProcess>
 #include <QTimer>
 
 #include <fstream>
@@ -62,6 +63,14 @@ protected:
         play();
     }
 };
+
+/// What another program finds in a file.
+QString readBack(const char* program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished(60000) || process.exitCode() != 0) return {};
+    return QString::fromUtf8(process.readAllStandardOutput());
+}
 
 QString spoken(QWidget& widget, QAccessible::Text which) {
     auto* one = QAccessible::queryAccessibleInterface(&widget);
@@ -134,10 +143,12 @@ TEST_F(CareerWindow, IsSavedAsPictureAndPages) {
     const QImage picture(QString::fromStdString((folder() / "Mine.png").string()));
     EXPECT_EQ(picture.width(), 2480);
     EXPECT_EQ(picture.pixelColor(3, 3), QColor(Qt::white));
-    std::ifstream pdf(folder() / "Mine.pdf");
-    std::string begin(4, ' ');
-    pdf.read(begin.data(), 4);
-    EXPECT_EQ(begin, "%PDF");
+    const QString pdf = QString::fromStdString((folder() / "Mine.pdf").string());
+    const QString words = readBack("pdftotext", {"-layout", pdf, "-"});
+    for (const char* word : {"CAREER", "All flights", "Flights", "Total hours", "10.1", "KATL", "KJFK",
+                             "EGLL", "2001", "2002", "of unknown airports", "Page 1 of 2", "Page 2 of 2"})
+        EXPECT_TRUE(words.contains(word)) << word << " is not in\n" << words.toStdString();
+    EXPECT_LE(readBack("pdfimages", {"-list", pdf}).count('\n'), 2) << "the map is a picture, not lines";
 }
 
 } // namespace gatewise::test

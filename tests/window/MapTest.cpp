@@ -1,9 +1,14 @@
 #include "map/MapDrawing.h"
+#include "window/ChartView.h"
 #include "window/MapView.h"
+#include "window/Skin.h"
 #include "window/StageTest.h"
 
 #include <QApplication>
 #include <QMouseEvent>
+#include <QNativeGestureEvent>
+#include <QPainter>
+#include <QPointingDevice>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -41,7 +46,60 @@ protected:
         stage().key(Qt::Key_Escape);
         EXPECT_FALSE(routes().visible);
     }
+    /// The map of now, drawn line by line onto an empty sheet.
+    QImage drawn() {
+        const QFont font = stage().desk().skin().text("caption").font;
+        const QFontMetricsF metrics(font);
+        const map::Sheet sheet{
+            {map().width() - 4.0, map().height() - 4.0}, metrics.ascent(), [metrics](std::string_view word) {
+                return metrics.horizontalAdvance(
+                    QString::fromLatin1(word.data(), static_cast<qsizetype>(word.size())));
+            }};
+        QImage image(map().rect().size(), QImage::Format_RGB32);
+        image.fill(QColor(0x05, 0x07, 0x09));
+        QPainter painter(&image);
+        const Drawing lines = drawMap(routes().map.scene, map().sight(), sheet, routes().map.chosen);
+        window::drawDrawing(painter, QRectF(map().rect()).adjusted(2, 2, -2, -2), lines, font);
+        return image;
+    }
+    QImage shown() { return map().grab().toImage().convertToFormat(QImage::Format_RGB32); }
+    QRect inner() { return map().rect().adjusted(4, 4, -4, -4); }
+    bool comesToRest() {
+        return QTest::qWaitFor([&] { return map().settled(); }, 60000);
+    }
 };
+
+/// A view of its own, with one mark in an empty sea, that nothing but the test moves.
+class Pane : public testing::Test {
+protected:
+    void SetUp() override {
+        QFont font;
+        font.setPixelSize(12);
+        pane.stand({{400, 300}, {}, {400, 300}, 1, 1, font, Qt::black});
+        pane.show(seaWithMark(0), -1, {{0, 0}, 1});
+    }
+    static std::shared_ptr<const MapScene> seaWithMark(double longitude) {
+        MapScene scene;
+        scene.places.push_back({{0, longitude}, Tone::Airport, "", "", 0});
+        return std::make_shared<const MapScene>(scene);
+    }
+    QImage painted() {
+        QImage image(400, 300, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QPainter painter(&image);
+        pane.paint(painter);
+        return image;
+    }
+    void move(double dx, double dy) { pane.look(map::panned(pane.sight(), {400, 300}, dx, dy)); }
+    bool comesToRest() {
+        return QTest::qWaitFor([&] { return pane.settled(); }, 60000);
+    }
+
+    int news = 0;
+    window::MapPane pane{[this] { ++news; }};
+};
+
+constexpr QRgb kMark = 0xFFFFC531;
 
 /// Pixels that a place has moved between two looks, as the view's own figures have it.
 QPointF placeOf(const window::MapView& view, const MapSpot& spot) {
@@ -152,6 +210,131 @@ TEST_F(Map, ThePointerSaysWhatIsThereAndAClickPicksIt) {
         stage().key(Qt::Key_Escape);
     });
     play();
+}
+
+TEST_F(Map, AtRestItIsDrawnLineByLine) {
+    then([&] {
+        ASSERT_TRUE(routes().visible);
+        EXPECT_EQ(shown().copy(inner()), drawn().copy(inner())) << "as it comes up";
+        map().setFocus();
+        stage().key(Qt::Key_Plus);
+        stage().key(Qt::Key_Right);
+        ASSERT_TRUE(comesToRest());
+        EXPECT_EQ(shown().copy(inner()), drawn().copy(inner())) << "after a move";
+        end();
+    });
+    play();
+}
+
+/// The fingers come through the window, as those on a screen do.
+TEST_F(Map, TwoFingersZoomAboutTheirMiddle) {
+    then([&] {
+        static QPointingDevice* screen = QTest::createTouchDevice();
+        QWidget* above = map().window();
+        const QPoint about = map().mapTo(above, middle() + QPoint(30, 10));
+        const MapSight before = map().sight();
+        const map::SheetSize size{map().width() - 4.0, map().height() - 4.0};
+        const map::Vector held = map::View(before, size).spotAt({middle().x() + 28.0, middle().y() + 8.0});
+        const auto at = [&](int apart) {
+            return std::pair(about - QPoint(apart, 0), about + QPoint(apart, 0));
+        };
+        QTest::touchEvent(above->windowHandle(), screen).press(0, at(20).first).press(1, at(20).second);
+        for (const int apart : {20, 25, 30, 35, 40})
+            QTest::touchEvent(above->windowHandle(), screen)
+                .move(0, at(apart).first)
+                .move(1, at(apart).second);
+        QTest::touchEvent(above->windowHandle(), screen).release(0, at(40).first).release(1, at(40).second);
+        EXPECT_NEAR(map().sight().span, before.span / 2, before.span / 20);
+        const auto after = map::View(map().sight(), size).place(held);
+        ASSERT_TRUE(after);
+        EXPECT_NEAR(after->x, middle().x() + 28, 3) << "no finger drags";
+        EXPECT_NEAR(after->y, middle().y() + 8, 3);
+        EXPECT_TRUE(routes().visible) << "no finger clicks";
+        end();
+    });
+    play();
+}
+
+TEST_F(Map, TwoFingersOnAPadZoom) {
+    then([&] {
+        const QPointF at = map().mapTo(map().window(), middle());
+        const QPointF onDesk = map().mapToGlobal(QPointF(middle()));
+        const MapSight before = map().sight();
+        const auto pinch = [&](Qt::NativeGestureType type, double value) {
+            QNativeGestureEvent event(type, QPointingDevice::primaryPointingDevice(), 2, at, at, onDesk,
+                                      value, {});
+            QApplication::sendEvent(map().window()->windowHandle(), &event);
+        };
+        pinch(Qt::BeginNativeGesture, 0);
+        pinch(Qt::ZoomNativeGesture, 0.25);
+        pinch(Qt::EndNativeGesture, 0);
+        EXPECT_NEAR(map().sight().span, before.span / 1.25, 1e-6);
+        EXPECT_NEAR(map().sight().middle.longitude, before.middle.longitude, 0.3) << "less than a pixel";
+        end();
+    });
+    play();
+}
+
+TEST_F(Pane, WhatIsMovedIsSeenWhereItLiesNow) {
+    EXPECT_EQ(painted().pixel(200, 150), kMark);
+    EXPECT_TRUE(pane.settled());
+    move(60, -40);
+    EXPECT_FALSE(pane.settled()) << "nothing was drawn in between";
+    const QImage moved = painted();
+    EXPECT_EQ(moved.pixel(260, 110), kMark);
+    EXPECT_NE(moved.pixel(200, 150), kMark);
+    EXPECT_NEAR(pane.drawing().marks.front().at.x, 260 / 400.0, 1e-3) << "and is hit there";
+    pane.look(map::zoomed(pane.sight(), {400, 300}, 2, {200, 150}));
+    EXPECT_EQ(painted().pixel(320, 70), kMark);
+}
+
+TEST_F(Pane, ItReachesBeyondTheEdgesSoonAfterItStands) {
+    pane.show(seaWithMark(0), -1, {{0, -0.75}, 1}); // 225 pixels from the middle: outside on the right
+    painted();
+    const int told = news;
+    ASSERT_TRUE(QTest::qWaitFor([&] { return news > told; }, 60000));
+    move(-50, 0);
+    EXPECT_FALSE(pane.settled());
+    EXPECT_EQ(painted().pixel(375, 150), kMark);
+}
+
+TEST_F(Pane, ItComesToRestAsTheMapItself) {
+    painted();
+    for (int i = 0; i < 5; ++i) {
+        move(30, 10);
+        painted();
+    }
+    ASSERT_TRUE(comesToRest());
+    const QImage rested = painted();
+    window::MapPane other{[] {}};
+    QFont font;
+    font.setPixelSize(12);
+    other.stand({{400, 300}, {}, {400, 300}, 1, 1, font, Qt::black});
+    other.show(seaWithMark(0), -1, pane.sight());
+    QImage fresh(400, 300, QImage::Format_RGB32);
+    QPainter painter(&fresh);
+    other.paint(painter);
+    painter.end();
+    EXPECT_EQ(rested, fresh);
+}
+
+TEST_F(Pane, OtherPlacesAreDrawnAtOnce) {
+    painted();
+    move(30, 0); // a picture is on its way
+    pane.show(seaWithMark(0.25), -1, {{0, 0}, 1});
+    const QImage first = painted();
+    EXPECT_TRUE(pane.settled());
+    EXPECT_EQ(first.pixel(275, 150), kMark);
+    QTest::qWait(1);
+    EXPECT_EQ(painted(), first) << "what was on its way came too late";
+}
+
+TEST_F(Pane, AnotherChoiceKeepsThePictureUntilItIsDrawn) {
+    painted();
+    pane.show(seaWithMark(0), 0, pane.sight());
+    EXPECT_EQ(painted().pixel(200, 150), kMark);
+    ASSERT_TRUE(comesToRest());
+    EXPECT_EQ(painted().pixel(200, 150), 0xFFFFFFFF);
 }
 
 TEST_F(Map, AScreenReaderHearsWhatItSays) {

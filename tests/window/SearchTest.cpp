@@ -126,6 +126,56 @@ TEST_F(Search, TheRightButtonHasAMenuInAField) {
     play();
 }
 
+/// By the mouse from the Status Board, where the key beside the schedule sets is not in sight.
+TEST_F(Search, TheHelpKeyOffersTheImportToTheMouse) {
+    then([&] { stage().click(main().statusboard_LABEL); });
+    then([&] { stage().rightClick(main().FlatButton(2)); });
+    then([&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        ASSERT_EQ(menu->actions().size(), 2);
+        EXPECT_EQ(menu->actions()[0]->text(), "Help");
+        QAction* import = menu->actions()[1];
+        EXPECT_EQ(import->text(), "Import schedules...");
+        QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {}, menu->actionGeometry(import).center());
+    });
+    then([&] {
+        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+        EXPECT_TRUE(forms().ImportForm.visible);
+        stage().key(Qt::Key_Escape);
+    });
+    then([&] {
+        EXPECT_FALSE(forms().ImportForm.visible);
+        EXPECT_TRUE(stage().machine.desktop.helpPages.empty());
+    });
+    play();
+}
+
+TEST_F(Search, TheHelpKeyOffersTheImportToTheKeyboard) {
+    struct Row {
+        Qt::Key key;
+        Qt::KeyboardModifiers held;
+    };
+    for (const Row& row : {Row{Qt::Key_Menu, Qt::NoModifier}, Row{Qt::Key_F10, Qt::ShiftModifier}}) {
+        then([this, row] {
+            ASSERT_TRUE(stage().tabTo(main().FlatButton(2)));
+            stage().key(row.key, row.held);
+        });
+        then([this] {
+            ASSERT_NE(qobject_cast<QMenu*>(QApplication::activePopupWidget()), nullptr);
+            stage().key(Qt::Key_Down);
+            stage().key(Qt::Key_Down);
+            stage().key(Qt::Key_Return);
+        });
+        then([this] {
+            EXPECT_TRUE(forms().ImportForm.visible);
+            stage().key(Qt::Key_Escape);
+        });
+        then([this] { EXPECT_FALSE(forms().ImportForm.visible); });
+    }
+    play();
+}
+
 TEST_F(Search, CopiesTheBoardThePassAndARowOfThePlan) {
     then([&] {
         ASSERT_TRUE(stage().tabTo(main().switchButton(0)));

@@ -5,6 +5,7 @@
 #include "platform/Files.h"
 #include "platform/NativePath.h"
 #include "platform/Profile.h"
+#include "window/MapView.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -175,7 +176,10 @@ QImage Stage::picture() {
         if (&over != main && over.isVisible()) windows.push_back(&over);
     }
     QRect all;
-    for (const QWidget* one : windows) all |= one->frameGeometry();
+    for (const QWidget* one : windows) {
+        all |= one->frameGeometry();
+        for (window::MapView* map : one->findChildren<window::MapView*>()) map->settle();
+    }
     const double ratio = main->devicePixelRatioF();
     QImage image(all.size() * ratio, QImage::Format_RGB32);
     image.setDevicePixelRatio(ratio);

@@ -29,7 +29,7 @@ std::string makeProgramFolder(const std::string& program, const std::string& scr
 /// pages go to the printer that ships, too.
 enum class Time { Simulated, Real };
 
-/// The loop that ships, which counts how deep it is.
+/// The loop that ships, which counts how deep it is. Work beside the window can be held before it begins.
 class StageLoop : public window::QtLoop {
 public:
     using QtLoop::QtLoop;
