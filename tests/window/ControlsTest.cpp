@@ -235,6 +235,18 @@ TEST_F(Controls, AFolderReadsAsAPathOfThisComputer) {
     EXPECT_EQ(list.items.at(0), "/games/FS2002\\flights");
 }
 
+TEST_F(Controls, TheEndOfALongFolderIsSeen) {
+    auto& list = forms().DirForm.Dir1;
+    const std::string way = "/" + std::string(200, 'w');
+    const auto seen = [&](const std::string& path) {
+        auto* table = openWith(list, {path});
+        return table == nullptr ? QImage() : table->viewport()->grab().toImage();
+    };
+    const QImage flights = seen(way + "/flights");
+    EXPECT_NE(flights, seen(way + "/modules"));
+    EXPECT_EQ(flights, seen("/another/" + way + "/flights")) << "the begin is seen in place of the end";
+}
+
 TEST_F(Controls, ACutRowIsShownWholeBesideThePointer) {
     const std::string whole = "A flight with a name that no list of this width has room for.pln";
     auto* table = openWith(forms().DirForm.File1, {whole, "short.pln"});
