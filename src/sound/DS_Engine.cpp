@@ -72,13 +72,14 @@ void DS_Engine::releaseAll() {
         channel.loaded = false;
         for (Sounding& echo : channel.echoes) dropBuffer(echo.buffer);
     }
+    waves_.release();
 }
 
 void DS_Engine::LoadWavToChannel(std::int16_t channel, const std::string& path) {
     report("LoadWavToChannel", {channel, path});
     Channel* target = channelAt(channel);
     if (target == nullptr || !open_) return;
-    const SoundBuffer made = device_.load(path);
+    const SoundBuffer made = waves_.load(path);
     if (made == SoundBuffer::None) return;
     dropBuffer(target->buffer);
     target->buffer = made;

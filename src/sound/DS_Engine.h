@@ -2,6 +2,7 @@
 
 #include "platform/Machine.h"
 #include "sound/Device.h"
+#include "sound/LongWave.h"
 
 #include <array>
 #include <cstdint>
@@ -18,7 +19,7 @@ public:
     static constexpr std::int16_t kChannels = 9;
     static constexpr std::int16_t kEchoes = 3;
 
-    DS_Engine(SoundDevice& device, EventLoop& loop) : device_(device), loop_(loop) {}
+    DS_Engine(SoundDevice& device, EventLoop& loop) : device_(device), loop_(loop), waves_(device) {}
     ~DS_Engine() { releaseAll(); }
     DS_Engine(const DS_Engine&) = delete;
     DS_Engine& operator=(const DS_Engine&) = delete;
@@ -78,6 +79,7 @@ private:
 
     SoundDevice& device_;
     EventLoop& loop_;
+    LongWave waves_;
     /// Sets a volume on the device, or none while muted. One out of range changes nothing.
     void setLoudness(Sounding& sounding, std::int32_t volume);
 
