@@ -12,10 +12,13 @@ SoundBuffer LongWave::load(const std::string& path) {
     if (kept_ == SoundBuffer::None || path != path_ || stamp != stamp_) {
         release();
         kept_ = device_.load(path);
+        device_.setVolume(kept_, kLowestVolume); // nobody hears what is only kept
         path_ = path;
         stamp_ = stamp;
     }
-    return device_.duplicate(kept_);
+    const SoundBuffer made = device_.duplicate(kept_);
+    device_.setVolume(made, kHighestVolume);
+    return made;
 }
 
 void LongWave::release() {

@@ -40,7 +40,7 @@ TEST_F(LongWaves, IsReadOnceAndGivesEachABufferOfItsOwn) {
     ASSERT_NE(second, SoundBuffer::None);
     EXPECT_NE(first, second);
     device.setVolume(first, -1800);
-    EXPECT_EQ(device.volume(second), 0);
+    EXPECT_EQ(device.volume(second), 0) << "as loud as a file that was just read";
     device.release(first);
     EXPECT_EQ(device.frequency(second), 8000);
 }
