@@ -98,7 +98,7 @@ grep -qi '^FSPath=/home/pilot/.wine/drive_c/Games/FS2002' "$root/home/pilot/.loc
 echo "the package finds the simulator in Wine's folder"
 if command -v Xvfb >/dev/null; then
   tools/package/first_board.py --picture build/packages/board-of-the-package.png \
-    chroot --userspec=pilot:pilot "$root" env HOME=/home/pilot ALSOFT_DRIVERS=null /usr/bin/gatewise
+    chroot --userspec=pilot:pilot "$root" env HOME=/home/pilot QT_QPA_PLATFORM=xcb ALSOFT_DRIVERS=null /usr/bin/gatewise
 fi
 chroot "$root" dpkg --purge gatewise >/dev/null 2>&1 || fail "the package cannot be removed"
 [ ! -e "$root/usr/share/gatewise" ] || fail "the package leaves files behind"
