@@ -17,12 +17,6 @@ MapPictures::Picture sharpOf(const MapLook& look) {
 
 } // namespace
 
-bool operator==(const MapStand& a, const MapStand& b) {
-    return a.size.width == b.size.width && a.size.height == b.size.height && a.corner == b.corner &&
-           a.pixels == b.pixels && a.factor == b.factor && a.ratio == b.ratio && a.font == b.font &&
-           a.ground == b.ground;
-}
-
 MapPane::MapPane(std::function<void()> news)
     : news_(std::move(news)), pictures_([this](const Picture& picture) { take(picture); }) {
     look_.scene = std::make_shared<const MapScene>();
@@ -34,10 +28,9 @@ MapPane::MapPane(std::function<void()> news)
 }
 
 void MapPane::stand(const MapStand& stand) {
-    const MapLook& l = look_;
-    if (stand == MapStand{l.size, l.corner, l.pixels, l.factor, l.ratio, l.font, l.ground}) return;
-    look_ = {l.scene,      l.chosen,     l.sight,     stand.size, stand.corner,
-             stand.pixels, stand.factor, stand.ratio, stand.font, stand.ground};
+    MapStand& now = look_;
+    if (now == stand) return;
+    now = stand;
     sharp_.reset();
     wide_.reset();
     changed();

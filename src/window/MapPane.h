@@ -7,19 +7,6 @@
 
 namespace gatewise::window {
 
-/// Where a map stands and how it looks there: the same as in MapLook.
-struct MapStand {
-    map::SheetSize size;
-    QPointF corner;
-    QSize pixels;
-    double factor = 1;
-    double ratio = 1;
-    QFont font;
-    QColor ground;
-
-    friend bool operator==(const MapStand& a, const MapStand& b);
-};
-
 /// A map that follows the hand at any size. While it is moved, what was drawn before is shown where it lies
 /// now: a picture that reaches beyond the edges, drawn anew beside the window's own work as fast as that
 /// goes. What is at rest is always the map itself, drawn for just this sight.

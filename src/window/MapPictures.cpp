@@ -23,10 +23,15 @@ QFont apart(const QFont& font) {
 
 } // namespace
 
+bool operator==(const MapStand& a, const MapStand& b) {
+    return a.size.width == b.size.width && a.size.height == b.size.height && a.corner == b.corner &&
+           a.pixels == b.pixels && a.factor == b.factor && a.ratio == b.ratio && a.font == b.font &&
+           a.ground == b.ground;
+}
+
 bool operator==(const MapLook& a, const MapLook& b) {
-    return a.scene == b.scene && a.chosen == b.chosen && a.sight == b.sight && a.size.width == b.size.width &&
-           a.size.height == b.size.height && a.corner == b.corner && a.pixels == b.pixels &&
-           a.factor == b.factor && a.ratio == b.ratio && a.font == b.font && a.ground == b.ground;
+    const MapStand& stand = a;
+    return a.scene == b.scene && a.chosen == b.chosen && a.sight == b.sight && stand == b;
 }
 
 map::Sheet sheetOf(const MapLook& look) {

@@ -14,11 +14,8 @@
 
 namespace gatewise::window {
 
-/// All that the picture of a map depends on.
-struct MapLook {
-    std::shared_ptr<const MapScene> scene;
-    int chosen = -1;
-    MapSight sight;
+/// Where a map stands and how it looks there.
+struct MapStand {
     map::SheetSize size; // of the sheet, pixels of the layout
     QPointF corner;      // of the sheet within the picture, pixels of the layout
     QSize pixels;        // of the picture
@@ -26,6 +23,15 @@ struct MapLook {
     double ratio = 1;    // pixels of the picture to those in which the desk counts
     QFont font;
     QColor ground; // what the map is drawn upon
+
+    friend bool operator==(const MapStand& a, const MapStand& b);
+};
+
+/// All that the picture of a map depends on.
+struct MapLook : MapStand {
+    std::shared_ptr<const MapScene> scene;
+    int chosen = -1;
+    MapSight sight;
 
     friend bool operator==(const MapLook& a, const MapLook& b);
 };
