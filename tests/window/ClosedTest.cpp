@@ -11,13 +11,8 @@ namespace gatewise::test {
 
 namespace {
 
-class Closed : public StageTest {
+class Closed : public DeliveredStageTest {
 protected:
-    void SetUp() override {
-        if (!dataIsThere()) GTEST_SKIP() << "built without data sets";
-        StageTest::SetUp();
-    }
-    forms::MainForm& main() { return forms().MainForm; }
     /// The manager's word reaches the program through the window system, as that of a frame's sign does.
     bool close(Screen& screen) {
         const QPointer<QWindow> window = stage().desk().window(screen).windowHandle();

@@ -24,13 +24,8 @@ namespace gatewise::test {
 
 namespace {
 
-class Controls : public StageTest {
+class Controls : public DeliveredStageTest {
 protected:
-    void SetUp() override {
-        if (!dataIsThere()) GTEST_SKIP() << "built without data sets";
-        StageTest::SetUp();
-    }
-    forms::MainForm& main() { return forms().MainForm; }
     void open(Screen& screen) {
         stage().desk().act([&] { showScreen(stage().window.program, screen); });
     }

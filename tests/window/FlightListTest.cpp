@@ -1,3 +1,4 @@
+#include "window/RowsOf.h"
 #include "window/StageTest.h"
 
 #include "window/Rows.h"
@@ -21,15 +22,9 @@ protected:
         then([&] { stage().click(forms().MainForm.newButton); });
     }
     forms::FlightForm& form() { return forms().FlightForm; }
-    window::RowsTable& table() {
-        return dynamic_cast<window::RowsView&>(stage().widget(form().FlightList)).table();
-    }
-    QPoint middleOf(int row) {
-        const QPoint at = table().visualRect(table().model()->index(row, 0)).center();
-        return table().viewport()->mapTo(table().window(), at);
-    }
+    window::RowsTable& table() { return tableOf(stage(), form().FlightList); }
     void press(Qt::MouseButton button, int row) {
-        QTest::mouseClick(table().window()->windowHandle(), button, {}, middleOf(row));
+        QTest::mouseClick(table().window()->windowHandle(), button, {}, middleOf(table(), row));
     }
     /// The flight that the information screen tells of.
     std::string shown() { return forms().InfoForm.FlightInfo1.pointer; }
@@ -97,7 +92,7 @@ TEST_F(FlightList, ADoubleClickTakesTheFlight) {
     then([&] {
         press(Qt::LeftButton, 1);
         flight = form().FlightList.rows.at(1).cells.at(0);
-        QTest::mouseDClick(table().window()->windowHandle(), Qt::LeftButton, {}, middleOf(1));
+        QTest::mouseDClick(table().window()->windowHandle(), Qt::LeftButton, {}, middleOf(table(), 1));
     });
     then([&] {
         EXPECT_FALSE(form().visible);

@@ -13,13 +13,8 @@ namespace gatewise::test {
 
 namespace {
 
-class Front : public StageTest {
+class Front : public DeliveredStageTest {
 protected:
-    void SetUp() override {
-        if (!dataIsThere()) GTEST_SKIP() << "built without data sets";
-        StageTest::SetUp();
-    }
-    forms::MainForm& main() { return forms().MainForm; }
     void openPlanAndCharts() {
         then([&] { stage().doubleClick(main().city_LABEL(3)); });
         then([&] { stage().click(main().viewButton); });

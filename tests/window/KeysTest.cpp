@@ -1,3 +1,4 @@
+#include "window/RowsOf.h"
 #include "window/StageTest.h"
 
 #include "input/UserEvents.h"
@@ -16,13 +17,8 @@ namespace gatewise::test {
 
 namespace {
 
-class Keys : public StageTest {
+class Keys : public DeliveredStageTest {
 protected:
-    void SetUp() override {
-        if (!dataIsThere()) GTEST_SKIP() << "built without data sets";
-        StageTest::SetUp();
-    }
-    forms::MainForm& main() { return forms().MainForm; }
     /// Presses, moves to and lets go at points of a widget, given as shares of its box.
     void drag(const Control& control, QPointF from, QPointF to) {
         QWidget& widget = stage().widget(control);
@@ -227,11 +223,9 @@ TEST_F(Keys, AClickOnThePickedRowIsAClickToo) {
     then([&] {
         auto& list = forms().FlightForm.FlightList;
         list.on(Event::Click, [&] { ++clicks; });
-        auto& table = dynamic_cast<window::RowsView&>(stage().widget(list)).table();
-        const QPoint at = table.visualRect(table.model()->index(1, 0)).center();
+        auto& table = tableOf(stage(), list);
         for (int i = 1; i <= 2; ++i) {
-            QTest::mouseClick(table.window()->windowHandle(), Qt::LeftButton, {},
-                              table.viewport()->mapTo(table.window(), at));
+            QTest::mouseClick(table.window()->windowHandle(), Qt::LeftButton, {}, middleOf(table, 1));
             EXPECT_EQ(list.picked, 1);
             EXPECT_EQ(clicks, i);
         }
@@ -251,10 +245,8 @@ TEST_F(Keys, AFolderThatIsOpenedTellsSo) {
         const int line = f.Dir1.find("Gatewise");
         ASSERT_GT(line, 0);
         f.Dir1.on(Event::Change, [&] { ++changes; });
-        auto& table = dynamic_cast<window::RowsView&>(stage().widget(f.Dir1)).table();
-        const QPoint at = table.visualRect(table.model()->index(line, 0)).center();
-        QTest::mouseDClick(table.window()->windowHandle(), Qt::LeftButton, {},
-                           table.viewport()->mapTo(table.window(), at));
+        auto& table = tableOf(stage(), f.Dir1);
+        QTest::mouseDClick(table.window()->windowHandle(), Qt::LeftButton, {}, middleOf(table, line));
         EXPECT_TRUE(f.Dir1.path.ends_with("Gatewise")) << f.Dir1.path;
         EXPECT_EQ(changes, 1);
         stage().key(Qt::Key_Escape);
@@ -270,10 +262,9 @@ TEST_F(Keys, AFormHearsOfTheMouseOverItsList) {
     then([&] {
         auto& list = forms().FlightForm.FlightList;
         list.on(Event::Move, [&] { ++moves; });
-        auto& table = dynamic_cast<window::RowsView&>(stage().widget(list)).table();
+        auto& table = tableOf(stage(), list);
         for (int row = 0; row < 3; ++row) {
-            const QPoint at = table.visualRect(table.model()->index(row, 0)).center();
-            QTest::mouseMove(table.window()->windowHandle(), table.viewport()->mapTo(table.window(), at));
+            QTest::mouseMove(table.window()->windowHandle(), middleOf(table, row));
             EXPECT_EQ(moves, row + 1);
         }
         stage().key(Qt::Key_Escape);

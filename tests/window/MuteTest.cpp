@@ -11,12 +11,8 @@ namespace gatewise::test {
 
 namespace {
 
-class Muting : public StageTest {
+class Muting : public DeliveredStageTest {
 protected:
-    void SetUp() override {
-        if (!dataIsThere()) GTEST_SKIP() << "built without data sets";
-        StageTest::SetUp();
-    }
     const Settings& settings() { return stage().window.program.session.settings; }
     [[nodiscard]] std::string kept(const char* key) {
         return textIn(loadProfile(configPath(files::textOf(folder()))), "Gatewise", key);

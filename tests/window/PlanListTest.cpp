@@ -1,3 +1,4 @@
+#include "window/RowsOf.h"
 #include "window/StageTest.h"
 
 #include "window/Rows.h"
@@ -40,7 +41,7 @@ protected:
         });
     }
     ListView& list() { return forms().ViewPlan.PlanList; }
-    window::RowsTable& table() { return dynamic_cast<window::RowsView&>(stage().widget(list())).table(); }
+    window::RowsTable& table() { return tableOf(stage(), list()); }
     QScrollBar& bar() { return *table().verticalScrollBar(); }
     [[nodiscard]] const std::vector<std::string>& cells(int row) {
         return list().rows.at(static_cast<std::size_t>(row)).cells;
@@ -69,9 +70,7 @@ protected:
     }
     void pick(int row) {
         ASSERT_TRUE(inSight(row)) << row;
-        const QPoint at = table().visualRect(table().model()->index(row, 0)).center();
-        QTest::mouseClick(table().window()->windowHandle(), Qt::LeftButton, {},
-                          table().viewport()->mapTo(table().window(), at));
+        QTest::mouseClick(table().window()->windowHandle(), Qt::LeftButton, {}, middleOf(table(), row));
         ASSERT_EQ(list().picked, row);
     }
     /// Takes the picked point out; the one that followed is picked afterwards and stands in sight.

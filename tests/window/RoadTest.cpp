@@ -8,14 +8,7 @@ namespace gatewise::test {
 
 namespace {
 
-class Road : public StageTest {
-protected:
-    void SetUp() override {
-        if (!dataIsThere()) GTEST_SKIP() << "built without data sets";
-        StageTest::SetUp();
-    }
-    forms::MainForm& main() { return forms().MainForm; }
-};
+class Road : public DeliveredStageTest {};
 
 } // namespace
 

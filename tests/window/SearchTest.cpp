@@ -20,13 +20,8 @@ namespace gatewise::test {
 
 namespace {
 
-class Search : public StageTest {
+class Search : public DeliveredStageTest {
 protected:
-    void SetUp() override {
-        if (!dataIsThere()) GTEST_SKIP() << "built without data sets";
-        StageTest::SetUp();
-    }
-    forms::MainForm& main() { return forms().MainForm; }
     QTreeView& list() { return *stage().widget(forms().SelectForm.List1).findChild<QTreeView*>(); }
     int shownRows() {
         int rows = 0;

@@ -18,14 +18,8 @@ namespace gatewise::test {
 
 namespace {
 
-class Signs : public StageTest {
+class Signs : public DeliveredStageTest {
 protected:
-    void SetUp() override {
-        if (!dataIsThere()) GTEST_SKIP() << "built without data sets";
-        StageTest::SetUp();
-    }
-    forms::MainForm& main() { return forms().MainForm; }
-
     /// Whether a widget shows the amber of "where you are" in a part of it.
     bool amber(const Control& control, const QRect& part) {
         const QImage image = stage().widget(control).grab(part).toImage();

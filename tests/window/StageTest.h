@@ -50,4 +50,14 @@ private:
     std::unique_ptr<stage::Stage> stage_;
 };
 
+/// A stage with the data sets that are delivered; skipped where the build has none.
+class DeliveredStageTest : public StageTest {
+protected:
+    void SetUp() override {
+        if (!dataIsThere()) GTEST_SKIP() << "built without data sets";
+        StageTest::SetUp();
+    }
+    forms::MainForm& main() { return forms().MainForm; }
+};
+
 } // namespace gatewise::test

@@ -28,13 +28,8 @@ public slots:
     void open(const QUrl& url) { opened << url.toLocalFile(); }
 };
 
-class Written : public StageTest {
+class Written : public DeliveredStageTest {
 protected:
-    void SetUp() override {
-        if (!dataIsThere()) GTEST_SKIP() << "built without data sets";
-        StageTest::SetUp();
-    }
-    forms::MainForm& main() { return forms().MainForm; }
     [[nodiscard]] std::filesystem::path simulator() const { return folder().parent_path() / "FS2002"; }
     void openFs2000Picker() {
         then([&] { stage().doubleClick(main().city_LABEL(3)); });
