@@ -86,18 +86,29 @@ std::vector<MapSight> sightsOf(const SceneRow& row, const StandRow& stand) {
     return out;
 }
 
-void drawEach(const SceneRow& row, const StandRow& stand, const MapScene& scene, const QFont& font) {
-    QImage image(pixelsOf(stand), QImage::Format_RGB32);
-    const Sheet sheet{stand.size, 9, {}};
+window::MapLook lookOf(const StandRow& stand, const QFont& font) {
+    window::MapLook look;
+    look.size = stand.size;
+    look.pixels = pixelsOf(stand);
+    look.factor = stand.factor;
+    look.font = font;
+    look.ground = Qt::black;
+    return look;
+}
+
+void drawEach(const SceneRow& row, const StandRow& stand, const std::shared_ptr<const MapScene>& scene,
+              const QFont& font) {
+    window::MapLook look = lookOf(stand, font);
+    look.scene = scene;
+    const Sheet sheet = window::sheetOf(look);
     std::vector<double> drawn, whole;
     for (const MapSight& sight : sightsOf(row, stand)) {
-        const double before = milliseconds();
-        const Drawing drawing = drawMap(scene, sight, sheet);
+        look.sight = sight;
+        double before = milliseconds();
+        (void)drawMap(*scene, sight, sheet);
         drawn.push_back(milliseconds() - before);
-        QPainter painter(&image);
-        painter.scale(stand.factor, stand.factor);
-        window::drawDrawing(painter, {0, 0, stand.size.width, stand.size.height}, drawing, font);
-        painter.end();
+        before = milliseconds();
+        (void)window::drawnMap(look);
         whole.push_back(milliseconds() - before);
     }
     print("lines", drawn);
@@ -108,7 +119,7 @@ void move(const SceneRow& row, const StandRow& stand, const std::shared_ptr<cons
           const QFont& font) {
     QImage image(pixelsOf(stand), QImage::Format_RGB32);
     window::MapPane pane([] {});
-    pane.stand({stand.size, {}, pixelsOf(stand), stand.factor, 1, font, Qt::black});
+    pane.stand(lookOf(stand, font));
     const auto sights = sightsOf(row, stand);
     pane.show(scene, -1, sights.front());
     std::vector<double> times;
@@ -147,7 +158,7 @@ int main(int argc, char** argv) {
             (void)drawMap(*scene, sightsOf(row, stand).front(),
                           {stand.size, 9, {}}); // the level is made once
             std::printf("%-20s", row.name);
-            drawEach(row, stand, *scene, font);
+            drawEach(row, stand, scene, font);
             move(row, stand, scene, font);
         }
     }

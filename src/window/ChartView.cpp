@@ -179,7 +179,7 @@ template<class Place> void drawAreas(QPainter& painter, const Drawing& drawing, 
 } // namespace
 
 void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, const QFont& font,
-                 double point) {
+                 double point, const LineWay& solid) {
     constexpr double kPixel = 0.75; // points
     const bool paper = point > 0;
     const double pixel = paper ? kPixel * point : 1;
@@ -203,16 +203,16 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
         QPen pen(colorOf(tone, paper), (line.width > 0 ? line.width : tone.width) * pixel);
         pen.setJoinStyle(Qt::RoundJoin);
         if (line.tone == Tone::Alternate) pen.setStyle(Qt::DashLine);
-        // The many lines of the ground are drawn without smoothing on the screen: a frame has 16 ms for them.
-        const bool ground = line.tone == Tone::Coast || line.tone == Tone::Border || line.tone == Tone::Grid;
-        painter.setRenderHint(QPainter::Antialiasing, paper || !ground || !drawing.worded);
-        painter.setPen(pen);
         QPolygonF points;
+        points.reserve(static_cast<qsizetype>(line.points.size()));
         for (const auto& p : line.points) points << place(p);
-        painter.drawPolyline(points);
+        painter.setPen(pen);
+        if (solid && pen.style() == Qt::SolidLine)
+            solid(points, pen);
+        else
+            painter.drawPolyline(points);
         if (line.tone == Tone::Route) words.keepOff(points);
     }
-    painter.setRenderHint(QPainter::Antialiasing);
     for (const auto& word : drawing.texts) {
         const ToneLook& tone = look(word.tone == Tone::Grid ? Tone::Level : word.tone);
         painter.setPen(colorOf(tone, paper));

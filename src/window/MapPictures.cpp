@@ -2,6 +2,7 @@
 
 #include "window/ChartView.h"
 #include "window/QtText.h"
+#include "window/SmoothLines.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
@@ -48,8 +49,12 @@ MapPicture drawnMap(const MapLook& look) {
     QPainter painter;
     if (out.image.isNull() || !painter.begin(&out.image)) return out;
     painter.scale(look.factor / look.ratio, look.factor / look.ratio);
-    drawDrawing(painter, QRectF(look.corner, QSizeF(look.size.width, look.size.height)), out.drawing,
-                look.font);
+    const QRectF box(look.corner, QSizeF(look.size.width, look.size.height));
+    const QTransform toPixels = QTransform::fromScale(look.factor, look.factor);
+    const QRect clip = toPixels.mapRect(box).toAlignedRect();
+    drawDrawing(painter, box, out.drawing, look.font, 0, [&](const QPolygonF& line, const QPen& pen) {
+        drawSmoothLine(out.image, clip, toPixels.map(line), pen.widthF() * look.factor, pen.color().rgb());
+    });
     return out;
 }
 

@@ -48,19 +48,16 @@ protected:
     }
     /// The map of now, drawn line by line onto an empty sheet.
     QImage drawn() {
-        const QFont font = stage().desk().skin().text("caption").font;
-        const QFontMetricsF metrics(font);
-        const map::Sheet sheet{
-            {map().width() - 4.0, map().height() - 4.0}, metrics.ascent(), [metrics](std::string_view word) {
-                return metrics.horizontalAdvance(
-                    QString::fromLatin1(word.data(), static_cast<qsizetype>(word.size())));
-            }};
-        QImage image(map().rect().size(), QImage::Format_RGB32);
-        image.fill(QColor(0x05, 0x07, 0x09));
-        QPainter painter(&image);
-        const Drawing lines = drawMap(routes().map.scene, map().sight(), sheet, routes().map.chosen);
-        window::drawDrawing(painter, QRectF(map().rect()).adjusted(2, 2, -2, -2), lines, font);
-        return image;
+        window::MapLook look;
+        look.size = {map().width() - 4.0, map().height() - 4.0};
+        look.corner = {2, 2};
+        look.pixels = map().rect().size();
+        look.font = stage().desk().skin().text("caption").font;
+        look.ground = QColor(0x05, 0x07, 0x09);
+        look.scene = std::make_shared<const MapScene>(routes().map.scene);
+        look.chosen = routes().map.chosen;
+        look.sight = map().sight();
+        return window::drawnMap(look).image;
     }
     QImage shown() { return map().grab().toImage().convertToFormat(QImage::Format_RGB32); }
     QRect inner() { return map().rect().adjusted(4, 4, -4, -4); }
