@@ -247,8 +247,14 @@ void Tour::career() {
     });
     visit(
         "career-import", f_.CareerForm, [] {}, [this] { stage_.click(f_.CareerForm.takeButton); });
+    then([this] {
+        stage_.click(f_.CareerForm.sourceTEXT);
+        stage_.key(Qt::Key_A, Qt::ControlModifier);
+        stage_.key(Qt::Key_Delete);
+        close();
+    });
     visit(
-        "career", f_.CareerForm, [] {}, [this] { close(); });
+        "career", f_.CareerForm, [this] { stage_.click(f_.MainForm.careerButton); }, [this] { close(); });
 }
 
 void Tour::settings() {
