@@ -15,10 +15,10 @@
 #include <string>
 
 // Frames of a map that is moved by hand, in software: milliseconds of the processor that each takes from the
-// thread of the window, the median and the longest. "drawn" makes the map anew for each of them, "moved" is
-// what the window does: 60 times a second it shows what was drawn beside its own work. The sheet is the whole
-// of a screen of 2560 by 1440 pixels, then the largest map that the program's windows have on it, and the
-// same at its own size.
+// thread of the window, the median and the longest. "drawn" makes the map anew for each of them, "moved" and
+// "zoomed" are what the window does: 60 times a second it shows what was drawn beside its own work. The sheet
+// is the whole of a screen of 2560 by 1440 pixels, then the largest map that the program's windows have on
+// it, and the same at its own size.
 
 namespace {
 
@@ -35,6 +35,7 @@ constexpr StandRow kStands[] = {{"2560 x 1440", {2560, 1440}, 1},
                                 {"routes at 100 %", {588, 232}, 1}};
 constexpr int kFrames = 120;
 constexpr double kWay = 23;         // pixels of the screen from frame to frame
+constexpr double kPinch = 1.04;     // of the scale from frame to frame
 constexpr double kFrameTime = 16.6; // milliseconds
 
 struct SceneRow {
@@ -77,12 +78,21 @@ QSize pixelsOf(const StandRow& stand) {
     return (QSizeF(stand.size.width, stand.size.height) * stand.factor).toSize();
 }
 
-/// The sights that a hand goes through.
-std::vector<MapSight> sightsOf(const SceneRow& row, const StandRow& stand) {
+/// The sights that a hand goes through as it drags the map.
+std::vector<MapSight> dragged(const SceneRow& row, const StandRow& stand) {
     std::vector<MapSight> out{{{row.latitude, row.longitude}, row.span}};
     const double way = kWay / stand.factor;
     for (int i = 0; i < kFrames; ++i)
         out.push_back(panned(out.back(), stand.size, way, i % 40 < 20 ? way : -way));
+    return out;
+}
+
+/// As two fingers draw it together and apart.
+std::vector<MapSight> pinched(const SceneRow& row, const StandRow& stand) {
+    std::vector<MapSight> out{{{row.latitude, row.longitude}, row.span}};
+    const SheetPoint about{stand.size.width / 3, stand.size.height / 3};
+    for (int i = 0; i < kFrames; ++i)
+        out.push_back(zoomed(out.back(), stand.size, i % 40 < 20 ? kPinch : 1 / kPinch, about));
     return out;
 }
 
@@ -102,7 +112,7 @@ void drawEach(const SceneRow& row, const StandRow& stand, const std::shared_ptr<
     look.scene = scene;
     const Sheet sheet = window::sheetOf(look);
     std::vector<double> drawn, whole;
-    for (const MapSight& sight : sightsOf(row, stand)) {
+    for (const MapSight& sight : dragged(row, stand)) {
         look.sight = sight;
         double before = milliseconds();
         (void)drawMap(*scene, sight, sheet);
@@ -115,12 +125,11 @@ void drawEach(const SceneRow& row, const StandRow& stand, const std::shared_ptr<
     print("  drawn", whole);
 }
 
-void move(const SceneRow& row, const StandRow& stand, const std::shared_ptr<const MapScene>& scene,
-          const QFont& font) {
+void move(const char* what, const std::vector<MapSight>& sights, const StandRow& stand,
+          const std::shared_ptr<const MapScene>& scene, const QFont& font) {
     QImage image(pixelsOf(stand), QImage::Format_RGB32);
     window::MapPane pane([] {});
     pane.stand(lookOf(stand, font));
-    const auto sights = sightsOf(row, stand);
     pane.show(scene, -1, sights.front());
     std::vector<double> times;
     for (const MapSight& sight : sights) {
@@ -137,8 +146,7 @@ void move(const SceneRow& row, const StandRow& stand, const std::shared_ptr<cons
         const double left = kFrameTime - (milliseconds(CLOCK_MONOTONIC) - began);
         if (left > 0) QThread::usleep(static_cast<unsigned long>(left * 1000));
     }
-    print("  moved", times);
-    std::printf("\n");
+    print(what, times);
 }
 
 } // namespace
@@ -155,11 +163,12 @@ int main(int argc, char** argv) {
         std::printf("%s\n", stand.name);
         for (const SceneRow& row : kScenes) {
             const auto scene = std::make_shared<const MapScene>(sceneOf(row, land));
-            (void)drawMap(*scene, sightsOf(row, stand).front(),
-                          {stand.size, 9, {}}); // the level is made once
+            (void)drawMap(*scene, dragged(row, stand).front(), {stand.size, 9, {}}); // the level is made once
             std::printf("%-20s", row.name);
             drawEach(row, stand, scene, font);
-            move(row, stand, scene, font);
+            move("  moved", dragged(row, stand), stand, scene, font);
+            move("  zoomed", pinched(row, stand), stand, scene, font);
+            std::printf("\n");
         }
     }
     return 0;
