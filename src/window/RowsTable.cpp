@@ -13,6 +13,7 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
+#include <algorithm>
 #include <cmath>
 
 namespace gatewise::window {
@@ -221,13 +222,15 @@ void RowsTable::paintEvent(QPaintEvent* event) {
     QTreeView::paintEvent(event);
 }
 
-/// In pixels of the layout; `top` is in those of the table.
+/// In pixels of the layout; `top` is in those of the table. What lies behind the scroll bar is no part of it.
 QRectF RowsTable::cell(int column, int top) const {
     const bool columns = control_.kind == Kind::ListView;
     const double factor = actor_.skin().zoom().factor;
-    const double x = (columns ? head_->sectionViewportPosition(column) : 0) / factor;
-    const double w = (columns ? head_->sectionSize(column) : viewport()->width()) / factor;
-    return {x + kCellLeft, top / factor, w - kCellPad, rowPixels() / factor};
+    const int x = columns ? head_->sectionViewportPosition(column) : 0;
+    const int right =
+        columns ? std::min(x + head_->sectionSize(column), viewport()->width()) : viewport()->width();
+    const double room = std::max(0.0, (right - x) / factor - kCellPad);
+    return {x / factor + kCellLeft, top / factor, room, rowPixels() / factor};
 }
 
 TextStyle RowsTable::style(int row) const {

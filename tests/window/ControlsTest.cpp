@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTest>
 #include <QToolTip>
 #include <QTreeView>
@@ -255,6 +256,22 @@ TEST_F(Controls, ACutRowIsShownWholeBesideThePointer) {
     EXPECT_EQ(QToolTip::text().toStdString(), whole);
     point(1);
     EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); })); // it fades
+}
+
+TEST_F(Controls, ATextEndsWithDotsBeforeTheScrollBar) {
+    auto& list = forms().CareerForm.totals;
+    open(*list.screen);
+    stage().desk().act([&] { list.rows.assign(40, {"", {"Aircraft", std::string(80, 'W')}, false}); });
+    auto* table = stage().widget(list).findChild<QAbstractItemView*>();
+    ASSERT_NE(table, nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return table->verticalScrollBar()->isVisible(); }));
+    ASSERT_GT(list.columns[0].width + list.columns[1].width, table->viewport()->width());
+    const QRect row = table->visualRect(table->model()->index(0, 0));
+    const QImage seen = table->viewport()->grab().toImage();
+    for (int x = seen.width() - 3; x < seen.width(); ++x) {
+        for (int y = row.top(); y <= row.bottom(); ++y)
+            EXPECT_EQ(seen.pixel(x, y), seen.pixel(2, y)) << x << ' ' << y;
+    }
 }
 
 TEST_F(Controls, AStandbyNoticeNeverTakesTheKeyboard) {
