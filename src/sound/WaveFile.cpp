@@ -16,7 +16,7 @@ bool hasTag(ByteView file, std::size_t offset, const char* tag) {
            std::memcmp(file.data() + offset, tag, 4) == 0;
 }
 
-bool readFormat(ByteView chunk, WaveSound& sound) {
+bool readFormat(ByteView chunk, WaveForm& sound) {
     const auto tag = numberAt<std::uint16_t>(chunk, 0);
     const auto channels = numberAt<std::uint16_t>(chunk, 2);
     const auto rate = numberAt<std::uint32_t>(chunk, 4);
@@ -33,27 +33,37 @@ bool readFormat(ByteView chunk, WaveSound& sound) {
 
 } // namespace
 
-std::optional<WaveSound> readWave(ByteView file) {
-    if (!hasTag(file, 0, "RIFF") || !hasTag(file, 8, "WAVE")) return std::nullopt;
-    WaveSound sound;
+std::optional<WaveHead> readWaveHead(ByteView beginning, std::uint64_t length) {
+    if (!hasTag(beginning, 0, "RIFF") || !hasTag(beginning, 8, "WAVE")) return std::nullopt;
+    length = std::max<std::uint64_t>(length, beginning.size()); // it may have grown while it was opened
+    WaveHead head;
     bool formatKnown = false;
-    for (std::size_t at = 12; at <= file.size() && file.size() - at >= kChunkHead;) {
-        const std::size_t claimed = *numberAt<std::uint32_t>(file, at + 4);
-        const std::size_t start = at + kChunkHead;
-        const ByteView chunk = file.subspan(start, std::min(claimed, file.size() - start));
-        if (hasTag(file, at, "fmt ")) {
-            formatKnown = readFormat(chunk, sound);
+    for (std::uint64_t at = 12; at <= beginning.size() && beginning.size() - at >= kChunkHead;) {
+        const std::uint64_t claimed = *numberAt<std::uint32_t>(beginning, at + 4);
+        const std::uint64_t start = at + kChunkHead;
+        const std::uint64_t size = std::min(claimed, length - start);
+        if (hasTag(beginning, at, "fmt ")) {
+            const ByteView chunk = beginning.subspan(start);
+            formatKnown = readFormat(chunk.first(std::min<std::uint64_t>(size, chunk.size())), head);
             if (!formatKnown) return std::nullopt;
-        } else if (hasTag(file, at, "data")) {
-            const std::size_t frame = std::size_t{sound.channels} * sound.bits / 8;
-            const std::size_t whole = chunk.size() - chunk.size() % frame;
-            if (!formatKnown || whole == 0) return std::nullopt;
-            sound.samples.assign(chunk.begin(), chunk.begin() + static_cast<std::ptrdiff_t>(whole));
-            return sound;
+        } else if (hasTag(beginning, at, "data")) {
+            head.start = start;
+            head.size = size - size % head.frameSize();
+            if (!formatKnown || head.size == 0) return std::nullopt;
+            return head;
         }
-        at = start + chunk.size() + (claimed & 1U); // chunks stand on even places
+        at = start + size + (claimed & 1U); // chunks stand on even places
     }
     return std::nullopt;
+}
+
+std::optional<WaveSound> readWave(ByteView file) {
+    const auto head = readWaveHead(file, file.size());
+    if (!head) return std::nullopt;
+    WaveSound sound{*head, {}};
+    const ByteView samples = file.subspan(head->start, head->size);
+    sound.samples.assign(samples.begin(), samples.end());
+    return sound;
 }
 
 } // namespace gatewise

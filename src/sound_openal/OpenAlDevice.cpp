@@ -14,6 +14,12 @@ constexpr std::chrono::milliseconds kPatience{400};
 
 } // namespace
 
+OpenAlDevice::OpenAlDevice(OpenAlRoad road)
+    : now_(road.now), output_(std::move(road)),
+      reader_([this](OpenAlReader::Sound sound, const OpenAlBuffers& buffers) {
+          take(std::move(sound), buffers);
+      }) {}
+
 OpenAlDevice::~OpenAlDevice() {
     close();
 }
@@ -32,19 +38,44 @@ SoundBuffer OpenAlDevice::add(OpenAlVoice voice) {
     catchUp();
     const auto buffer = static_cast<SoundBuffer>(++last_);
     OpenAlVoice& kept = voices_.emplace(buffer, std::move(voice)).first->second;
-    if (output_.ready()) attach(kept);
+    if (output_.ready()) give(kept);
     return buffer;
 }
 
 void OpenAlDevice::catchUp() {
     if (!output_.takeOver()) return;
     rest_.watch(output_.device());
-    const auto now = now_();
     for (auto& [buffer, voice] : voices_) {
-        attach(voice);
-        if (const auto frame = frameNow(voice, now)) startSources(voice, *frame);
+        give(voice);
+        comeIn(voice);
     }
     keepAwake();
+}
+
+void OpenAlDevice::give(OpenAlVoice& voice) {
+    const OpenAlSound& sound = *voice.sound;
+    if (sound.buffers[0] == 0 && !sound.path.empty())
+        reader_.order(voice.sound);
+    else
+        attach(voice);
+}
+
+void OpenAlDevice::comeIn(OpenAlVoice& voice) {
+    if (const auto frame = frameNow(voice, now_())) startSources(voice, *frame);
+}
+
+void OpenAlDevice::take(OpenAlReader::Sound sound, const OpenAlBuffers& buffers) {
+    const std::lock_guard lock(guard_);
+    const OpenAlReader::Sound read = std::move(sound); // let go of behind the guard
+    if (buffers[0] == 0) return;
+    for (auto& [buffer, voice] : voices_) {
+        if (voice.sound != read) continue;
+        read->buffers = buffers;
+        attach(voice);
+        comeIn(voice);
+    }
+    // Its voices have been released meanwhile.
+    if (read->buffers[0] == 0) alDeleteBuffers(2, buffers.data());
 }
 
 void OpenAlDevice::keepAwake() {
@@ -54,6 +85,8 @@ void OpenAlDevice::keepAwake() {
 }
 
 void OpenAlDevice::dropOutput() {
+    reader_.stop();
+    const std::lock_guard lock(guard_);
     rest_.release();
     if (output_.ready()) {
         for (auto& [buffer, voice] : voices_) stopSources(voice);
@@ -64,6 +97,7 @@ void OpenAlDevice::dropOutput() {
         for (auto& [buffer, voice] : voices_) {
             if (voice.sound->buffers[0] != 0) alDeleteBuffers(2, voice.sound->buffers.data());
             voice.sound->buffers = {};
+            voice.sound->ordered = false;
         }
     }
     output_.close();
@@ -73,6 +107,7 @@ bool OpenAlDevice::open() {
     if (output_.lost()) dropOutput();
     output_.begin();
     if (!std::exchange(waited_, true)) output_.settle(kPatience);
+    const std::lock_guard lock(guard_);
     catchUp();
     return true;
 }
@@ -84,18 +119,16 @@ void OpenAlDevice::close() {
 }
 
 SoundBuffer OpenAlDevice::load(const std::string& path) {
-    const auto file = files::readAll(path);
-    if (!file) return SoundBuffer::None;
-    auto wave = readWave(*file);
-    if (!wave) return SoundBuffer::None;
     OpenAlVoice voice;
-    voice.settings.frequency = wave->rate;
-    voice.sound = std::make_shared<OpenAlSound>();
-    voice.sound->wave = std::move(*wave);
+    voice.sound = openSound(path);
+    if (voice.sound == nullptr) return SoundBuffer::None;
+    voice.settings.frequency = voice.sound->wave.rate;
+    const std::lock_guard lock(guard_);
     return add(std::move(voice));
 }
 
 SoundBuffer OpenAlDevice::duplicate(SoundBuffer buffer) {
+    const std::lock_guard lock(guard_);
     const OpenAlVoice* voice = find(buffer);
     if (voice == nullptr) return SoundBuffer::None;
     OpenAlVoice copy = *voice;
@@ -105,6 +138,7 @@ SoundBuffer OpenAlDevice::duplicate(SoundBuffer buffer) {
 }
 
 void OpenAlDevice::release(SoundBuffer buffer) {
+    const std::lock_guard lock(guard_);
     catchUp();
     if (OpenAlVoice* voice = find(buffer); voice != nullptr) {
         if (output_.ready()) detach(*voice);
@@ -114,6 +148,7 @@ void OpenAlDevice::release(SoundBuffer buffer) {
 }
 
 void OpenAlDevice::play(SoundBuffer buffer, bool loop) {
+    const std::lock_guard lock(guard_);
     catchUp();
     OpenAlVoice* voice = find(buffer);
     if (voice == nullptr) return;
@@ -125,6 +160,7 @@ void OpenAlDevice::play(SoundBuffer buffer, bool loop) {
 }
 
 void OpenAlDevice::stop(SoundBuffer buffer) {
+    const std::lock_guard lock(guard_);
     catchUp();
     OpenAlVoice* voice = find(buffer);
     if (voice == nullptr) return;
@@ -134,18 +170,21 @@ void OpenAlDevice::stop(SoundBuffer buffer) {
 }
 
 void OpenAlDevice::setVolume(SoundBuffer buffer, std::int32_t volume) {
+    const std::lock_guard lock(guard_);
     catchUp();
     OpenAlVoice* voice = find(buffer);
     if (voice != nullptr && voice->settings.setVolume(volume)) applySettings(*voice);
 }
 
 void OpenAlDevice::setPan(SoundBuffer buffer, std::int32_t pan) {
+    const std::lock_guard lock(guard_);
     catchUp();
     OpenAlVoice* voice = find(buffer);
     if (voice != nullptr && voice->settings.setPan(pan)) applySettings(*voice);
 }
 
 void OpenAlDevice::setFrequency(SoundBuffer buffer, std::int32_t frequency) {
+    const std::lock_guard lock(guard_);
     catchUp();
     OpenAlVoice* voice = find(buffer);
     if (voice == nullptr) return;

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 // Newer than the oldest headers that this is built with.
 #ifndef AL_REMIX_UNMATCHED_SOFT
@@ -21,24 +22,17 @@ bool hasSources(const OpenAlVoice& voice) {
     return voice.sources[0] != 0;
 }
 
-bool makeBuffers(OpenAlSound& sound) {
-    if (sound.buffers[0] != 0) return true;
-    alGetError();
-    alGenBuffers(2, sound.buffers.data());
-    if (alGetError() != AL_NO_ERROR) {
-        sound.buffers = {};
-        return false;
-    }
-    const ALenum format = sound.wave.bits == 8 ? AL_FORMAT_STEREO8 : AL_FORMAT_STEREO16;
-    for (const Side side : {Side::Left, Side::Right}) {
-        const Bytes frames = oneSided(sound.wave, side);
-        alBufferData(sound.buffers[static_cast<std::size_t>(side)], format, frames.data(),
-                     static_cast<ALsizei>(frames.size()), sound.wave.rate);
-    }
-    if (alGetError() == AL_NO_ERROR) return true;
-    alDeleteBuffers(2, sound.buffers.data());
-    sound.buffers = {};
-    return false;
+/// Sample by sample: a compiler makes a fast loop of it that knows how wide one is.
+template<class Sample> Bytes oneSidedOf(const WaveSound& wave, Side side) {
+    constexpr std::size_t width = sizeof(Sample);
+    const std::size_t step = width * wave.channels;
+    const std::size_t frames = wave.samples.size() / step;
+    const std::size_t right = side == Side::Right ? 1 : 0;
+    const std::uint8_t* from = wave.samples.data() + (wave.channels == 2 ? right * width : 0);
+    Bytes out(frames * 2 * width, width == 1 ? kSilence8 : std::uint8_t{0});
+    std::uint8_t* to = out.data() + right * width;
+    for (std::size_t i = 0; i < frames; ++i) std::memcpy(to + i * 2 * width, from + i * step, width);
+    return out;
 }
 
 /// Each side straight to its loudspeaker, and the best conversion of rates that the library has: it is speech
@@ -55,15 +49,27 @@ void tune(ALuint source) {
 } // namespace
 
 Bytes oneSided(const WaveSound& wave, Side side) {
-    const std::size_t width = wave.bits / 8U;
-    const std::size_t frame = width * wave.channels;
-    const std::size_t frames = wave.samples.size() / frame;
-    const std::size_t right = side == Side::Right ? 1 : 0;
-    const std::size_t taken = wave.channels == 2 ? right * width : 0;
-    Bytes out(frames * 2 * width, wave.bits == 8 ? kSilence8 : std::uint8_t{0});
-    for (std::size_t i = 0; i < frames; ++i)
-        std::copy_n(wave.samples.data() + i * frame + taken, width, out.data() + (i * 2 + right) * width);
-    return out;
+    return wave.bits == 8 ? oneSidedOf<std::uint8_t>(wave, side) : oneSidedOf<std::uint16_t>(wave, side);
+}
+
+OpenAlBuffers makeBuffers(const WaveSound& wave) {
+    OpenAlBuffers buffers{};
+    alGenBuffers(2, buffers.data());
+    if (buffers[1] == 0) return {};
+    const ALenum format = wave.bits == 8 ? AL_FORMAT_STEREO8 : AL_FORMAT_STEREO16;
+    bool whole = true;
+    for (const Side side : {Side::Left, Side::Right}) {
+        const ALuint buffer = buffers[static_cast<std::size_t>(side)];
+        const Bytes frames = oneSided(wave, side);
+        alBufferData(buffer, format, frames.data(), static_cast<ALsizei>(frames.size()), wave.rate);
+        // Asked of the buffer: the library's last error may be that of another thread.
+        ALint size = 0;
+        alGetBufferi(buffer, AL_SIZE, &size);
+        whole = whole && static_cast<std::size_t>(size) == frames.size();
+    }
+    if (whole) return buffers;
+    alDeleteBuffers(2, buffers.data());
+    return {};
 }
 
 float sideGain(Side side, std::int32_t volume, std::int32_t pan) {
@@ -72,7 +78,10 @@ float sideGain(Side side, std::int32_t volume, std::int32_t pan) {
 }
 
 void attach(OpenAlVoice& voice) {
-    if (hasSources(voice) || !makeBuffers(*voice.sound)) return;
+    OpenAlSound& sound = *voice.sound;
+    if (hasSources(voice)) return;
+    if (sound.buffers[0] == 0 && !sound.wave.samples.empty()) sound.buffers = makeBuffers(sound.wave);
+    if (sound.buffers[0] == 0) return;
     alGetError();
     alGenSources(2, voice.sources.data());
     if (alGetError() != AL_NO_ERROR) {
@@ -81,7 +90,7 @@ void attach(OpenAlVoice& voice) {
     }
     for (std::size_t side = 0; side < 2; ++side) {
         tune(voice.sources[side]);
-        alSourcei(voice.sources[side], AL_BUFFER, static_cast<ALint>(voice.sound->buffers[side]));
+        alSourcei(voice.sources[side], AL_BUFFER, static_cast<ALint>(sound.buffers[side]));
     }
     applySettings(voice);
 }
@@ -127,11 +136,6 @@ void stopSources(const OpenAlVoice& voice) {
 
 namespace {
 
-std::int64_t framesOf(const OpenAlVoice& voice) {
-    const std::size_t frameSize = std::size_t{voice.sound->wave.channels} * voice.sound->wave.bits / 8;
-    return static_cast<std::int64_t>(voice.sound->wave.samples.size() / frameSize);
-}
-
 VoiceClock::duration timeOf(const OpenAlVoice& voice, std::int64_t frames) {
     const std::chrono::duration<double> seconds(static_cast<double>(frames) / voice.settings.frequency);
     return std::chrono::duration_cast<VoiceClock::duration>(seconds);
@@ -141,7 +145,7 @@ VoiceClock::duration timeOf(const OpenAlVoice& voice, std::int64_t frames) {
 
 std::optional<std::int64_t> frameNow(const OpenAlVoice& voice, VoiceClock::time_point now) {
     if (!voice.playing) return std::nullopt;
-    const auto length = framesOf(voice);
+    const auto length = voice.sound->frames;
     const double seconds = std::chrono::duration<double>(now - voice.started).count();
     const auto frame = static_cast<std::int64_t>(seconds * voice.settings.frequency);
     if (voice.loop) return frame % length;
@@ -155,7 +159,7 @@ VoiceClock::time_point startOf(const OpenAlVoice& voice, std::int64_t frame, Voi
 
 VoiceClock::time_point endOf(const OpenAlVoice& voice) {
     if (!voice.playing) return VoiceClock::time_point::min();
-    return voice.loop ? VoiceClock::time_point::max() : voice.started + timeOf(voice, framesOf(voice));
+    return voice.loop ? VoiceClock::time_point::max() : voice.started + timeOf(voice, voice.sound->frames);
 }
 
 } // namespace gatewise

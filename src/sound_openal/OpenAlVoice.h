@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <string>
 
 // A voice is one sound as it plays: two sources, one for each ear, each with a gain of its own. The position
 // of a source in space would let one side leak into the other; this way the far side is lowered exactly.
@@ -20,10 +21,15 @@ using VoiceClock = std::chrono::steady_clock;
 
 enum class Side : std::uint8_t { Left, Right };
 
+using OpenAlBuffers = std::array<ALuint, 2>; // by side, 0: none
+
 /// A wave file's sound, shared by a channel and its echoes, with the library's buffers once they are needed.
 struct OpenAlSound {
-    WaveSound wave;
-    std::array<ALuint, 2> buffers{}; // by side, 0: none
+    WaveSound wave;          // a long sound's without the samples
+    std::int64_t frames = 0; // of the sound
+    std::string path;        // a long sound's file; empty: the samples are here
+    bool ordered = false;    // a long sound is being read
+    OpenAlBuffers buffers{};
 };
 
 struct OpenAlVoice {
@@ -41,7 +47,11 @@ Bytes oneSided(const WaveSound& wave, Side side);
 /// Gain of a side under a volume and a pan in hundredths of a decibel.
 float sideGain(Side side, std::int32_t volume, std::int32_t pan);
 
-/// Gives the voice sources of the current context. Where the library has none to give, it stays silent.
+/// The library's buffers for a sound; none where it has no memory for them. On any thread.
+OpenAlBuffers makeBuffers(const WaveSound& wave);
+
+/// Gives the voice sources of the current context. Where the library has none to give, or
+/// the sound has no buffers and no samples to make them of, it stays silent.
 void attach(OpenAlVoice& voice);
 /// Takes the sources away, and the buffers when no other voice shares the sound.
 void detach(OpenAlVoice& voice);

@@ -48,6 +48,19 @@ TEST(WaveFile, SoundEndsWhereTheHeaderSaysInALongerFile) {
     EXPECT_EQ(readWave(file)->samples.size(), 2U);
 }
 
+TEST(WaveFile, HeadTellsWhereTheSamplesOfALongerFileLie) {
+    const Bytes file = waveOf({1, 2, 3, 4, 5, 6, 7}, 2, 22050, 16);
+    const auto head = readWaveHead(ByteView(file).first(44), file.size());
+    ASSERT_TRUE(head);
+    EXPECT_EQ(head->rate, 22050);
+    EXPECT_EQ(head->start, 44U);
+    EXPECT_EQ(head->size, 4U) << "whole frames";
+    for (std::size_t size = 0; size < 44; ++size)
+        EXPECT_FALSE(readWaveHead(ByteView(file).first(size), file.size())) << size;
+    EXPECT_FALSE(readWaveHead(ByteView(file).first(44), 44)) << "a file that ends before them";
+    EXPECT_EQ(readWaveHead(file, 1 << 20)->size, 4U) << "no more than it claims";
+}
+
 TEST(WaveFile, EveryShorterFileIsRefusedOrCutWithoutHarm) {
     const Bytes whole = waveOf({0x80, 0x81, 0x82});
     for (std::size_t size = 0; size <= whole.size(); ++size) {

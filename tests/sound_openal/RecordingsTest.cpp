@@ -79,6 +79,7 @@ TEST_F(Recordings, SentenceBehindThePageComesFromTheRight) {
 TEST_F(Recordings, AmbienceGoesRoundWithoutASilence) {
     engine.LoadWavToChannel(8, folder.path() + "\\Wavs\\Ambience.wav");
     engine.PlayDXSound(8, true);
+    ASSERT_TRUE(soon([&] { return !device.reading(); }));
     const auto ambience = readWave(folder.bytes("Wavs/Ambience.wav"));
     ASSERT_TRUE(ambience);
     const std::size_t second =
