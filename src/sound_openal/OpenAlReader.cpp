@@ -4,6 +4,7 @@
 #include "platform/InFile.h"
 
 #include <new>
+#include <optional>
 #include <system_error>
 #include <utility>
 
@@ -35,10 +36,14 @@ std::shared_ptr<OpenAlSound> openLong(const std::string& path) {
     return sound;
 }
 
+std::optional<WaveSound> readFile(const std::string& path) {
+    const auto file = files::readAll(path);
+    return file ? readWave(*file) : std::nullopt;
+}
+
 OpenAlBuffers buffersOf(const OpenAlSound& sound) {
     try {
-        const auto file = files::readAll(sound.path);
-        const auto wave = file ? readWave(*file) : std::nullopt;
+        const auto wave = readFile(sound.path);
         const WaveForm& form = sound.wave;
         if (wave && static_cast<const WaveForm&>(*wave) == form) return makeBuffers(*wave);
     } catch (const std::bad_alloc&) {
@@ -51,8 +56,7 @@ OpenAlBuffers buffersOf(const OpenAlSound& sound) {
 
 std::shared_ptr<OpenAlSound> openSound(const std::string& path) {
     if (auto sound = openLong(path)) return sound;
-    const auto file = files::readAll(path);
-    auto wave = file ? readWave(*file) : std::nullopt;
+    auto wave = readFile(path);
     if (!wave) return nullptr;
     const std::size_t size = wave->samples.size();
     return soundOf(std::move(*wave), size);
