@@ -35,6 +35,8 @@ public:
     [[nodiscard]] bool settled() const { return sharp_ && sharp_->look == look_; }
     /// Waits for no hand: draws it now.
     void settle();
+    /// Nothing is drawn beside the window's own work any more.
+    void finish() { pictures_.finish(); }
 
 private:
     using Picture = MapPictures::Picture;

@@ -58,7 +58,7 @@ MapPicture drawnMap(const MapLook& look) {
     return out;
 }
 
-MapPictures::~MapPictures() {
+void MapPictures::finish() {
     {
         const std::scoped_lock lock(guard_);
         next_.reset();

@@ -56,10 +56,12 @@ public:
 
     /// `ready` is told of each on the thread of the window.
     explicit MapPictures(std::function<void(Picture)> ready) : ready_(std::move(ready)) {}
-    ~MapPictures() override;
+    ~MapPictures() override { finish(); }
 
     /// The picture to draw next: of those that wait only the latest is drawn.
     void order(const MapLook& look);
+    /// Waits for what is being drawn; what was ordered and not begun is not drawn any more.
+    void finish();
 
 private:
     void work();

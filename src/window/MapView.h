@@ -24,6 +24,8 @@ public:
     /// The map itself, where what was drawn of it before is shown for a moment.
     void settle() { pane_.settle(); }
     [[nodiscard]] bool settled() const { return pane_.settled(); }
+    /// For a process that ends without unwinding: nothing is drawn beside it any more.
+    void finish() { pane_.finish(); }
 
 protected:
     bool event(QEvent* event) override;

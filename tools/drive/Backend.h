@@ -54,6 +54,9 @@ public:
     /// `screen` is what is looked at.
     [[nodiscard]] virtual std::optional<std::string> differs(const Control& control) = 0;
     [[nodiscard]] virtual std::optional<std::string> differs(const Screen& screen) = 0;
+
+    /// The process ends after this, without unwinding: nothing may go on beside it.
+    virtual void leave() {}
 };
 
 } // namespace gatewise::drive

@@ -88,6 +88,7 @@ void Session::finish() {
 
 void Session::endProcess() {
     out_.flush();
+    backend_.leave();
     std::exit(EXIT_SUCCESS);
 }
 

@@ -5,6 +5,7 @@
 #include "gtwindow/Lists.h"
 #include "gtwindow/Ranges.h"
 #include "input/UserEvents.h"
+#include "window/MapView.h"
 #include "window/PickView.h"
 #include "window/QtText.h"
 
@@ -236,6 +237,13 @@ std::optional<std::string> WindowBackend::differs(const Control& control) {
 
 std::optional<std::string> WindowBackend::differs(const Screen& screen) {
     return difference(window_.desk, screen);
+}
+
+/// A map that is still being drawn would outlive what it is drawn with.
+void WindowBackend::leave() {
+    for (QWidget* widget : QApplication::allWidgets()) {
+        if (auto* map = dynamic_cast<window::MapView*>(widget)) map->finish();
+    }
 }
 
 } // namespace gatewise::gtwindow

@@ -50,6 +50,7 @@ public:
     [[nodiscard]] std::string clipboard() const override;
     [[nodiscard]] std::optional<std::string> differs(const Control& control) override;
     [[nodiscard]] std::optional<std::string> differs(const Screen& screen) override;
+    void leave() override;
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;
