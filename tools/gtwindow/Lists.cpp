@@ -97,6 +97,8 @@ bool chooseItem(Pointer& pointer, const Control& combo, int item) {
     const QPoint at =
         list->viewport()->mapTo(list->window(), list->visualRect(list->currentIndex()).center());
     pointer.click({list->window()->windowHandle(), at});
+    // The item that was shown lies where the list was opened: so soon after that a click there says nothing.
+    if (list->isVisible()) Keyboard::press(Qt::Key_Return);
     return true;
 }
 
