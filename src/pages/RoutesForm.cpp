@@ -35,8 +35,9 @@ void pointOut(forms::RoutesForm& f, int row) {
 bool fillRoutes(Program& p) {
     auto& f = p.forms.RoutesForm;
     const auto list = destinations(p);
-    MapScene scene =
-        map::routesScene(p.session.schedule.tables, p.session.dispatch.DepartureIndex, list, shownLand(p));
+    // An airport that nobody serves may have been picked since: the flights are still those of the board.
+    const int from = p.session.board.BoardAirportIndex;
+    MapScene scene = map::routesScene(p.session.schedule.tables, from, list, shownLand(p));
     if (scene == f.map.scene && !f.routesList.rows.empty()) return true;
     const bool same = map::samePlaces(scene, f.map.scene);
     const int chosen = same ? f.map.chosen : -1;
