@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <iterator>
 #include <vector>
 
 namespace gatewise {
@@ -57,12 +58,79 @@ bool madeOf(std::string_view text, std::string_view signs) {
     });
 }
 
+/// 20020615 as 2002-06-15; anything else as it is.
+std::string withDashes(std::string_view word) {
+    if (!madeOf(word, "")) return std::string(word);
+    return joined({word.substr(0, 4), "-", word.substr(4, 2), "-", word.substr(6)});
+}
+
+/// The day of a date that was taken apart; years of two digits are those from 1970 to 2069.
+std::optional<double> serialOf(DateTime day) {
+    if (day.year >= 0 && day.year < 100) day.year += day.year < 70 ? 2000 : 1900;
+    if (day.year < 1900 || day.year > 9999 || day.month < 1 || day.month > 12 || day.day < 1 || day.day > 31)
+        return std::nullopt;
+    const auto serial = static_cast<double>(daySerial(day));
+    // The 31st of a short month is no day.
+    const auto back = calendarDay(serial);
+    if (!back || back->day != day.day || back->month != day.month) return std::nullopt;
+    return serial;
+}
+
+/// 1 to 12 for the English name of a month or its beginning, three letters at least; else 0.
+int monthOf(std::string_view word) {
+    constexpr std::string_view kMonths[] = {"january",   "february", "march",    "april",
+                                            "may",       "june",     "july",     "august",
+                                            "september", "october",  "november", "december"};
+    const std::string low = lowerCase(word);
+    for (std::size_t i = 0; low.size() >= 3 && i < std::size(kMonths); ++i) {
+        if (kMonths[i].starts_with(low)) return static_cast<int>(i) + 1;
+    }
+    return 0;
+}
+
+/// A date that has the name of its month, between or before the numbers of day and year.
+std::optional<DateTime> namedDate(std::string_view text) {
+    const auto letter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
+    const auto begin = std::find_if(text.begin(), text.end(), letter);
+    const auto end = std::find_if_not(begin, text.end(), letter);
+    const int month = monthOf({begin, end});
+    const std::vector<int> n = numbersOf(text);
+    if (month == 0 || n.size() < 2) return std::nullopt;
+    if (n[0] > 31) return DateTime{n[0], month, n[1]};
+    return DateTime{n[1], month, n[0]};
+}
+
+/// From UTF-16, the low byte first or last; what is no character becomes the replacement.
+std::string utf8FromUtf16(std::string_view bytes, bool lowFirst) {
+    std::string out;
+    char32_t high = 0; // the first half of a pair
+    for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
+        const auto first = static_cast<unsigned char>(bytes[at]);
+        const auto second = static_cast<unsigned char>(bytes[at + 1]);
+        const char32_t unit = lowFirst ? first | second << 8U : first << 8U | second;
+        const bool pair = high != 0 && unit >= 0xDC00 && unit < 0xE000;
+        if (high != 0 && !pair) appendUtf8(out, kReplacement);
+        const char32_t point = pair ? 0x10000 + ((high - 0xD800) << 10U) + (unit - 0xDC00) : unit;
+        high = unit >= 0xD800 && unit < 0xDC00 ? unit : 0;
+        if (high == 0) appendUtf8(out, point);
+    }
+    return out;
+}
+
 } // namespace
 
 std::string importedText(std::string_view bytes) {
+    if (bytes.starts_with("\xFF\xFE")) return textFromUtf8(utf8FromUtf16(bytes.substr(2), true));
+    if (bytes.starts_with("\xFE\xFF")) return textFromUtf8(utf8FromUtf16(bytes.substr(2), false));
     if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
     // What is no UTF-8 was written in single bytes.
     return isUtf8(bytes) ? textFromUtf8(bytes) : std::string(bytes);
+}
+
+void blankControls(std::string& cell) {
+    std::replace_if(
+        cell.begin(), cell.end(), [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; },
+        ' ');
 }
 
 std::string headerName(std::string_view cell) {
@@ -74,31 +142,20 @@ std::string headerName(std::string_view cell) {
 }
 
 std::optional<double> importedDate(std::string_view text, bool dayFirst) {
+    if (const auto named = namedDate(text)) return serialOf(*named);
     const std::string_view word = dateWord(text);
-    if (!madeOf(word, "-/.")) return std::nullopt;
-    const std::vector<int> n = numbersOf(word);
+    if (word.empty() || !isDigit(word.front()) || !madeOf(word, "-/.")) return std::nullopt;
+    const std::vector<int> n = numbersOf(word.size() == 8 ? withDashes(word) : std::string(word));
     if (n.size() != 3) return std::nullopt;
-    DateTime day;
     const bool pointed = word.find('.') != std::string_view::npos;
-    if (n[0] > 31)
-        day.year = n[0], day.month = n[1], day.day = n[2];
-    else if (dayFirst || pointed)
-        day.year = n[2], day.month = n[1], day.day = n[0];
-    else
-        day.year = n[2], day.month = n[0], day.day = n[1];
-    if (day.year >= 0 && day.year < 100) day.year += day.year < 70 ? 2000 : 1900;
-    if (day.year < 1900 || day.year > 9999 || day.month < 1 || day.month > 12 || day.day < 1 || day.day > 31)
-        return std::nullopt;
-    const auto serial = static_cast<double>(daySerial(day));
-    // The 31st of a short month is no day.
-    const auto back = calendarDay(serial);
-    if (!back || back->day != day.day || back->month != day.month) return std::nullopt;
-    return serial;
+    if (n[0] > 31) return serialOf({n[0], n[1], n[2]});
+    if (dayFirst || pointed) return serialOf({n[2], n[1], n[0]});
+    return serialOf({n[2], n[0], n[1]});
 }
 
 bool saysDayFirst(std::string_view text) {
     const std::string_view word = dateWord(text);
-    if (!madeOf(word, "/")) return false;
+    if (!madeOf(word, "/-")) return false;
     const std::vector<int> n = numbersOf(word);
     return n.size() == 3 && n[0] > 12 && n[0] <= 31;
 }
@@ -118,9 +175,9 @@ int importedTime(std::string_view text) {
 
 double importedHours(std::string_view text) {
     text = trimmed(text);
-    if (!madeOf(text, ":.,")) return 0;
+    if (!madeOf(text, ":+.,")) return 0;
     double hours = 0;
-    if (text.find(':') != std::string_view::npos) {
+    if (text.find_first_of(":+") != std::string_view::npos) {
         const std::vector<int> n = numbersOf(text);
         if (n.size() < 2 || n[0] < 0 || n[1] < 0) return 0;
         hours = n[0] + n[1] / 60.0;

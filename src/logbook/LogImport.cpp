@@ -1,5 +1,6 @@
 #include "logbook/LogImport.h"
 
+#include "logbook/AircraftTable.h"
 #include "logbook/ImportFields.h"
 #include "logbook/ImportHeaders.h"
 #include "logbook/SeparatedText.h"
@@ -40,12 +41,13 @@ bool isHeader(const Columns& c) {
     return c[kDate] >= 0 && ((c[kFrom] >= 0 && c[kTo] >= 0) || c[kRoute] >= 0);
 }
 
-/// Leaves the reader behind the header.
-std::optional<Columns> takeHeader(SeparatedText& table) {
+/// Leaves the reader behind the header; what stands before it may be a table of aircraft.
+std::optional<Columns> takeHeader(SeparatedText& table, AircraftTable& aircraft) {
     Cells cells;
     for (int row = 0; row < kMostHeadRows && table.next(cells); ++row) {
         const Columns columns = columnsOf(cells);
         if (isHeader(columns)) return columns;
+        aircraft.take(cells);
     }
     return std::nullopt;
 }
@@ -54,11 +56,7 @@ std::optional<Columns> takeHeader(SeparatedText& table) {
 class Line {
 public:
     Line(const Columns& columns, Cells& cells) : columns_(columns), cells_(cells) {
-        for (std::string& cell : cells_) {
-            for (char& c : cell) {
-                if (static_cast<unsigned char>(c) < ' ' || c == '\x7F') c = ' ';
-            }
-        }
+        for (std::string& cell : cells_) blankControls(cell);
     }
     [[nodiscard]] std::string_view operator[](Field field) const {
         const auto column = static_cast<std::size_t>(columns_[field]);
@@ -132,13 +130,14 @@ bool dayComesFirst(SeparatedText table, const Columns& columns) {
     return false;
 }
 
-void takeRows(SeparatedText table, const Columns& columns, LogTable& out) {
+void takeRows(SeparatedText table, const Columns& columns, const AircraftTable& aircraft, LogTable& out) {
     const bool dayFirst = dayComesFirst(table, columns);
     Cells cells;
     while (table.next(cells)) {
         out.cut = out.rows.size() == kMostLogRows;
         if (out.cut) return;
-        const auto entry = entryOf(Line(columns, cells), dayFirst);
+        auto entry = entryOf(Line(columns, cells), dayFirst);
+        if (entry) entry->aircraft = aircraft.typeOf(entry->aircraft.trimmed());
         out.rows.push_back(
             {static_cast<int>(out.rows.size()) + 1, entry.has_value(), entry.value_or(LogRecord())});
     }
@@ -163,10 +162,11 @@ LogTable readLogTable(std::string_view text) {
     const std::string whole = importedText(text);
     for (const char sign : {',', ';', '\t'}) {
         SeparatedText table(whole, sign);
-        const auto columns = takeHeader(table);
+        AircraftTable aircraft;
+        const auto columns = takeHeader(table, aircraft);
         if (!columns) continue;
         out.known = true;
-        takeRows(table, *columns, out);
+        takeRows(table, *columns, aircraft, out);
         break;
     }
     return out;

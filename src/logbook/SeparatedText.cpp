@@ -2,20 +2,26 @@
 
 namespace gatewise {
 
-std::string SeparatedText::takeCell() {
-    std::string cell;
-    if (!atEnd() && text_[at_] == '"') {
-        for (++at_; !atEnd(); ++at_) {
-            if (text_[at_] != '"') {
-                cell += text_[at_];
-            } else if (at_ + 1 < text_.size() && text_[at_ + 1] == '"') {
-                cell += text_[++at_];
-            } else {
-                ++at_;
-                break;
-            }
+/// What stands in quotes; false, and the reader only behind the quote, when they never end.
+bool SeparatedText::takeQuoted(std::string& cell) {
+    const std::size_t begin = ++at_;
+    for (; !atEnd(); ++at_) {
+        if (text_[at_] != '"') {
+            cell += text_[at_];
+        } else if (at_ + 1 < text_.size() && text_[at_ + 1] == '"') {
+            cell += text_[++at_];
+        } else {
+            ++at_;
+            return true;
         }
     }
+    at_ = begin;
+    return false;
+}
+
+std::string SeparatedText::takeCell() {
+    std::string cell;
+    if (!atEnd() && text_[at_] == '"' && !takeQuoted(cell)) cell.clear();
     while (!atEnd() && text_[at_] != sign_ && !atLineEnd()) cell += text_[at_++];
     return cell;
 }

@@ -10,8 +10,8 @@ namespace gatewise {
 inline constexpr std::size_t kMostCells = 500;
 
 /// Reads a table of text row by row: cells apart by `sign`; a cell with that sign, a quote or a line end
-/// stands in double quotes, a quote inside is doubled. A quote that never ends takes the rest of the text.
-/// Empty lines are left out.
+/// stands in double quotes, a quote inside is doubled. A quote that never ends is none: its cell ends where
+/// others do, and no row behind it is lost. Empty lines are left out.
 class SeparatedText {
 public:
     /// The text must live as long as the reader.
@@ -23,6 +23,7 @@ public:
 private:
     void takeRow(std::vector<std::string>& row);
     std::string takeCell();
+    bool takeQuoted(std::string& cell);
     [[nodiscard]] bool atEnd() const { return at_ >= text_.size(); }
     [[nodiscard]] bool atLineEnd() const { return text_[at_] == '\n' || text_[at_] == '\r'; }
 

@@ -86,6 +86,70 @@ TEST(LogImport, OtherLogBooksAreKnownByTheirHeaders) {
     }
 }
 
+/// Headers as those programs write them, in full, and the aircraft that each tells.
+TEST(LogImport, TheWholeHeadersOfOtherLogBooksAreKnown) {
+    struct Whole {
+        const char* text;
+        const char* aircraft;
+    };
+    const Whole all[] = {
+        {"flight_id,Date,Dept,Time Out,Dest,Time In ,Type,Registration,SP SE,SP ME,MP,Total,Name "
+         "PIC,Take-Off Day,"
+         "Landings Day,Take-Off Night,Landings Night,Night,IFR,PIC,SIC,Dual,FI,Sim Type,Time of "
+         "Session,Remarks\n"
+         "1,2002-06-15,KATL,07:40,KORD,09:10,Boeing "
+         "737-800,N1,,,02:00,02:00,self,1,1,0,0,00:30,00:18,02:00,,,,,,ok\n",
+         "Boeing 737-800"},
+        {"Date,Tail Number,Total Flight Time,Approaches,Hold,Landings,FS Day Landings,FS Night "
+         "Landings,X-Country,Night,"
+         "IMC,Simulated Instrument,Ground Simulator,Dual Received,CFI,SIC,PIC,Route,Block Out,Block "
+         "In,Comments\n"
+         "6/15/2002,N1,2,0,,1,1,0,2,0.5,0.2,0.1,,,,,2,KATL KORD,2002-06-15 07:40Z,2002-06-15 09:10Z,ok\n",
+         "N1"},
+        {"ForeFlight Logbook Import,This row is required.,,,\n,,,\nAircraft "
+         "Table,,,\nText,Text,Text,YYYY,Text,Text\n"
+         "AircraftID,EquipmentType,TypeCode,Year,Make,Model\nn1,aircraft,B738,2001,Boeing,737\n\nFlights "
+         "Table,,,\n"
+         "Date,Text,Text,Text,Text,hhmm,hhmm,Decimal,Decimal,Decimal,Text\n"
+         "Date,AircraftID,From,To,Route,TimeOut,TimeIn,TotalTime,Night,ActualInstrument,PilotComments\n"
+         "2002-06-15,N1,KATL,KORD,,07:40,09:10,2.0,0.5,0.3,ok\n",
+         "B738"},
+        {"flight_flightDate\tflight_flightNumber\tflight_from\tflight_to\tflight_actualDepartureTime\t"
+         "flight_actualArrivalTime\taircraft_aircraftID\taircraftType_type\tflight_totalTime\tflight_night\t"
+         "flight_ifr\tflight_remarks\n15 Jun "
+         "2002\t7\tKATL\tKORD\t07:40\t09:10\tN1\tB738\t2+00\t0+30\t0+18\tok\n",
+         "B738"},
+    };
+    for (const auto& [text, aircraft] : all) {
+        const LogImport log = importLog(text, {});
+        ASSERT_EQ(log.entries.size(), 1U) << aircraft;
+        const LogRecord& e = log.entries[0];
+        EXPECT_EQ(e.date, flight().date) << aircraft;
+        EXPECT_EQ(e.departureIcao.view(), "KATL") << aircraft;
+        EXPECT_EQ(e.arrivalIcao.view(), "KORD") << aircraft;
+        EXPECT_EQ(e.actualDeparture, 740) << aircraft;
+        EXPECT_EQ(e.actualArrival, 910) << aircraft;
+        EXPECT_NEAR(e.dayHours, 1.5, 1e-6) << aircraft;
+        EXPECT_NEAR(e.nightHours, 0.5, 1e-6) << aircraft;
+        EXPECT_NEAR(e.instrumentHours, 0.3, 1e-6) << aircraft;
+        EXPECT_EQ(e.aircraft.trimmed(), aircraft);
+        EXPECT_EQ(e.comments.trimmed(), "ok") << aircraft;
+    }
+}
+
+TEST(LogImport, AnAircraftWithoutACodeGoesByMakeAndModel) {
+    const auto type = [](const std::string& row) {
+        const LogImport log = importLog(
+            "AircraftID,TypeCode,Make,Model\n" + row + "\nDate,AircraftID,From,To\n2002-06-15,n2,A,B\n", {});
+        return std::string(log.entries.at(0).aircraft.trimmed());
+    };
+    EXPECT_EQ(type("N2,,Piper,PA-28"), "Piper PA-28");
+    EXPECT_EQ(type("N2,,,\"Cub\x01\""), "Cub");
+    EXPECT_EQ(type("N2,,,"), "n2") << "nothing is told of it";
+    EXPECT_EQ(type("N3,C172,,"), "n2") << "it is not in the table";
+    EXPECT_EQ(type("N2"), "n2") << "a row that breaks off";
+}
+
 TEST(LogImport, ATableOfSomethingElseIsNotKnown) {
     EXPECT_FALSE(importLog("a,b\n1,2\n", {}).known);
     EXPECT_FALSE(importLog("", {}).known);
@@ -113,6 +177,50 @@ TEST(LogImport, SlashesAreReadAsTheWholeFileHasThem) {
               static_cast<double>(daySerial({2002, 7, 6, 0, 0, 0})));
 }
 
+TEST(ImportFields, Dates) {
+    const auto june = static_cast<double>(daySerial({2002, 6, 15, 0, 0, 0}));
+    for (const char* text :
+         {"2002-06-15", "2002/6/15", "20020615", "15.06.2002", "06/15/2002", "06-15-02", "15 Jun 2002",
+          "15-Jun-02", "June 15, 2002", "2002-Jun-15", "15 june 2002 07:40", "2002-06-15T07:40:00Z"})
+        EXPECT_EQ(importedDate(text, false), june) << text;
+    EXPECT_EQ(importedDate("15-06-2002", true), june);
+    EXPECT_TRUE(saysDayFirst("15-06-2002"));
+    EXPECT_FALSE(saysDayFirst("2002-06-15"));
+    for (const char* text : {"", "-1-1-1", "2002-13-01", "2002-02-29", "00000000", "2002061", "200206150",
+                             "Jun 2002", "15 Ju 2002", "15 Junk 2002", "31 Jun 2002", "37422", "1-2", "a"})
+        EXPECT_FALSE(importedDate(text, false).has_value()) << text;
+}
+
+std::string utf16(std::string_view ascii, bool lowFirst) {
+    std::string out = lowFirst ? "\xFF\xFE" : "\xFE\xFF";
+    for (const char c : ascii) {
+        if (lowFirst)
+            out.append(1, c).append(1, '\0');
+        else
+            out.append(1, '\0').append(1, c);
+    }
+    return out;
+}
+
+TEST(LogImport, WhatASpreadsheetSavesAsUnicodeIsRead) {
+    for (const bool lowFirst : {true, false}) {
+        std::string text = utf16("date\tfrom\tto\tremarks\n2002-06-15\tKATL\tKORD\tok", lowFirst);
+        text += lowFirst ? std::string("\x3D\xD8\x00\xDE\x00\xD8!\x00", 8)
+                         : std::string("\xD8\x3D\xDE\x00\xD8\x00\x00!", 8);
+        const LogImport log = importLog(text + "\n", {}); // half a character at the end
+        ASSERT_EQ(log.entries.size(), 1U);
+        EXPECT_EQ(log.entries[0].departureIcao.view(), "KATL");
+        EXPECT_EQ(log.entries[0].comments.trimmed(), "ok?"
+                                                     "?!")
+            << "a pair, and half of one";
+    }
+    EXPECT_FALSE(importLog("\xFF\xFE", {}).known);
+    EXPECT_FALSE(importLog("\xFE\xFF"
+                           "a",
+                           {})
+                     .known);
+}
+
 TEST(LogImport, BothEncodingsAreRead) {
     const auto remark = [](const char* text) { return importLog(text, {}).entries.at(0).comments.str(); };
     EXPECT_EQ(remark("date,from,to,remarks\n2002-06-15,A,B,Z\xC3\xBCrich\n").substr(0, 6), "Z\xFCrich");
@@ -127,6 +235,8 @@ TEST(ImportFields, TimesAndHours) {
     EXPECT_EQ(importedTime("7"), -1);
     EXPECT_EQ(importedTime(""), -1);
     EXPECT_NEAR(importedHours("1:30"), 1.5, 1e-9);
+    EXPECT_NEAR(importedHours("1+30"), 1.5, 1e-9);
+    EXPECT_EQ(importedHours("+"), 0);
     EXPECT_NEAR(importedHours("1,5"), 1.5, 1e-9);
     EXPECT_EQ(importedHours("-1"), 0);
     EXPECT_EQ(importedHours("1e99"), 0);
@@ -154,6 +264,14 @@ TEST(SeparatedText, QuotesLineEndsAndEmptyCells) {
     EXPECT_EQ(rowsOf("\"a", ',')[0][0], "a");
     EXPECT_TRUE(rowsOf("", ',').empty());
     EXPECT_TRUE(rowsOf("\n\r\n", ',').empty());
+}
+
+TEST(SeparatedText, AQuoteThatNeverEndsLosesNoRow) {
+    const auto rows = rowsOf("a,\"b\nc,d\n\"\",\"\"\"\"\n", ',');
+    ASSERT_EQ(rows.size(), 3U);
+    EXPECT_EQ(rows[0], (std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(rows[1], (std::vector<std::string>{"c", "d"}));
+    EXPECT_EQ(rows[2], (std::vector<std::string>{"", "\""}));
 }
 
 TEST(SeparatedText, OfARowWithoutEndTheFirstCellsAreRead) {
