@@ -1,5 +1,6 @@
 #include "plan/PlanCharts.h"
 
+#include "plan/ProfileSheet.h"
 #include "platform/Numbers.h"
 
 #include <algorithm>
@@ -12,33 +13,6 @@ namespace gatewise {
 namespace {
 
 constexpr double kDegree = std::numbers::pi / 180;
-
-// Room around the drawn part of the sheet.
-constexpr double kLeft = 0.09, kRight = 0.97, kTop = 0.08, kBottom = 0.88;
-
-Tone toneOf(const Plan& plan, int i) {
-    if (i == 0 || i == plan.planLast) return Tone::Airport;
-    switch (plan.at(i).kind()) {
-    case PointKind::TopOfClimb:
-    case PointKind::TopOfDescent:
-        return Tone::Top;
-    case PointKind::StepClimb:
-    case PointKind::StepDescent:
-        return Tone::Step;
-    default:
-        return Tone::Fix;
-    }
-}
-
-bool drawable(const Plan& plan) {
-    if (plan.planLast < 1 || !(plan.totalDistance > 0)) return false;
-    for (int i = 0; i <= plan.planLast; ++i) {
-        const PlanPoint& p = plan.at(i);
-        if (!std::isfinite(p.pointLatitude) || !std::isfinite(p.pointLongitude)) return false;
-        if (std::fabs(p.pointLatitude) > 90) return false;
-    }
-    return true;
-}
 
 /// A round step that parts `range` into at most `parts`.
 double roundStep(double range, int parts) {
@@ -64,16 +38,9 @@ void addMark(Drawing& drawing, const DrawingPoint& at, Tone tone, std::string_vi
 template<class Place> void addMarks(Drawing& drawing, const Plan& plan, Place place) {
     for (const Tone tone : {Tone::Airport, Tone::Top, Tone::Step, Tone::Fix}) {
         for (int i = 0; i <= plan.planLast; ++i) {
-            if (toneOf(plan, i) == tone) addMark(drawing, place(i), tone, plan.at(i).pointName.trimmed());
+            if (pointTone(plan, i) == tone) addMark(drawing, place(i), tone, plan.at(i).pointName.trimmed());
         }
     }
-}
-
-/// Feet at which a point is drawn; the airports stand on the ground, whatever level the table shows there.
-double altitudeAt(const Plan& plan, int i) {
-    if (i == 0) return plan.departureAirport.Elevation;
-    if (i == plan.planLast) return plan.destinationAirport.Elevation;
-    return plan.at(i).pointAltitude;
 }
 
 std::string summaryOf(const Plan& plan) {
@@ -85,41 +52,20 @@ std::string summaryOf(const Plan& plan) {
 
 } // namespace
 
-namespace {
-
-/// The sheet of a profile: its length in miles and the feet at its upper edge.
-struct ProfileSheet {
-    explicit ProfileSheet(const Plan& plan) : length(static_cast<double>(plan.totalDistance)) {
-        for (int i = 0; i <= plan.planLast; ++i) highest = std::max(highest, altitudeAt(plan, i));
-        highest *= 1.1;
-    }
-    [[nodiscard]] DrawingPoint operator()(double miles, double feet) const {
-        return {kLeft + (kRight - kLeft) * std::clamp(miles / length, 0.0, 1.0),
-                kBottom - (kBottom - kTop) * std::clamp(feet / highest, -0.05, 1.0)};
-    }
-    [[nodiscard]] DrawingPoint operator()(const Plan& plan, int i) const {
-        return (*this)(static_cast<double>(plan.at(i).pointTotalDistance), altitudeAt(plan, i));
-    }
-    double length;
-    double highest = 10000;
-};
-
-} // namespace
-
 Drawing profileDrawing(const Plan& plan) {
     Drawing out;
-    if (!drawable(plan)) return out;
+    if (!isDrawable(plan)) return out;
     const ProfileSheet place(plan);
     const double length = place.length;
     const double highest = place.highest;
     const double feetStep = std::max(roundStep(highest, 5), 1000.0);
     for (double feet = 0; feet <= highest; feet += feetStep) {
         out.lines.push_back({{place(0, feet), place(length, feet)}, Tone::Grid});
-        out.texts.push_back({{kLeft - 0.01, place(0, feet).y}, formatNumber("000", feet / 100), true});
+        out.texts.push_back({{kProfileLeft - 0.01, place(0, feet).y}, formatNumber("000", feet / 100), true});
     }
     const double milesStep = roundStep(length, 6);
     for (double miles = 0; miles <= length; miles += milesStep) {
-        out.texts.push_back({{place(miles, 0).x, kBottom + 0.07}, formatNumber("#####0", miles)});
+        out.texts.push_back({{place(miles, 0).x, kProfileBottom + 0.07}, formatNumber("#####0", miles)});
     }
     DrawingLine profile{{}, Tone::Route};
     for (int i = 0; i <= plan.planLast; ++i) {
@@ -129,87 +75,6 @@ Drawing profileDrawing(const Plan& plan) {
     out.lines.push_back(std::move(profile));
     addMarks(out, plan, [&](int i) { return points[static_cast<std::size_t>(i)]; });
     out.summary = "Vertical profile, " + summaryOf(plan);
-    return out;
-}
-
-namespace {
-
-constexpr int kTimeSteps[] = {5, 10, 15, 30, 60, 120, 180}; // minutes
-constexpr int kMostTimes = 8;
-constexpr int kLongest = 48 * 60;     // minutes of a flight, beyond which no time stands there
-constexpr double kLongLevel = 0.12;   // share of the way that a level with a word of its own lasts
-constexpr double kTimesAt = kTop / 2; // height of the times on the sheet
-
-std::string timeText(int minutes) {
-    return std::to_string(minutes / 60) + ":" + formatInteger("00", minutes % 60);
-}
-
-/// The way flown after so many minutes, between the points that have a time.
-double milesAt(const Plan& plan, int minutes) {
-    for (int i = 1; i <= plan.planLast; ++i) {
-        const PlanPoint& from = plan.at(i - 1);
-        const PlanPoint& to = plan.at(i);
-        if (to.pointMinutes < minutes || to.pointMinutes <= from.pointMinutes) continue;
-        const double share = static_cast<double>(minutes - from.pointMinutes) /
-                             static_cast<double>(to.pointMinutes - from.pointMinutes);
-        return static_cast<double>(from.pointTotalDistance) +
-               std::clamp(share, 0.0, 1.0) *
-                   static_cast<double>(to.pointTotalDistance - from.pointTotalDistance);
-    }
-    return static_cast<double>(plan.totalDistance);
-}
-
-/// Hours and minutes along the upper edge.
-void addTimes(Drawing& out, const Plan& plan, const ProfileSheet& place) {
-    const int last = plan.at(plan.planLast).pointMinutes;
-    if (last < 1 || last > kLongest) return;
-    const int* step = std::find_if(std::begin(kTimeSteps), std::end(kTimeSteps) - 1,
-                                   [&](int s) { return last / s <= kMostTimes; });
-    for (int minutes = *step; minutes <= last; minutes += *step) {
-        const double x = place(milesAt(plan, minutes), 0).x;
-        out.lines.push_back({{{x, kTop}, {x, kTop + 0.02}}, Tone::Level});
-        out.texts.push_back({{x, kTimesAt}, timeText(minutes), false, Tone::Level});
-    }
-}
-
-/// The level that is held between two points, once for each.
-void addLevels(Drawing& out, const Plan& plan, const ProfileSheet& place) {
-    int said = -1;
-    for (int i = 2; i < plan.planLast; ++i) {
-        const PlanPoint& from = plan.at(i - 1);
-        const PlanPoint& to = plan.at(i);
-        const double length = static_cast<double>(to.pointTotalDistance - from.pointTotalDistance);
-        if (from.pointAltitude != to.pointAltitude || to.pointAltitude == said) continue;
-        if (!(length > kLongLevel * place.length)) continue;
-        said = to.pointAltitude;
-        const DrawingPoint at = place(static_cast<double>(from.pointTotalDistance) + length / 2, said);
-        out.texts.push_back(
-            {{at.x, at.y + 0.07}, "FL" + formatInteger("000", said / 100), false, Tone::Level});
-    }
-}
-
-} // namespace
-
-std::string pointWords(const Plan& plan, int i) {
-    constexpr std::string_view kNoFrequency = "000.00";
-    const PlanPoint& point = plan.at(i);
-    std::string out(point.pointName.trimmed());
-    const auto description = point.pointDescription.trimmed();
-    if (!description.empty()) out.append(" ").append(description);
-    const auto frequency = point.pointFrequency.trimmed();
-    if (!frequency.empty() && frequency != kNoFrequency) out.append(", ").append(frequency);
-    return out + ", " + formatNumber("#####0", altitudeAt(plan, i)) + " ft, " +
-           timeText(std::max<int>(point.pointMinutes, 0));
-}
-
-Drawing profileNotes(const Plan& plan) {
-    Drawing out;
-    if (!drawable(plan)) return out;
-    const ProfileSheet place(plan);
-    addLevels(out, plan, place);
-    addTimes(out, plan, place);
-    for (int i = 0; i <= plan.planLast; ++i)
-        out.marks.push_back({place(plan, i), toneOf(plan, i), "", i, pointWords(plan, i)});
     return out;
 }
 
@@ -359,7 +224,7 @@ void addGrid(Drawing& out, const Projection& projection, const Window& window) {
 
 Drawing mapDrawing(const Plan& plan) {
     Drawing out;
-    if (!drawable(plan)) return out;
+    if (!isDrawable(plan)) return out;
     const Vector first = pointVector(plan.at(0));
     const Vector last = pointVector(plan.at(plan.planLast));
     const Projection projection(between(first, last, 0.5));

@@ -93,6 +93,34 @@ TEST(ProfileNotes, ALevelIsSaidOnceForEachStretch) {
     EXPECT_EQ(textsOf(profileNotes(plan)), "FL310 ");
 }
 
+/// Twenty legs of one level, none of them long: it stands once, in the middle of all.
+TEST(ProfileNotes, ALevelOfManyShortLegsIsSaidInTheirMiddle) {
+    Plan plan = flown(40, -80, -70);
+    plan.planLast = 22;
+    for (int i = 0; i <= 22; ++i) {
+        plan.at(i) = plan.at(0);
+        plan.at(i).pointAltitude = 41000;
+        plan.at(i).pointTotalDistance = 600 * static_cast<float>(i) / 22;
+    }
+    const Drawing notes = profileNotes(plan);
+    ASSERT_EQ(textsOf(notes), "FL410 ");
+    const auto points = route(profileDrawing(plan)).points;
+    EXPECT_NEAR(notes.texts[0].at.x, (points[1].x + points[21].x) / 2, 1e-6);
+    for (int i = 4; i < 22; ++i) plan.at(i).pointAltitude = i % 2 == 0 ? 33000 : 35000;
+    EXPECT_EQ(textsOf(profileNotes(plan)), "") << "no level lasts";
+}
+
+TEST(ProfileNotes, AComputedPointHasNoFrequency) {
+    Plan plan = flown(40, -80, -70);
+    for (const char* type : {"TC", "TD", "SU", "SD"}) {
+        plan.at(1).pointType = type;
+        plan.at(1).pointFrequency = "112.70";
+        EXPECT_EQ(pointWords(plan, 1), "*TOC*, 33000 ft, 0:00") << type;
+    }
+    plan.at(1).pointType = "V ";
+    EXPECT_EQ(pointWords(plan, 1), "*TOC*, 112.70, 33000 ft, 0:00");
+}
+
 TEST(ProfileNotes, APlanWithoutLengthOrTimesHasNone) {
     EXPECT_TRUE(profileNotes(Plan()).marks.empty());
     EXPECT_EQ(textsOf(profileNotes(flown(40, -80, -70))), "");
