@@ -9,13 +9,34 @@
 
 namespace gatewise {
 
+namespace {
+
+/// The alternate of the flight, as the list names it. The plan itself has the one of its making: none that
+/// was picked since, and that of an earlier flight where this one has none.
+PlanAirport namedAlternate(const Session& s) {
+    if (s.dispatch.HaveAlternate == kFalse) return {};
+    const AirportRecord& airport = s.schedule.tables.airport(s.dispatch.AlternateIndex);
+    const PlanAirport& made = s.plan.plan.alternateAirport;
+    if (made.Icao == airport.Icao) return made;
+    PlanAirport out;
+    out.Icao = airport.Icao;
+    out.Name = airport.Name.view();
+    out.Latitude = airport.Latitude;
+    out.Longitude = airport.Longitude;
+    return out;
+}
+
+} // namespace
+
 void drawCharts(Program& p) {
     auto& f = p.forms.PlanCharts;
     const Plan& plan = p.session.plan.plan;
     f.profileChart.drawing = profileDrawing(plan);
     f.profileChart.further = profileNotes(plan);
     f.mapChart.drawing = mapDrawing(plan);
-    f.mapChart.scene = map::planScene(plan, f.mapChart.scene.land);
+    Plan shown = plan;
+    shown.alternateAirport = namedAlternate(p.session);
+    f.mapChart.scene = map::planScene(shown, f.mapChart.scene.land);
     f.mapChart.further = wholeScene(f.mapChart);
     markPoint(p);
 }
