@@ -159,6 +159,14 @@ void drawMark(QPainter& painter, const QPointF& at, Tone kind, double radius, co
     }
 }
 
+/// A rim of the ground around a word: in high contrast the lines below it are as bright as it is.
+void drawRim(QPainter& painter, const QPointF& at, const QString& word, double pixel) {
+    painter.setPen(colorOf(look(Tone::Water), false));
+    for (const double x : {-pixel, 0.0, pixel}) {
+        for (const double y : {-pixel, 0.0, pixel}) painter.drawText(at + QPointF(x, y), word);
+    }
+}
+
 template<class Place> void drawAreas(QPainter& painter, const Drawing& drawing, Place place, bool paper) {
     painter.setPen(Qt::NoPen);
     painter.setRenderHint(QPainter::Antialiasing, paper);
@@ -174,6 +182,27 @@ template<class Place> void drawAreas(QPainter& painter, const Drawing& drawing, 
         painter.fillPath(path, colorOf(look(area.tone), paper));
     }
     painter.setRenderHint(QPainter::Antialiasing);
+}
+
+/// The words that have their places already; those of marks keep off them.
+template<class Place>
+void drawTexts(QPainter& painter, const Drawing& drawing, Place place, double pixel, bool paper,
+               const QFontMetricsF& metrics, Words& words) {
+    for (const auto& word : drawing.texts) {
+        const ToneLook& tone = look(word.tone == Tone::Grid ? Tone::Level : word.tone);
+        const QString text = toQt(word.text);
+        QPointF at = place(word.at);
+        at.ry() += metrics.ascent() * 0.36;
+        if (word.leftOf)
+            at.rx() -= metrics.horizontalAdvance(text);
+        else
+            at.rx() -= metrics.horizontalAdvance(text) / 2;
+        if (drawing.worded && !paper && highContrast()) drawRim(painter, at, text, 1.5 * pixel);
+        painter.setPen(colorOf(tone, paper));
+        painter.drawText(at, text);
+        words.keepOff(
+            QRectF(at.x(), at.y() - metrics.ascent(), metrics.horizontalAdvance(text), metrics.ascent()));
+    }
 }
 
 } // namespace
@@ -213,20 +242,7 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
             painter.drawPolyline(points);
         if (line.tone == Tone::Route) words.keepOff(points);
     }
-    for (const auto& word : drawing.texts) {
-        const ToneLook& tone = look(word.tone == Tone::Grid ? Tone::Level : word.tone);
-        painter.setPen(colorOf(tone, paper));
-        const QString text = toQt(word.text);
-        QPointF at = place(word.at);
-        at.ry() += metrics.ascent() * 0.36;
-        if (word.leftOf)
-            at.rx() -= metrics.horizontalAdvance(text);
-        else
-            at.rx() -= metrics.horizontalAdvance(text) / 2;
-        painter.drawText(at, text);
-        words.keepOff(
-            QRectF(at.x(), at.y() - metrics.ascent(), metrics.horizontalAdvance(text), metrics.ascent()));
-    }
+    drawTexts(painter, drawing, place, pixel, paper, metrics, words);
     for (const auto& mark : drawing.marks) {
         const ToneLook& tone = look(mark.tone);
         const QPointF at = place(mark.at);

@@ -136,6 +136,34 @@ TEST_F(Contrast, AKeyUnderTheMouseStillLooksLit) {
     play();
 }
 
+/// A map whose coasts cover it all: its word has a dark rim in high contrast, and is on paper what it was.
+TEST_F(Contrast, AWordOfAMapStandsOutFromTheLinesBelow) {
+    then([&] {
+        Drawing drawing;
+        drawing.worded = true;
+        for (int i = 0; i <= 40; ++i) {
+            const double y = i / 40.0;
+            drawing.lines.push_back({{{0, y}, {1, y}}, Tone::Coast, 3});
+        }
+        drawing.texts.push_back({{0.5, 0.5}, "KATL", false, Tone::Airport});
+        const auto painted = [&](double point) {
+            QImage picture(80, 40, QImage::Format_RGB32);
+            picture.fill(Qt::gray);
+            QPainter painter(&picture);
+            window::drawDrawing(painter, picture.rect(), drawing, QFont(), point);
+            painter.end();
+            return countsOf(picture, picture.rect());
+        };
+        const auto ground = [&] { return painted(0)[qRgb(0, 0, 0)]; };
+        const auto paper = painted(1);
+        EXPECT_EQ(ground(), 0);
+        stage().window.display.chooseSkin(SkinChoice::HighContrast);
+        EXPECT_GT(ground(), 40) << "as much as letters have edges";
+        EXPECT_EQ(painted(1), paper);
+    });
+    play();
+}
+
 TEST_F(Contrast, ChartsHaveStrongerColoursOnTheScreenAndTheSamePaper) {
     then([&] {
         DrawingLine line;
