@@ -1,6 +1,7 @@
 #include "map/Labels.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace gatewise::map {
@@ -27,6 +28,21 @@ bool cuts(const Box& box, double x1, double y1, double x2, double y2) {
     };
     return cut(x1, x2 - x1, box.left, box.left + box.width) &&
            cut(y1, y2 - y1, box.top, box.top + box.height);
+}
+
+/// Above, below, right, left, then the corners.
+std::array<Box, 8> boxesBeside(double x, double y, double radius, double wordWidth, double wordHeight) {
+    const double gap = radius + kGap;
+    return {{
+        {x - wordWidth / 2, y - gap - wordHeight, wordWidth, wordHeight},
+        {x - wordWidth / 2, y + gap, wordWidth, wordHeight},
+        {x + gap + 1, y - wordHeight / 2, wordWidth, wordHeight},
+        {x - gap - 1 - wordWidth, y - wordHeight / 2, wordWidth, wordHeight},
+        {x + radius, y + gap, wordWidth, wordHeight},
+        {x - radius - wordWidth, y + gap, wordWidth, wordHeight},
+        {x + radius, y - gap - wordHeight, wordWidth, wordHeight},
+        {x - radius - wordWidth, y - gap - wordHeight, wordWidth, wordHeight},
+    }};
 }
 
 } // namespace
@@ -86,19 +102,8 @@ bool Labels::crosses(const Box& box) const {
 }
 
 std::optional<Box> Labels::place(double x, double y, double radius, double wordWidth, double wordHeight) {
-    const double gap = radius + kGap;
-    const Box places[] = {
-        {x - wordWidth / 2, y - gap - wordHeight, wordWidth, wordHeight},
-        {x - wordWidth / 2, y + gap, wordWidth, wordHeight},
-        {x + gap + 1, y - wordHeight / 2, wordWidth, wordHeight},
-        {x - gap - 1 - wordWidth, y - wordHeight / 2, wordWidth, wordHeight},
-        {x + radius, y + gap, wordWidth, wordHeight},
-        {x - radius - wordWidth, y + gap, wordWidth, wordHeight},
-        {x + radius, y - gap - wordHeight, wordWidth, wordHeight},
-        {x - radius - wordWidth, y - gap - wordHeight, wordWidth, wordHeight},
-    };
     std::optional<Box> second;
-    for (const Box& box : places) {
+    for (const Box& box : boxesBeside(x, y, radius, wordWidth, wordHeight)) {
         if (!isFree(box)) continue;
         if (!crosses(box)) {
             keepOff(box);
@@ -108,6 +113,16 @@ std::optional<Box> Labels::place(double x, double y, double radius, double wordW
     }
     if (second) keepOff(*second);
     return second;
+}
+
+std::optional<Box> Labels::placeOffLines(double x, double y, double radius, double wordWidth,
+                                         double wordHeight) {
+    for (const Box& box : boxesBeside(x, y, radius, wordWidth, wordHeight)) {
+        if (!isFree(box) || crosses(box)) continue;
+        keepOff(box);
+        return box;
+    }
+    return std::nullopt;
 }
 
 } // namespace gatewise::map

@@ -30,6 +30,8 @@ public:
     /// The box for a word beside a mark of `radius` at (x, y): above, below, right, left, then the corners;
     /// off the lines where it can be; nothing when there is no free place inside the sheet.
     std::optional<Box> place(double x, double y, double radius, double wordWidth, double wordHeight);
+    /// The same, but nothing where it would lie upon a line.
+    std::optional<Box> placeOffLines(double x, double y, double radius, double wordWidth, double wordHeight);
 
 private:
     struct Edge {

@@ -5,6 +5,7 @@
 #include "platform/Numbers.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace gatewise::map {
@@ -14,6 +15,7 @@ namespace {
 constexpr std::size_t kRoutesOfWords = 24; // above this words need not keep off the routes
 constexpr double kMarkRadius = 4;          // pixels
 constexpr double kLeastRunway = 5;         // pixels
+constexpr double kNamedRunway = 60;        // pixels, from there on with its name
 
 struct GridRow {
     double span; // degrees, up to which the step holds
@@ -78,8 +80,12 @@ public:
         for (const auto& strip : strips) {
             const auto a = view_.place(vectorOf(strip.from));
             const auto b = view_.place(vectorOf(strip.to));
-            if (!a || !b || std::hypot(a->x - b->x, a->y - b->y) < kLeastRunway) continue;
+            const double length = a && b ? std::hypot(a->x - b->x, a->y - b->y) : 0;
+            if (length < kLeastRunway) continue;
             out_.lines.push_back({{unitPoint(*a), unitPoint(*b)}, Tone::Runway});
+            if (length < kNamedRunway) continue;
+            labels_.keepOffLine(a->x, a->y, b->x, b->y);
+            runways_.push_back({{SheetPoint{(a->x + b->x) / 2, (a->y + b->y) / 2}, *a, *b}, strip.name});
         }
     }
 
@@ -207,6 +213,21 @@ private:
             if (nameLeg(leg, airway.name)) return;
         }
     }
+    struct Runway {
+        std::array<SheetPoint, 3> spots; // middle and ends
+        std::string name;
+    };
+    /// Beside the runway where there is room, else not at all: upon lines of its own colour none could read
+    /// it.
+    void nameRunway(const Runway& runway) {
+        for (const SheetPoint& spot : runway.spots) {
+            const auto box =
+                labels_.placeOffLines(spot.x, spot.y, 1, sheet_.widthOf(runway.name), sheet_.wordHeight);
+            if (!box) continue;
+            addText(*box, runway.name, Tone::Runway);
+            return;
+        }
+    }
     void mark(const MapPlace& place, int chosen) {
         const auto at = view_.place(vectorOf(place.at));
         if (!at || at->x < 0 || at->y < 0 || at->x > sheet_.size.width || at->y > sheet_.size.height) return;
@@ -230,6 +251,9 @@ public:
     void legNames() {
         for (Airway& airway : airways_) nameAirway(airway);
     }
+    void runwayNames() {
+        for (const Runway& runway : runways_) nameRunway(runway);
+    }
 
 private:
     View view_;
@@ -239,6 +263,7 @@ private:
     Clipper clipper_;
     Labels labels_;
     std::vector<Airway> airways_;
+    std::vector<Runway> runways_; // that are long enough for their names
 };
 
 double squareTo(const SheetSize& size, const DrawingPoint& a, const DrawingPoint& b) {
@@ -275,6 +300,7 @@ Drawing drawMap(const MapScene& scene, const MapSight& sight, const Sheet& sheet
     painter.bar();
     painter.places(scene.places, chosen);
     painter.legNames();
+    painter.runwayNames();
     return out;
 }
 

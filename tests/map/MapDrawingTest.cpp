@@ -3,6 +3,7 @@
 #include "map/Labels.h"
 
 #include <algorithm>
+#include <cmath>
 #include <gtest/gtest.h>
 
 namespace gatewise::map {
@@ -163,6 +164,25 @@ TEST(Map, RunwaysAreSeenFromNearOnly) {
     };
     EXPECT_EQ(strips(0.2), 1U);
     EXPECT_EQ(strips(60), 0U);
+}
+
+TEST(Map, FromNearARunwayHasItsNameAndNoOtherLiesUponIt) {
+    MapScene s = scene({place("KATL", 33.64, -84.43)});
+    s.strips = {{{33.63, -84.43}, {33.65, -84.43}, "18/36"}};
+    const auto words = [&](double span) {
+        std::vector<DrawingText> out;
+        for (const DrawingText& text : drawMap(s, {{33.64, -84.43}, span}, sheet(400, 400)).texts) {
+            if (text.text == "18/36" || text.text == "KATL") out.push_back(text);
+        }
+        return out;
+    };
+    ASSERT_EQ(words(1).size(), 1U) << "too short for its name";
+    const auto near = words(0.1);
+    ASSERT_EQ(near.size(), 2U);
+    EXPECT_EQ(near[1].text, "18/36");
+    EXPECT_EQ(near[1].tone, Tone::Runway);
+    // The runway leads up and down through the middle: both words stand beside it.
+    for (const DrawingText& word : near) EXPECT_GT(std::fabs(word.at.x - 0.5), 0.02) << word.text;
 }
 
 TEST(Map, TheBarIsARoundNumberOfMiles) {
