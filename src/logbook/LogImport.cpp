@@ -100,12 +100,18 @@ bool hasAirport(const FixedText<4>& icao, const FixedText<35>& name) {
     return !icao.trimmed().empty() || !name.trimmed().empty();
 }
 
+/// First and last airport of a route; a route of one code is a flight around it.
+std::pair<std::string, std::string> endsOf(std::string_view route) {
+    const bool code = (route.size() == 3 || route.size() == 4) && headerName(route).size() == route.size();
+    return code ? std::pair(std::string(route), std::string(route)) : routeEnds(route);
+}
+
 std::optional<LogRecord> entryOf(const Line& line, bool dayFirst) {
     LogRecord entry;
     const auto date = importedDate(line[kDate], dayFirst);
     const bool ends = line[kFrom].empty() && line[kFromName].empty() && line[kTo].empty();
     const auto [from, to] =
-        ends ? routeEnds(line[kRoute]) : std::pair(std::string(line[kFrom]), std::string(line[kTo]));
+        ends ? endsOf(line[kRoute]) : std::pair(std::string(line[kFrom]), std::string(line[kTo]));
     fillAirport(from, line[kFromName], entry.departureIcao, entry.departureName);
     fillAirport(to, line[kToName], entry.arrivalIcao, entry.arrivalName);
     if (!date || !hasAirport(entry.departureIcao, entry.departureName) ||

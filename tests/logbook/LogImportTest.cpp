@@ -137,6 +137,16 @@ TEST(LogImport, TheWholeHeadersOfOtherLogBooksAreKnown) {
     }
 }
 
+TEST(LogImport, ARouteOfOneCodeIsAFlightAroundIt) {
+    const LogImport log =
+        importLog("date,route\n2002-06-15,KATL\n2002-06-15,practice\n2002-06-15,K-L\n2002-06-16,\n", {});
+    ASSERT_EQ(log.entries.size(), 2U);
+    EXPECT_EQ(log.entries[0].departureIcao.view(), "KATL");
+    EXPECT_EQ(log.entries[0].arrivalIcao.view(), "KATL");
+    EXPECT_EQ(log.entries[1].arrivalIcao.trimmed(), "L") << "two words of one letter each";
+    EXPECT_EQ(log.unread, 2);
+}
+
 TEST(LogImport, AnAircraftWithoutACodeGoesByMakeAndModel) {
     const auto type = [](const std::string& row) {
         const LogImport log = importLog(
