@@ -3,6 +3,7 @@
 #include "map/RoutesMap.h"
 #include "map/Sight.h"
 #include "pages/Maps.h"
+#include "pages/MsgForm.h"
 #include "pages/Pictures.h"
 #include "pages/Placement.h"
 #include "pages/SelectForm.h"
@@ -68,11 +69,13 @@ Waited takeRoute(Program& p, int row) {
 
 } // namespace
 
-void showRoutes(Program& p) {
-    if (p.session.schedule.DepartureFlights.empty()) return;
+Waited showRoutes(Program& p) {
+    if (p.session.schedule.DepartureFlights.empty())
+        return ShowMessage(p, Heading::Warning, Message::NoFlights);
     fillRoutes(p);
     pointOut(p.forms.RoutesForm, -1);
     showScreen(p, p.forms.RoutesForm);
+    return waited(p);
 }
 
 void bindRoutesForm(Program& p) {

@@ -5,7 +5,8 @@
 namespace gatewise {
 
 /// "routes": the destinations of the departure airport, by the day and the airline that the board has.
-void showRoutes(Program& p);
+/// Without any flight that is told instead.
+Waited showRoutes(Program& p);
 
 void bindRoutesForm(Program& p);
 
