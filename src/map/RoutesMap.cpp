@@ -28,6 +28,11 @@ void takeNext(Destination& destination, int time, int now) {
     if (destination.next < 0 || wait(time) < wait(destination.next)) destination.next = time;
 }
 
+/// "1 flight", "12 flights".
+std::string counted(int count, const char* one) {
+    return std::to_string(count) + one + (count == 1 ? "" : "s");
+}
+
 MapSpot airportSpot(const AirportRecord& airport) {
     return {static_cast<double>(airport.Latitude), static_cast<double>(airport.Longitude)};
 }
@@ -75,8 +80,7 @@ std::string nextText(const Destination& destination) {
 
 std::string destinationText(const Destination& destination) {
     std::string text = destination.city + ", " + std::to_string(destination.miles) + " miles, " +
-                       std::to_string(destination.flights) +
-                       (destination.flights == 1 ? " flight today" : " flights today");
+                       counted(destination.flights, " flight") + " today";
     if (destination.next >= 0) text += ", next " + nextText(destination);
     return text;
 }
@@ -114,8 +118,8 @@ MapScene routesScene(const Tables& tables, int from, const std::vector<Destinati
     // The thick ones lie above.
     std::reverse(scene.routes.begin(), scene.routes.end());
     scene.summary = "Routes of " + std::string(origin->Icao.trimmed()) + ": " +
-                    std::to_string(destinations.size()) + " destinations, " + std::to_string(flights) +
-                    " flights today";
+                    counted(static_cast<int>(destinations.size()), " destination") + ", " +
+                    counted(flights, " flight") + " today";
     return scene;
 }
 

@@ -112,6 +112,13 @@ TEST(RoutesScene, TheMoreFlightsTheThicker) {
     EXPECT_TRUE(routesScene(world, 9, list, nullptr).places.empty()) << "an airport that does not exist";
 }
 
+TEST(RoutesScene, OneIsSaidAsOne) {
+    const Tables world = tables();
+    const auto list = destinationsOf(world, {kFlights[0]}, {kMonday, "", 800});
+    EXPECT_EQ(routesScene(world, 0, list, nullptr).summary, "Routes of KAAA: 1 destination, 1 flight today");
+    EXPECT_EQ(routesScene(world, 0, {}, nullptr).summary, "Routes of KAAA: 0 destinations, 0 flights today");
+}
+
 TEST(RoutesScene, AMarkIsFoundUnderThePointer) {
     const Tables world = tables();
     const MapScene scene = routesScene(world, 0, destinationsOf(world, kFlights, {}), nullptr);
