@@ -4,6 +4,7 @@
 #include "plan/PlanCharts.h"
 #include "platform/Numbers.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace gatewise::map {
@@ -59,7 +60,12 @@ void addAlternate(const Plan& plan, MapScene& scene) {
     const auto code = alternate.Icao.trimmed();
     const MapSpot at{static_cast<double>(alternate.Latitude), static_cast<double>(alternate.Longitude)};
     if (code.empty() || !onEarth(at.latitude, at.longitude)) return;
-    scene.routes.push_back({{pointSpot(plan.at(plan.planLast)), at}, Tone::Alternate, 0, "", -1, {}});
+    const MapSpot end = pointSpot(plan.at(plan.planLast));
+    if (at == end) return;
+    scene.routes.push_back({{end, at}, Tone::Alternate, 0, "", -1, {}});
+    // Where the flight turns back to an airport of its own, that one stays what it is.
+    if (std::any_of(scene.places.begin(), scene.places.end(), [&](const MapPlace& p) { return p.at == at; }))
+        return;
     scene.places.push_back({at, Tone::Alternate, std::string(code),
                             std::string(code) + " " + std::string(alternate.Name.trimmed()) + ", alternate",
                             -1});

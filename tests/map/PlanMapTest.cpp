@@ -99,6 +99,23 @@ TEST(PlanScene, TheAlternateHasALegOfItsOwn) {
     EXPECT_EQ(planScene(with, nullptr).routes.size(), 1U);
 }
 
+TEST(PlanScene, AnAlternateThatThePlanHasAlreadyHasNoPlaceOfItsOwn) {
+    Plan with = plan();
+    const std::size_t places = planScene(with, nullptr).places.size();
+    with.alternateAirport.Icao = "KAAA";
+    with.alternateAirport.Latitude = with.at(0).pointLatitude;
+    with.alternateAirport.Longitude = with.at(0).pointLongitude;
+    MapScene scene = planScene(with, nullptr);
+    EXPECT_EQ(scene.routes.size(), 2U) << "the way back";
+    EXPECT_EQ(scene.places.size(), places);
+    EXPECT_EQ(placeOf(scene, 0).tone, Tone::Airport);
+    with.alternateAirport.Latitude = with.at(with.planLast).pointLatitude;
+    with.alternateAirport.Longitude = with.at(with.planLast).pointLongitude;
+    scene = planScene(with, nullptr);
+    EXPECT_EQ(scene.routes.size(), 1U) << "there is no way to where the flight ends";
+    EXPECT_EQ(scene.places.size(), places);
+}
+
 RunwayRecord runway(const char* id, float latitude, float longitude, float heading) {
     RunwayRecord out;
     out.runwayId = id;
