@@ -52,6 +52,7 @@ View* ScreenWindow::view(const Control& control) const {
 void ScreenWindow::sync() {
     if (isEnabled() != screen_.enabled) setEnabled(screen_.enabled);
     for (View* view : views_.all) view->sync();
+    if (View* held = viewOf(focusWidget())) walk_.leaveEmptyRow(*held);
     View* now = isActiveWindow() ? viewOf(focusWidget()) : nullptr;
     const bool pressed = byMouse_ && dynamic_cast<PaintedView*>(now) != nullptr &&
                          now->widget()->focusProxy() == nullptr; // a key that the mouse lit already
