@@ -2,6 +2,7 @@
 
 #include "input/UserEvents.h"
 #include "window/Drawing.h"
+#include "window/Fields.h"
 #include "window/QtText.h"
 #include "window/ScreenNames.h"
 #include "window/Skin.h"
@@ -81,7 +82,16 @@ void ScreenWindow::place() {
 // ------------------------------------------------------------------------------------------------ keyboard
 
 bool ScreenWindow::focusNextPrevChild(bool next) {
-    return walk_.step(viewOf(focusWidget()), next);
+    View* from = viewOf(focusWidget());
+    const bool lost = from != nullptr && !from->widget()->isVisible(); // it went, nobody left it
+    const bool went = walk_.step(from, next);
+    if (lost) givenByWindow();
+    return went;
+}
+
+/// What the keyboard is in now is no choice of the pilot's.
+void ScreenWindow::givenByWindow() {
+    if (auto* line = dynamic_cast<LineView*>(focusWidget())) line->givenByWindow();
 }
 
 void ScreenWindow::focusFirst() {
@@ -90,6 +100,7 @@ void ScreenWindow::focusFirst() {
         wanted->widget()->setFocus(Qt::TabFocusReason);
     else
         walk_.first();
+    givenByWindow();
 }
 
 void ScreenWindow::focusMoved(QWidget* now) {

@@ -202,8 +202,39 @@ TEST_F(Search, CopiesTheBoardThePassAndARowOfThePlan) {
     play();
 }
 
+TEST_F(Search, WhatAFieldMarksByItselfDoesNotStandBeforeTheScreen) {
+    const auto field = [&]() -> auto& {
+        return dynamic_cast<QLineEdit&>(stage().widget(main().departureText));
+    };
+    then([&] {
+        ASSERT_EQ(stage().focused(), &main().departureText);
+        ASSERT_TRUE(field().hasSelectedText()) << "else this tests nothing";
+        stage().key(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_TRUE(clipboard().contains("FLIGHT\tDEPARTING TO"));
+        stage().doubleClick(main().city_LABEL(3));
+    });
+    then([&] {
+        ASSERT_TRUE(main().main_pic.visible);
+        stage().key(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_TRUE(clipboard().contains("Flight\t")) << "the pass";
+        ASSERT_TRUE(stage().tabTo(main().viewButton));
+        ASSERT_TRUE(stage().tabTo(main().departureText));
+        stage().key(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(clipboard(), "KATL") << "the pilot came to it";
+        field().deselect();
+        stage().key(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_TRUE(clipboard().contains("Flight\t"));
+        stage().key(Qt::Key_End);
+        stage().key(Qt::Key_Left, Qt::ShiftModifier);
+        stage().key(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(clipboard(), "L");
+    });
+    play();
+}
+
 TEST_F(Search, AMarkedTextOfAFieldIsCopiedBeforeTheScreen) {
     then([&] {
+        ASSERT_TRUE(stage().tabTo(main().switchButton(0)));
         ASSERT_TRUE(stage().tabTo(main().departureText)); // which marks its text
         stage().key(Qt::Key_C, Qt::ControlModifier);
         EXPECT_EQ(clipboard(), "KATL");
