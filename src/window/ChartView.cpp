@@ -58,6 +58,16 @@ QColor colorOf(const ToneLook& look, bool paper) {
     return paper ? look.paper : highContrast() ? look.strong : look.screen;
 }
 
+/// In high contrast the coasts are as bright as the words: these stand on a ground of their own.
+void drawWord(QPainter& painter, const QPointF& at, const QString& word, const QColor& ink, bool paper) {
+    if (!paper && highContrast()) {
+        const QRectF box = QFontMetricsF(painter.font(), painter.device()).tightBoundingRect(word);
+        painter.fillRect(box.translated(at).adjusted(-1, -1, 1, 1), Qt::black);
+    }
+    painter.setPen(ink);
+    painter.drawText(at, word);
+}
+
 /// Finds room for the words of a chart: beside their mark, off each other and, where it can be, off the
 /// route.
 class Words {
@@ -215,7 +225,6 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
     }
     for (const auto& word : drawing.texts) {
         const ToneLook& tone = look(word.tone == Tone::Grid ? Tone::Level : word.tone);
-        painter.setPen(colorOf(tone, paper));
         const QString text = toQt(word.text);
         QPointF at = place(word.at);
         at.ry() += metrics.ascent() * 0.36;
@@ -223,7 +232,7 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
             at.rx() -= metrics.horizontalAdvance(text);
         else
             at.rx() -= metrics.horizontalAdvance(text) / 2;
-        painter.drawText(at, text);
+        drawWord(painter, at, text, colorOf(tone, paper), paper);
         words.keepOff(
             QRectF(at.x(), at.y() - metrics.ascent(), metrics.horizontalAdvance(text), metrics.ascent()));
     }
@@ -240,8 +249,7 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
         const QString word = toQt(mark.label);
         const auto at = words.place(place(mark.at), tone.radius * pixel, word);
         if (word.isEmpty() || !at) continue;
-        painter.setPen(colorOf(tone, paper));
-        painter.drawText(*at, word);
+        drawWord(painter, *at, word, colorOf(tone, paper), paper);
     }
     painter.restore();
 }

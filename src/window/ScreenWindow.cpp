@@ -41,6 +41,8 @@ void ScreenWindow::takeSizes() {
     setFixedSize(zoom().size(size_));
     for (View* view : views_.all) view->takePlace();
     ring_->surround({});
+    // Each by itself: grounds cover the window, and what lies below them is not painted, nor they with it.
+    for (QWidget* part : findChildren<QWidget*>()) part->update();
     update();
 }
 
