@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
@@ -66,6 +67,22 @@ TEST_F(Search, TypingNarrowsThePickerAndEscapeWidensIt) {
         stage().key(Qt::Key_Escape);
     });
     then([&] { EXPECT_FALSE(forms().SelectForm.visible); });
+    play();
+}
+
+TEST_F(Search, ALetterThatNoLineHasIsNamed) {
+    const auto sign = [&] { return list().findChild<QLabel*>()->text(); };
+    openPicker();
+    then([&] {
+        stage().type("#");
+        EXPECT_EQ(sign(), "No line has \"#\".");
+        stage().type("mi");
+        EXPECT_EQ(sign(), "Only: mi  Esc shows all lines.");
+        stage().type("#");
+        EXPECT_EQ(sign(), "Only: mi  No line has \"mi#\".");
+        stage().key(Qt::Key_Escape);
+        stage().key(Qt::Key_Escape);
+    });
     play();
 }
 
