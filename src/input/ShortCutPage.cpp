@@ -9,7 +9,8 @@ namespace {
 
 /// Words of a keyboard for the names among programmers.
 constexpr std::pair<const char*, const char*> kKeyNames[] = {
-    {"PgUp", "Page Up"}, {"PgDown", "Page Down"}, {"Return", "Enter"}, {"Up", "&uarr;"}, {"Left", "&larr;"}};
+    {"PgUp", "Page Up"}, {"PgDown", "Page Down"}, {"Return", "Enter"}, {"Up", "&uarr;"},
+    {"Left", "&larr;"},  {"Right", "&rarr;"},     {"Plus", "&#43;"}};
 
 /// "<kbd>Ctrl</kbd> + <kbd>P</kbd>"
 std::string keyCell(std::string_view keys) {

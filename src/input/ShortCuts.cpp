@@ -102,6 +102,8 @@ constexpr ShortCut kShortCuts[] = {
     {"Space", "Everywhere", "Ticks a box. In the list of flights it shows all about the marked flight."},
     {"Up", "Everywhere", "Moves in lists and choices, as Down does."},
     {"Left", "Fly options", "Moves the fuel slider by one per cent, as Right does."},
+    {"Right", "Maps", "Moves the map, as the other arrows do."},
+    {"Plus", "Maps", "Brings the map nearer. Minus takes it away, F shows all of it."},
 };
 
 struct HelpRow {

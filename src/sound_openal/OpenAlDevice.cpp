@@ -61,7 +61,15 @@ void OpenAlDevice::give(OpenAlVoice& voice) {
 }
 
 void OpenAlDevice::comeIn(OpenAlVoice& voice) {
-    if (const auto frame = frameNow(voice, now_())) startSources(voice, *frame);
+    if (const auto frame = frameNow(voice, now_()))
+        start(voice, *frame);
+    else
+        stopSources(voice);
+}
+
+void OpenAlDevice::start(OpenAlVoice& voice, std::int64_t frame) {
+    voice.rests = rest_.resting() ? -1 : rest_.rests();
+    startSources(voice, frame);
 }
 
 void OpenAlDevice::take(OpenAlReader::Sound sound, const OpenAlBuffers& buffers) {
@@ -156,7 +164,7 @@ void OpenAlDevice::play(SoundBuffer buffer, bool loop) {
     voice->loop = loop;
     voice->started = now_();
     keepAwake();
-    startSources(*voice, 0);
+    start(*voice, 0);
 }
 
 void OpenAlDevice::stop(SoundBuffer buffer) {
@@ -173,7 +181,14 @@ void OpenAlDevice::setVolume(SoundBuffer buffer, std::int32_t volume) {
     const std::lock_guard lock(guard_);
     catchUp();
     OpenAlVoice* voice = find(buffer);
-    if (voice != nullptr && voice->settings.setVolume(volume)) applySettings(*voice);
+    if (voice == nullptr) return;
+    const bool before = heard(*voice);
+    if (!voice->settings.setVolume(volume)) return;
+    applySettings(*voice);
+    if (heard(*voice) == before) return;
+    keepAwake();
+    const bool heldUp = voice->playing && voice->rests != rest_.rests(); // by a rest while nobody heard it
+    if (!before && heldUp) comeIn(*voice);
 }
 
 void OpenAlDevice::setPan(SoundBuffer buffer, std::int32_t pan) {

@@ -42,7 +42,7 @@ public:
 
     /// The outside, for tests that render it.
     [[nodiscard]] const OpenAlOutput& output() const { return output_; }
-    /// Whether the mixer stands still because nothing plays.
+    /// Whether the mixer stands still because nothing is to be heard.
     [[nodiscard]] bool resting() const { return rest_.resting(); }
     /// How often the thread that sends it to rest has looked at the time: a rest costs none.
     [[nodiscard]] int turnsOfRest() const { return rest_.turns(); }
@@ -58,9 +58,10 @@ private:
     void catchUp();
     /// Gives the voice its sources, or orders the sound for which it takes them.
     void give(OpenAlVoice& voice);
-    /// A voice that plays goes on where it would be.
+    /// A voice that plays goes on where it would be, one that has run out ends.
     void comeIn(OpenAlVoice& voice);
-    /// Tells the mixer how long there is something to play.
+    void start(OpenAlVoice& voice, std::int64_t frame);
+    /// Tells the mixer how long there is something to hear.
     void keepAwake();
 
     // These take it.

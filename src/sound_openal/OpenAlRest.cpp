@@ -63,6 +63,11 @@ bool OpenAlRest::resting() const {
     return resting_;
 }
 
+int OpenAlRest::rests() const {
+    const std::lock_guard lock(mutex_);
+    return rests_;
+}
+
 int OpenAlRest::turns() const {
     const std::lock_guard lock(mutex_);
     return turns_;
@@ -87,6 +92,7 @@ void OpenAlRest::run() {
         } else if (!changed_.wait_until(lock, wanted + kTail, [&] { return over_ || end_ != wanted; })) {
             deviceFunction<void(ALCdevice*)>(device_, "alcDevicePauseSOFT")(device_);
             resting_ = true;
+            ++rests_;
         }
     }
 }

@@ -9,7 +9,7 @@
 
 namespace gatewise {
 
-/// Lets the mixer of a device rest while there is nothing to play: mixing silence costs processor time for as
+/// Lets the mixer of a device rest while there is nothing to hear: mixing silence costs processor time for as
 /// long as the program runs. The mixer is woken by the next sound and sent to rest on a thread of its own
 /// when the last one has run out. A device whose library cannot rest mixes on.
 class OpenAlRest {
@@ -34,6 +34,8 @@ public:
     void playUntil(Time end);
 
     [[nodiscard]] bool resting() const;
+    /// How many times the mixer was sent to rest.
+    [[nodiscard]] int rests() const;
     /// How often the thread has looked whether it is time; while the mixer rests it does not.
     [[nodiscard]] int turns() const;
 
@@ -47,6 +49,7 @@ private:
     std::thread thread_;
     Time end_{};
     int turns_ = 0;
+    int rests_ = 0;
     bool resting_ = false;
     bool over_ = false;
 };

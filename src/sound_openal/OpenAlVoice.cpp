@@ -72,6 +72,11 @@ OpenAlBuffers makeBuffers(const WaveSound& wave) {
     return {};
 }
 
+bool heard(const OpenAlVoice& voice) {
+    constexpr std::int32_t kSilent = -9000; // the last of 16 bits
+    return voice.settings.volume > kSilent;
+}
+
 float sideGain(Side side, std::int32_t volume, std::int32_t pan) {
     const std::int32_t lowered = side == Side::Left ? std::max(pan, 0) : std::max(-pan, 0);
     return static_cast<float>(std::pow(10.0, (volume - lowered) / 2000.0));
@@ -158,7 +163,7 @@ VoiceClock::time_point startOf(const OpenAlVoice& voice, std::int64_t frame, Voi
 }
 
 VoiceClock::time_point endOf(const OpenAlVoice& voice) {
-    if (!voice.playing) return VoiceClock::time_point::min();
+    if (!voice.playing || !heard(voice)) return VoiceClock::time_point::min();
     return voice.loop ? VoiceClock::time_point::max() : voice.started + timeOf(voice, voice.sound->frames);
 }
 

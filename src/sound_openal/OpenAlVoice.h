@@ -39,7 +39,11 @@ struct OpenAlVoice {
     bool loop = false;
     VoiceClock::time_point started{};
     std::array<ALuint, 2> sources{}; // by side, 0: none
+    int rests = 0;                   // of the mixer when the sources were started: since then they went along
 };
+
+/// Whether anything of the voice can be heard: the loudest sound has a bit of 16 left.
+bool heard(const OpenAlVoice& voice);
 
 /// Frames of left and right samples with one side silent; a mono sound stands on the given side.
 Bytes oneSided(const WaveSound& wave, Side side);
@@ -67,7 +71,7 @@ void stopSources(const OpenAlVoice& voice);
 std::optional<std::int64_t> frameNow(const OpenAlVoice& voice, VoiceClock::time_point now);
 /// When a voice that stands at `frame` now would have been started at its present rate.
 VoiceClock::time_point startOf(const OpenAlVoice& voice, std::int64_t frame, VoiceClock::time_point now);
-/// When a voice runs out: the greatest time for a loop, the least for one that is stopped.
+/// Until when a voice is heard: the greatest time for a loop, the least for one that is stopped or silent.
 VoiceClock::time_point endOf(const OpenAlVoice& voice);
 
 } // namespace gatewise

@@ -58,6 +58,16 @@ QColor colorOf(const ToneLook& look, bool paper) {
     return paper ? look.paper : highContrast() ? look.strong : look.screen;
 }
 
+/// In high contrast the coasts are as bright as the words: these stand on a ground of their own.
+void drawWord(QPainter& painter, const QPointF& at, const QString& word, const QColor& ink, bool paper) {
+    if (!paper && highContrast()) {
+        const QRectF box = QFontMetricsF(painter.font(), painter.device()).tightBoundingRect(word);
+        painter.fillRect(box.translated(at).adjusted(-1, -1, 1, 1), Qt::black);
+    }
+    painter.setPen(ink);
+    painter.drawText(at, word);
+}
+
 /// Finds room for the words of a chart: beside their mark, off each other and, where it can be, off the
 /// route.
 class Words {
@@ -159,14 +169,6 @@ void drawMark(QPainter& painter, const QPointF& at, Tone kind, double radius, co
     }
 }
 
-/// A rim of the ground around a word: in high contrast the lines below it are as bright as it is.
-void drawRim(QPainter& painter, const QPointF& at, const QString& word, double pixel) {
-    painter.setPen(colorOf(look(Tone::Water), false));
-    for (const double x : {-pixel, 0.0, pixel}) {
-        for (const double y : {-pixel, 0.0, pixel}) painter.drawText(at + QPointF(x, y), word);
-    }
-}
-
 template<class Place> void drawAreas(QPainter& painter, const Drawing& drawing, Place place, bool paper) {
     painter.setPen(Qt::NoPen);
     painter.setRenderHint(QPainter::Antialiasing, paper);
@@ -186,7 +188,7 @@ template<class Place> void drawAreas(QPainter& painter, const Drawing& drawing, 
 
 /// The words that have their places already; those of marks keep off them.
 template<class Place>
-void drawTexts(QPainter& painter, const Drawing& drawing, Place place, double pixel, bool paper,
+void drawTexts(QPainter& painter, const Drawing& drawing, Place place, bool paper,
                const QFontMetricsF& metrics, Words& words) {
     for (const auto& word : drawing.texts) {
         const ToneLook& tone = look(word.tone == Tone::Grid ? Tone::Level : word.tone);
@@ -197,9 +199,7 @@ void drawTexts(QPainter& painter, const Drawing& drawing, Place place, double pi
             at.rx() -= metrics.horizontalAdvance(text);
         else
             at.rx() -= metrics.horizontalAdvance(text) / 2;
-        if (drawing.worded && !paper && highContrast()) drawRim(painter, at, text, 1.5 * pixel);
-        painter.setPen(colorOf(tone, paper));
-        painter.drawText(at, text);
+        drawWord(painter, at, text, colorOf(tone, paper), paper);
         words.keepOff(
             QRectF(at.x(), at.y() - metrics.ascent(), metrics.horizontalAdvance(text), metrics.ascent()));
     }
@@ -242,7 +242,7 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
             painter.drawPolyline(points);
         if (line.tone == Tone::Route) words.keepOff(points);
     }
-    drawTexts(painter, drawing, place, pixel, paper, metrics, words);
+    drawTexts(painter, drawing, place, paper, metrics, words);
     for (const auto& mark : drawing.marks) {
         const ToneLook& tone = look(mark.tone);
         const QPointF at = place(mark.at);
@@ -256,8 +256,7 @@ void drawDrawing(QPainter& painter, const QRectF& box, const Drawing& drawing, c
         const QString word = toQt(mark.label);
         const auto at = words.place(place(mark.at), tone.radius * pixel, word);
         if (word.isEmpty() || !at) continue;
-        painter.setPen(colorOf(tone, paper));
-        painter.drawText(*at, word);
+        drawWord(painter, *at, word, colorOf(tone, paper), paper);
     }
     painter.restore();
 }

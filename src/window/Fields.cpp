@@ -54,6 +54,7 @@ LineView::LineView(Actor& actor, Control* control, const ControlLayout& place, Q
     setFocusPolicy(box().readOnly ? Qt::NoFocus : Qt::StrongFocus);
     connect(this, &QLineEdit::textEdited, this,
             [this](const QString& text) { actor_.act([&] { user::type(box(), fromQt(text)); }); });
+    connect(this, &QLineEdit::selectionChanged, this, [this] { byHand_ = true; });
 }
 
 std::span<const Event> LineView::emits() const {
@@ -78,8 +79,15 @@ void LineView::sync() {
     if (box().selectAll) {
         box().selectAll = false;
         selectLater_ = byMouse_;
-        selectAll();
+        markAll();
     }
+}
+
+/// All of the text, which makes it no mark of the pilot.
+void LineView::markAll() {
+    const bool before = byHand_;
+    selectAll();
+    byHand_ = before;
 }
 
 void LineView::takePlace() {
@@ -90,7 +98,16 @@ void LineView::takePlace() {
 
 void LineView::focusInEvent(QFocusEvent* event) {
     byMouse_ = event->reason() == Qt::MouseFocusReason;
+    const bool back =
+        event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason;
+    const bool before = byHand_;
     QLineEdit::focusInEvent(event);
+    byHand_ = back ? before : true;
+}
+
+void LineView::mousePressEvent(QMouseEvent* event) {
+    byHand_ = true;
+    QLineEdit::mousePressEvent(event);
 }
 
 void LineView::mouseReleaseEvent(QMouseEvent* event) {

@@ -19,17 +19,24 @@ public:
     void takePlace() override;
     [[nodiscard]] QAccessible::Role role() const override { return QAccessible::EditableText; }
     [[nodiscard]] bool takesFocus() const override;
+    /// Whether the pilot marked text here: came to it by mouse or key, or marked it then.
+    [[nodiscard]] bool markedByHand() const { return byHand_ && hasSelectedText(); }
+    /// The window chose the field by itself, as where the keyboard starts.
+    void givenByWindow() { byHand_ = false; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
     [[nodiscard]] TextBox& box() const { return static_cast<TextBox&>(*control); }
+    void markAll();
     bool byMouse_ = false; // the focus came with a mouse press that has not ended
     bool selectLater_ = false;
+    bool byHand_ = true;
 };
 
 /// Several lines to type in.

@@ -62,13 +62,17 @@ void FocusWalk::goTo(View& view) {
 bool FocusWalk::step(View* from, bool forward) {
     const std::vector<View*> all = stops();
     if (all.empty()) return false;
-    const auto at = std::find(all.begin(), all.end(), from);
-    std::size_t to = forward ? 0 : all.size() - 1;
-    if (at != all.end()) {
-        const auto here = static_cast<std::size_t>(at - all.begin());
-        to = forward ? (here + 1) % all.size() : (here + all.size() - 1) % all.size();
-    }
-    goTo(*all[to]);
+    // A key that has just been switched off is no stop, and its neighbours are those it had.
+    const auto isStop = [&](View* view) { return std::find(all.begin(), all.end(), view) != all.end(); };
+    const std::size_t count = order_.size();
+    const auto at = std::find(order_.begin(), order_.end(), from);
+    std::size_t to = at != order_.end() ? static_cast<std::size_t>(at - order_.begin())
+                     : forward          ? count - 1
+                                        : 0;
+    do {
+        to = (to + (forward ? 1 : count - 1)) % count;
+    } while (!isStop(order_[to]));
+    goTo(*order_[to]);
     return true;
 }
 
@@ -87,13 +91,28 @@ bool FocusWalk::press(View& view, int key) {
     return words && (moveRow(view, key) || pressRow(view, key));
 }
 
-bool FocusWalk::moveRow(const View& view, int key) {
+/// The lines with words of the column that a view of a table stands in.
+std::vector<View*> FocusWalk::rowsOf(const View& view) const {
     std::vector<View*> rows;
     for (View* other : views_) {
         const bool sameArray =
             other->place.family == view.place.family && other->place.name == view.place.name;
         if (sameArray && other->takesFocus() && other->widget()->isVisible()) rows.push_back(other);
     }
+    return rows;
+}
+
+void FocusWalk::leaveEmptyRow(View& view) {
+    if (view.place.family == 0 || view.takesFocus() || !view.widget()->isVisible()) return;
+    View* above = nullptr;
+    for (View* other : rowsOf(view)) {
+        if (above == nullptr || other->place.row < view.place.row) above = other;
+    }
+    if (above != nullptr) goTo(*above);
+}
+
+bool FocusWalk::moveRow(const View& view, int key) {
+    const std::vector<View*> rows = rowsOf(view);
     const auto at = std::find(rows.begin(), rows.end(), &view);
     if (at == rows.end()) return false;
     const auto here = at - rows.begin();

@@ -18,13 +18,16 @@ public:
     [[nodiscard]] std::vector<View*> stops() const;
     /// Where the keyboard starts: not on a key that closes the screen, if there is anything else.
     void first();
-    /// One stop on or back; false when there is none.
+    /// One stop on or back from a view, or from the beginning; false when there is none.
     bool step(View* from, bool forward);
     /// A key in a line of a table or on something clickable that is no button. False when it means nothing.
     bool press(View& view, int key);
+    /// From a line that has lost its words, as at a turn of the page, to the last one above that has some.
+    void leaveEmptyRow(View& view);
 
 private:
     [[nodiscard]] View* rowLeader(int family) const;
+    [[nodiscard]] std::vector<View*> rowsOf(const View& view) const;
     void goTo(View& view);
     bool moveRow(const View& view, int key);
     bool pressRow(View& view, int key);

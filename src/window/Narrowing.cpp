@@ -36,18 +36,19 @@ int Narrowing::firstMatch(const QString& typed) const {
 
 void Narrowing::reset() {
     typed_.clear();
-    show(false);
+    show({});
 }
 
-void Narrowing::show(bool refused) {
+void Narrowing::show(const QString& refused) {
     const int rows = list_.model()->rowCount();
     for (int row = 0; row < rows; ++row) list_.setRowHidden(row, {}, !matches(row, typed_));
-    const QString help = refused ? "  No line has more of it." : "  Esc shows all lines.";
-    sign_->setText("Only: " + typed_ + help);
+    const QString none = "No line has \"" + refused + "\".";
+    const QString help = refused.isEmpty() ? "Esc shows all lines." : none;
+    sign_->setText(typed_.isEmpty() ? help : "Only: " + typed_ + "  " + help);
     sign_->setFont(skin_.widgetFont("data"));
     const int height = skin_.zoom().edge(kHeight);
     sign_->setGeometry(0, list_.height() - height, list_.width(), height);
-    sign_->setVisible(!typed_.isEmpty() || refused);
+    sign_->setVisible(!typed_.isEmpty() || !refused.isEmpty());
     sign_->raise();
 }
 
@@ -55,7 +56,7 @@ void Narrowing::narrow(const QString& typed, const std::function<void(int)>& cho
     const int first = firstMatch(typed);
     const bool refused = first < 0;
     if (!refused) typed_ = typed;
-    show(refused);
+    show(refused ? typed : QString());
     const int now = list_.currentIndex().row();
     if (!refused && (now < 0 || list_.isRowHidden(now, {}))) choose(first);
     if (list_.currentIndex().isValid()) list_.scrollTo(list_.currentIndex());

@@ -25,7 +25,8 @@ public:
 private:
     [[nodiscard]] int firstMatch(const QString& typed) const;
     [[nodiscard]] bool matches(int row, const QString& typed) const;
-    void show(bool refused);
+    /// `refused`: what no line has, or nothing.
+    void show(const QString& refused);
     void narrow(const QString& typed, const std::function<void(int)>& choose);
     QTreeView& list_;
     const Skin& skin_;

@@ -2,6 +2,7 @@
 
 #include "input/UserEvents.h"
 #include "window/Drawing.h"
+#include "window/Fields.h"
 #include "window/QtText.h"
 #include "window/ScreenNames.h"
 #include "window/Skin.h"
@@ -40,6 +41,8 @@ void ScreenWindow::takeSizes() {
     setFixedSize(zoom().size(size_));
     for (View* view : views_.all) view->takePlace();
     ring_->surround({});
+    // Each by itself: grounds cover the window, and what lies below them is not painted, nor they with it.
+    for (QWidget* part : findChildren<QWidget*>()) part->update();
     update();
 }
 
@@ -52,6 +55,7 @@ View* ScreenWindow::view(const Control& control) const {
 void ScreenWindow::sync() {
     if (isEnabled() != screen_.enabled) setEnabled(screen_.enabled);
     for (View* view : views_.all) view->sync();
+    if (View* held = viewOf(focusWidget())) walk_.leaveEmptyRow(*held);
     View* now = isActiveWindow() ? viewOf(focusWidget()) : nullptr;
     const bool pressed = byMouse_ && dynamic_cast<PaintedView*>(now) != nullptr &&
                          now->widget()->focusProxy() == nullptr; // a key that the mouse lit already
@@ -80,7 +84,16 @@ void ScreenWindow::place() {
 // ------------------------------------------------------------------------------------------------ keyboard
 
 bool ScreenWindow::focusNextPrevChild(bool next) {
-    return walk_.step(viewOf(focusWidget()), next);
+    View* from = viewOf(focusWidget());
+    const bool lost = from != nullptr && !from->widget()->isVisible(); // it went, nobody left it
+    const bool went = walk_.step(from, next);
+    if (lost) givenByWindow();
+    return went;
+}
+
+/// What the keyboard is in now is no choice of the pilot's.
+void ScreenWindow::givenByWindow() {
+    if (auto* line = dynamic_cast<LineView*>(focusWidget())) line->givenByWindow();
 }
 
 void ScreenWindow::focusFirst() {
@@ -89,6 +102,7 @@ void ScreenWindow::focusFirst() {
         wanted->widget()->setFocus(Qt::TabFocusReason);
     else
         walk_.first();
+    givenByWindow();
 }
 
 void ScreenWindow::focusMoved(QWidget* now) {

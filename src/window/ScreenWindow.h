@@ -49,6 +49,7 @@ protected:
 private:
     [[nodiscard]] const Zoom& zoom() const { return actor_.skin().zoom(); }
     [[nodiscard]] QRect ringBox(View& view) const;
+    void givenByWindow();
     void movedTo(QPoint corner);
     /// Puts out what was lit under a mouse that is not there any more.
     void putOut();

@@ -2,6 +2,7 @@
 
 #include "input/ShortCuts.h"
 #include "input/UserEvents.h"
+#include "window/Fields.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -35,11 +36,17 @@ bool walks(const std::string& keys) {
     return keys == "PgUp" || keys == "PgDown" || keys == "Home" || keys == "End";
 }
 
+/// Text that the pilot marked, not what a field marks by itself when the window opens with it.
+bool marked(const QLineEdit& line) {
+    const auto* view = dynamic_cast<const LineView*>(&line);
+    return view != nullptr ? view->markedByHand() : line.hasSelectedText();
+}
+
 /// Whether the widget with the focus has a use of its own for the keys.
 bool keeps(const QWidget* focus, const std::string& keys) {
     if (const auto* line = qobject_cast<const QLineEdit*>(focus))
-        return (keys == "Ctrl+C" && line->hasSelectedText()) ||
-               (keys == "Ctrl+Z" && line->isUndoAvailable()) || keys == "Home" || keys == "End";
+        return (keys == "Ctrl+C" && marked(*line)) || (keys == "Ctrl+Z" && line->isUndoAvailable()) ||
+               keys == "Home" || keys == "End";
     if (const auto* notes = qobject_cast<const QPlainTextEdit*>(focus))
         return (keys == "Ctrl+C" && notes->textCursor().hasSelection()) ||
                (keys == "Ctrl+Z" && notes->document()->isUndoAvailable()) || walks(keys);

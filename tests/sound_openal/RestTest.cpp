@@ -6,6 +6,7 @@
 #include <ctime>
 #include <filesystem>
 #include <fstream>
+#include <vector>
 
 // The mixer's rest, on the library's own device that plays to nobody: it mixes in real time as a sound card's
 // does.
@@ -31,6 +32,21 @@ std::chrono::nanoseconds mixedBy(ALCdevice* device) {
     ALCint64SOFT time = 0;
     ask(device, ALC_DEVICE_CLOCK_SOFT, 1, &time);
     return std::chrono::nanoseconds(time);
+}
+
+/// Seconds into its sound of each source of the current context that plays.
+std::vector<float> placesNow() {
+    constexpr ALuint kMost = 64; // the library counts its sources from 1
+    std::vector<float> out;
+    for (ALuint source = 1; source < kMost; ++source) {
+        ALint state = 0;
+        float place = 0;
+        if (alIsSource(source) != AL_TRUE) continue;
+        alGetSourcei(source, AL_SOURCE_STATE, &state);
+        alGetSourcef(source, AL_SEC_OFFSET, &place);
+        if (state == AL_PLAYING) out.push_back(place);
+    }
+    return out;
 }
 
 /// A device beside ours that nobody lets rest: what it has mixed is how much time a mixer had.
@@ -103,6 +119,40 @@ TEST_F(Resting, ALoopKeepsItAwakeUntilItIsStopped) {
     EXPECT_FALSE(device_.resting());
     device_.stop(buffer);
     EXPECT_TRUE(rests());
+}
+
+TEST_F(Resting, ASoundThatNobodyHearsLetsItRest) {
+    const SoundBuffer buffer = device_.load(silentWave(folder_, 100));
+    device_.play(buffer, true);
+    EXPECT_FALSE(device_.resting());
+    for (const int silent : {-10000, -9000}) {
+        device_.setVolume(buffer, silent);
+        EXPECT_TRUE(rests()) << silent;
+        device_.play(buffer, true);
+        EXPECT_TRUE(device_.resting()) << "it plays on for nobody at " << silent;
+        device_.setVolume(buffer, -8999);
+        EXPECT_FALSE(device_.resting()) << silent;
+    }
+}
+
+TEST_F(Resting, WhatIsHeardAgainIsWhereItWouldBe) {
+    auto now = VoiceClock::now();
+    OpenAlRoad road;
+    road.now = [&] { return now; };
+    OpenAlDevice device(road);
+    ASSERT_TRUE(opens(device));
+    const SoundBuffer loop = device.load(silentWave(folder_, 10'000));
+    const SoundBuffer once = device.load(silentWave(folder_, 5'000));
+    for (const SoundBuffer buffer : {loop, once}) {
+        device.play(buffer, buffer == loop);
+        device.setVolume(buffer, -10000);
+    }
+    ASSERT_TRUE(soon([&] { return device.resting(); }));
+    now += std::chrono::seconds(17);
+    for (const SoundBuffer buffer : {loop, once}) device.setVolume(buffer, 0);
+    const std::vector<float> places = placesNow();
+    ASSERT_EQ(places.size(), 2U) << "both sides of the loop; the other sound has run out";
+    for (const float place : places) EXPECT_GE(place, 7.0F);
 }
 
 TEST_F(Resting, ASlowerRateLastsLonger) {

@@ -4,9 +4,12 @@
 #include "window/QtText.h"
 #include "window/Tone.h"
 
+#include <QApplication>
+
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <set>
 
 // The second skin as it is seen: no ground of the night is left, every text stands out from what is behind
 // it.
@@ -62,6 +65,22 @@ double standsOut(const std::map<QRgb, int>& counts) {
     return best;
 }
 
+/// The widgets that were painted while it looked.
+struct Painted : QObject {
+    std::set<const QObject*> all;
+    /// A list or a field with several lines is covered by a part of itself.
+    [[nodiscard]] bool has(const QWidget& widget) const {
+        const auto parts = widget.findChildren<QWidget*>();
+        return all.contains(&widget) || std::any_of(parts.begin(), parts.end(), [this](const QWidget* part) {
+                   return all.contains(part);
+               });
+    }
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (event->type() == QEvent::Paint) all.insert(object);
+        return false;
+    }
+};
+
 class Contrast : public StageTest {
 protected:
     QImage seen(const Screen& screen) {
@@ -116,6 +135,30 @@ TEST_F(Contrast, EveryTextStandsOutFromWhatIsBehindIt) {
                     << control->fullName() << " " << text.toStdString();
             }
         }
+    });
+    play();
+}
+
+TEST_F(Contrast, AllThatIsSeenIsPaintedAnewWhenItIsChosen) {
+    then([&] { stage().click(forms().MainForm.FlatButton(1)); });
+    then([&] {
+        QCoreApplication::processEvents();
+        Painted painted;
+        qApp->installEventFilter(&painted);
+        stage().window.display.chooseSkin(SkinChoice::HighContrast);
+        QCoreApplication::processEvents();
+        int seenViews = 0;
+        for (const Screen* screen : {static_cast<const Screen*>(&forms().MainForm),
+                                     static_cast<const Screen*>(&forms().SettingsForm)}) {
+            for (View* view : stage().desk().window(*screen).views()) {
+                if (view->widget()->visibleRegion().isEmpty()) continue;
+                ++seenViews;
+                EXPECT_TRUE(painted.has(*view->widget()))
+                    << screen->name << "." << view->place.name << " keeps the colours of before";
+            }
+        }
+        EXPECT_GT(seenViews, 100);
+        stage().key(Qt::Key_Escape);
     });
     play();
 }
@@ -184,6 +227,36 @@ TEST_F(Contrast, ChartsHaveStrongerColoursOnTheScreenAndTheSamePaper) {
         stage().window.display.chooseSkin(SkinChoice::HighContrast);
         EXPECT_GT(contrast(drawn(0).pixel(50, 50), qRgb(0, 0, 0)), 7);
         EXPECT_EQ(drawn(1), paper);
+    });
+    play();
+}
+
+TEST_F(Contrast, WordsOnAMapStandOnAGroundOfTheirOwn) {
+    then([&] {
+        Drawing drawing;
+        DrawingLine coast; // all of the ground as bright as a coast
+        coast.points = {{0, 0.5}, {1, 0.5}};
+        coast.tone = Tone::Coast;
+        coast.width = 300;
+        drawing.lines.push_back(coast);
+        drawing.worded = true;
+        DrawingText word;
+        word.text = "KATL";
+        word.at = {0.5, 0.5};
+        word.tone = Tone::Fix;
+        drawing.texts.push_back(word);
+        const auto blackOf = [&](double point) {
+            QImage picture(100, 100, QImage::Format_RGB32);
+            picture.fill(Qt::white);
+            QPainter painter(&picture);
+            window::drawDrawing(painter, picture.rect(), drawing, QFont(), point);
+            painter.end();
+            return countsOf(picture, picture.rect())[qRgb(0, 0, 0)];
+        };
+        EXPECT_EQ(blackOf(0), 0);
+        stage().window.display.chooseSkin(SkinChoice::HighContrast);
+        EXPECT_GT(blackOf(0), 20) << "around the letters";
+        EXPECT_EQ(blackOf(1), 0) << "paper has its own colours";
     });
     play();
 }

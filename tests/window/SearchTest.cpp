@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QTest>
@@ -66,6 +67,22 @@ TEST_F(Search, TypingNarrowsThePickerAndEscapeWidensIt) {
         stage().key(Qt::Key_Escape);
     });
     then([&] { EXPECT_FALSE(forms().SelectForm.visible); });
+    play();
+}
+
+TEST_F(Search, ALetterThatNoLineHasIsNamed) {
+    const auto sign = [&] { return list().findChild<QLabel*>()->text(); };
+    openPicker();
+    then([&] {
+        stage().type("#");
+        EXPECT_EQ(sign(), "No line has \"#\".");
+        stage().type("mi");
+        EXPECT_EQ(sign(), "Only: mi  Esc shows all lines.");
+        stage().type("#");
+        EXPECT_EQ(sign(), "Only: mi  No line has \"mi#\".");
+        stage().key(Qt::Key_Escape);
+        stage().key(Qt::Key_Escape);
+    });
     play();
 }
 
@@ -202,8 +219,39 @@ TEST_F(Search, CopiesTheBoardThePassAndARowOfThePlan) {
     play();
 }
 
+TEST_F(Search, WhatAFieldMarksByItselfDoesNotStandBeforeTheScreen) {
+    const auto field = [&]() -> auto& {
+        return dynamic_cast<QLineEdit&>(stage().widget(main().departureText));
+    };
+    then([&] {
+        ASSERT_EQ(stage().focused(), &main().departureText);
+        ASSERT_TRUE(field().hasSelectedText()) << "else this tests nothing";
+        stage().key(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_TRUE(clipboard().contains("FLIGHT\tDEPARTING TO"));
+        stage().doubleClick(main().city_LABEL(3));
+    });
+    then([&] {
+        ASSERT_TRUE(main().main_pic.visible);
+        stage().key(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_TRUE(clipboard().contains("Flight\t")) << "the pass";
+        ASSERT_TRUE(stage().tabTo(main().viewButton));
+        ASSERT_TRUE(stage().tabTo(main().departureText));
+        stage().key(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(clipboard(), "KATL") << "the pilot came to it";
+        field().deselect();
+        stage().key(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_TRUE(clipboard().contains("Flight\t"));
+        stage().key(Qt::Key_End);
+        stage().key(Qt::Key_Left, Qt::ShiftModifier);
+        stage().key(Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(clipboard(), "L");
+    });
+    play();
+}
+
 TEST_F(Search, AMarkedTextOfAFieldIsCopiedBeforeTheScreen) {
     then([&] {
+        ASSERT_TRUE(stage().tabTo(main().switchButton(0)));
         ASSERT_TRUE(stage().tabTo(main().departureText)); // which marks its text
         stage().key(Qt::Key_C, Qt::ControlModifier);
         EXPECT_EQ(clipboard(), "KATL");

@@ -150,6 +150,35 @@ TEST_F(Signs, TheEndKeyInARowGoesToTheLastRowOfTheLastPage) {
     play();
 }
 
+TEST_F(Signs, ARowThatLosesItsWordsHandsTheKeyboardOn) {
+    constexpr int kLast = 19;
+    const auto toLastRow = [&] {
+        ASSERT_TRUE(stage().tabTo(main().fltnum_LABEL(0)));
+        for (int i = 0; i < kLast; ++i) stage().key(Qt::Key_Down);
+        ASSERT_EQ(stage().focused(), &main().fltnum_LABEL(kLast));
+    };
+    const auto inLastRow = [&] {
+        EXPECT_EQ(page(), "3/3");
+        ASSERT_TRUE(trimmed(main().fltnum_LABEL(kLast).text).empty()) << "else this tests nothing";
+        const auto* row = dynamic_cast<Label*>(stage().focused());
+        ASSERT_NE(row, nullptr);
+        EXPECT_FALSE(trimmed(row->text).empty());
+        EXPECT_TRUE(trimmed(main().fltnum_LABEL(row->index + 1).text).empty()) << "not the last one";
+    };
+    then(toLastRow);
+    then([&] { stage().key(Qt::Key_End); });
+    then(inLastRow);
+    then([&] { stage().key(Qt::Key_Home); });
+    then(toLastRow);
+    then([&] {
+        stage().key(Qt::Key_PageDown);
+        EXPECT_EQ(stage().focused(), &main().fltnum_LABEL(kLast)) << "a row that is full keeps it";
+        stage().key(Qt::Key_PageDown);
+    });
+    then(inLastRow);
+    play();
+}
+
 TEST_F(Signs, F1OpensTheHelpOfTheScreen) {
     const auto& program = stage().window.program;
     then([&] {
@@ -238,6 +267,29 @@ TEST_F(Signs, AfterADialogTheFocusIsAtTheKeyThatOpenedIt) {
     then([&] {
         EXPECT_FALSE(forms().SelectForm.visible);
         EXPECT_TRUE(forms().SettingsForm.visible);
+    });
+    play();
+}
+
+TEST_F(Signs, TabGoesOnFromAKeyThatWasSwitchedOff) {
+    then([&] { stage().doubleClick(main().city_LABEL(3)); });
+    then([&] { stage().click(main().sendlogButton); });
+    then([&] { stage().key(Qt::Key_Return); });
+    then([&] { stage().click(main().log_LABEL); });
+    then([&] {
+        stage().click(main().log_press(0));
+        stage().click(main().logButton(1));
+    });
+    then([&] { stage().key(Qt::Key_Escape); }); // the question; the key that asked it is off now
+    then([&] {
+        EXPECT_EQ(stage().focused(), &main().logButton(1));
+        EXPECT_EQ(main().logButton(1).State, 0);
+        stage().key(Qt::Key_Tab);
+        Control* next = stage().focused();
+        EXPECT_NE(next, &main().departureText) << "Enter would open the picker";
+        stage().key(Qt::Key_Backtab, Qt::ShiftModifier);
+        EXPECT_NE(stage().focused(), next);
+        EXPECT_NE(stage().focused(), &main().departureText);
     });
     play();
 }

@@ -123,7 +123,6 @@ class Reader:
         self.seen = []
         self.heard = []    # what was announced
         self.renamed = []  # what told that its name has changed
-        Atspi.init()
         self.app = wait_for('the program on the bus', self.find_app)
         self.notices = Atspi.EventListener.new(lambda event: self.hear(event))
         self.notices.register('object:state-changed:showing')
@@ -311,6 +310,26 @@ def small_screens(reader):
     visit(reader, 'Gatewise Terminal - Settings', lambda: None, 'Close by the title')
 
 
+def notices(reader):
+    """The picture of the start and the standby notice. The program is at work while they stand, and answers nobody: they
+    are looked at when they have gone."""
+    def found(title):
+        for window in reader.app.children():
+            if window.name == title and 'showing' not in window.states and window.role == 'dialog':
+                return window
+        return None
+    for title, words in ((MAIN, 'Finding Flights, Standby...'), ('Gatewise Terminal - Standby', 'Finding Flights')):
+        notice = wait_for(f'the notice "{title}"', lambda title=title: found(title))
+        reader.look_at(notice)
+        reader.seen[-1] += ', notice'
+        names = [thing.name for thing in notice.everything() if thing.role in ('label', 'image')]
+        if words not in names or len(set(names)) != len(names):
+            reader.miss(f'"{title}" says {names}')
+        for thing in notice.everything():
+            if 'focusable' in thing.states or thing.actions():
+                reader.miss(f'{thing} of "{title}" can be used')
+
+
 def links(reader):
     link = reader.find('Export')
     if link.role != 'push button' or 'enabled' in link.states:
@@ -416,6 +435,9 @@ def inside():
         environment = dict(os.environ, QT_QPA_PLATFORM='xcb', QT_LINUX_ACCESSIBILITY_ALWAYS_ON='1',
                            ALSOFT_DRIVERS='null', HOME=name, XDG_DATA_HOME=f'{name}/user',
                            XDG_CONFIG_HOME=f'{name}/config', QT_SCALE_FACTOR='1')
+        # The bus is up before the program looks for it: a program that finds none does not ask again.
+        Atspi.init()
+        Atspi.get_desktop(0).get_child_count()
         process = subprocess.Popen([place], env=environment)
         try:
             reader = Reader(process)
@@ -430,7 +452,7 @@ def inside():
     return 1 if reader.misses else 0
 
 
-STEPS = (board, announcements, small_screens, links, main_page, flight, files, log_book)
+STEPS = (board, announcements, notices, small_screens, links, main_page, flight, files, log_book)
 
 if __name__ == '__main__':
     sys.exit(inside() if os.environ.get('GATEWISE_BUS_TEST') else on_a_desk_of_its_own())

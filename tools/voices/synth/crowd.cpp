@@ -148,7 +148,8 @@ void add_trolley(Hall& hall, double begin, Random& random) {
 
 void add_gate_chime(Hall& hall, double begin, Random& random) {
     const double tone = random.between(560.0, 700.0);
-    const double side = random.between(-1.0, 1.0);
+    const double drawn = random.between(-1.0, 1.0);
+    const double side = std::copysign(0.35 + 0.65 * std::abs(drawn), drawn); // never straight ahead
     const double level = random.between(0.5, 1.0);
     for (const auto& [start, hertz] : {std::pair{0.0, tone}, std::pair{0.45, tone * 0.794}}) {
         Samples sound(samples_in(1.6, kHallRate));

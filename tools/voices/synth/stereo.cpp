@@ -27,7 +27,7 @@ double mean_square(const Hall& hall) {
 } // namespace
 
 Hall silence(std::size_t length) {
-    return {Samples(length, 0.0), Samples(length, 0.0)};
+    return {Samples(length, 0.0), Samples(length, 0.0), nullptr};
 }
 
 void add_placed(Hall& hall, const Samples& sound, std::size_t start, const Place& place) {
@@ -42,6 +42,7 @@ void add_placed(Hall& hall, const Samples& sound, std::size_t start, const Place
         wrapped(hall.left, left_start + at) += ear_gain(-side) * sound[at];
         wrapped(hall.right, right_start + at) += ear_gain(side) * sound[at];
     }
+    if (hall.told != nullptr) hall.told->push_back({start % hall.left.size(), place, sound});
 }
 
 void add_layer(Hall& hall, const Hall& layer, double level) {

@@ -5,12 +5,6 @@
 
 namespace synth {
 
-// A place in front of the listener, from -1 (left) to 1 (right).
-struct Place {
-    double from = 0.0; // where a sound begins
-    double to = 0.0;   // where it ends: somebody walks by
-};
-
 Hall silence(std::size_t length);
 
 // Lays a sound into the loop, from `start` on and over its end into its start. The nearer ear hears it louder
