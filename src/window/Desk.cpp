@@ -36,10 +36,9 @@ Desk::Desk(Forms& forms, Skin& skin) : forms_(forms), skin_(skin) {
     }
     auto& main = forms_.MainForm;
     if (const QScreen* screen = QApplication::primaryScreen()) {
-        // Left of the screen where that is smaller: a smaller size keeps the middle.
         const QPoint middle = screen->availableGeometry().center();
-        main.left = middle.x() - main.designWidth / 2;
-        main.top = middle.y() - main.designHeight / 2;
+        main.left = std::max(0, middle.x() - main.designWidth / 2);
+        main.top = std::max(0, middle.y() - main.designHeight / 2);
     }
     qApp->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [](QWidget*, QWidget* now) {
