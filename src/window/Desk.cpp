@@ -43,16 +43,10 @@ Desk::Desk(Forms& forms, Skin& skin) : forms_(forms), skin_(skin) {
         windows_[screen] = std::make_unique<ScreenWindow>(
             *this, *screen, layout == skin.layout().screens.end() ? none : layout->second);
     }
-    auto& main = forms_.MainForm;
-    if (const QScreen* screen = QApplication::primaryScreen()) {
-        const QPoint middle = screen->availableGeometry().center();
-        main.left = std::max(0, middle.x() - main.designWidth / 2);
-        main.top = std::max(0, middle.y() - main.designHeight / 2);
-    }
     // The sound asks for the handle of this window before it is shown. It has to stay the same: the system
     // lets the sound be heard while just that window is in front.
-    mainWindow().setWindowFlags(flagsOf(forms_, main));
-    mainWindow().place();
+    mainWindow().setWindowFlags(flagsOf(forms_, forms_.MainForm));
+    centreMain();
     qApp->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [](QWidget*, QWidget* now) {
         if (now == nullptr) return;
@@ -63,6 +57,16 @@ Desk::Desk(Forms& forms, Skin& skin) : forms_(forms), skin_(skin) {
 Desk::~Desk() {
     // Dialogs hang below other windows; each has one owner only.
     for (auto& [screen, window] : windows_) window->setParent(nullptr);
+}
+
+void Desk::centreMain() {
+    auto& main = forms_.MainForm;
+    if (const QScreen* screen = QApplication::primaryScreen()) {
+        const QPointF middle = QPointF(screen->availableGeometry().center()) / skin_.zoom().factor;
+        main.left = std::max(0.0, middle.x() - main.designWidth / 2.0);
+        main.top = std::max(0.0, middle.y() - main.designHeight / 2.0);
+    }
+    mainWindow().place();
 }
 
 void Desk::act(const std::function<void()>& what) {
