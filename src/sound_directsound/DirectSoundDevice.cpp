@@ -6,6 +6,7 @@
 #include "sound/WaveFile.h"
 #include "sound_directsound/DirectSoundVoice.h"
 
+#include <limits>
 #include <utility>
 
 #ifndef NOMINMAX
@@ -18,6 +19,20 @@
 #include <dsound.h>
 
 namespace gatewise {
+
+namespace {
+
+/// The file as the system may read it from memory: it believes the size that the head claims. Nothing where
+/// there is no head.
+Bytes wholeForm(Bytes file) {
+    constexpr std::size_t kHead = 8; // "RIFF" and the size of what follows
+    if (file.size() <= kHead || file.size() > std::numeric_limits<std::uint32_t>::max()) return {};
+    for (std::size_t i = 0, size = file.size() - kHead; i < 4; ++i)
+        file[4 + i] = static_cast<std::uint8_t>(size >> (8 * i) & 0xFFU);
+    return file;
+}
+
+} // namespace
 
 DirectSoundDevice::DirectSoundDevice(Window window) : window_(std::move(window)) {}
 
@@ -54,6 +69,7 @@ bool DirectSoundDevice::open() {
 void DirectSoundDevice::close() {
     voices_.clear();
     PlaySoundW(nullptr, nullptr, 0);
+    once_.clear();
     if (sound_ != nullptr) std::exchange(sound_, nullptr)->Release();
 }
 
@@ -113,10 +129,15 @@ void DirectSoundDevice::setSpeakers(std::int32_t value) {
     if (sound_ != nullptr) sound_->SetSpeakerConfig(static_cast<DWORD>(value));
 }
 
-/// The system plays it from the file and mixes it itself; a file that it cannot play is silence, no beep.
+/// The system mixes it itself. It takes no file from a deep folder, so it gets what stands in it; a file that
+/// it cannot play is silence, no beep.
 void DirectSoundDevice::playOnce(const std::string& path) {
-    const auto file = files::resolve(path);
-    PlaySoundW(file.c_str(), nullptr, SND_FILENAME | SND_ASYNC | SND_NODEFAULT);
+    auto file = files::readAll(path);
+    PlaySoundW(nullptr, nullptr, 0); // lets go of the one before
+    once_ = file ? wholeForm(std::move(*file)) : Bytes();
+    if (once_.empty()) return;
+    PlaySoundW(reinterpret_cast<const wchar_t*>(once_.data()), nullptr,
+               SND_MEMORY | SND_ASYNC | SND_NODEFAULT);
 }
 
 std::unique_ptr<SoundDevice> makeDirectSoundDevice(DirectSoundDevice::Window window) {

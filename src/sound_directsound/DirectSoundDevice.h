@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Binary.h"
 #include "sound/Device.h"
 
 #include <functional>
@@ -55,6 +56,7 @@ private:
     IDirectSound* sound_ = nullptr;
     std::map<SoundBuffer, std::unique_ptr<DirectSoundVoice>> voices_;
     std::uint32_t last_ = 0;
+    Bytes once_; // what playOnce plays, for as long as the system reads it
     std::int32_t speakers_ = 0;
 };
 

@@ -24,6 +24,15 @@ bool isNotice(const Forms& forms, const Screen& screen) {
     return &screen == &forms.WaitForm || &screen == &forms.SplashForm;
 }
 
+Qt::WindowFlags flagsOf(const Forms& forms, const Screen& screen) {
+    Qt::WindowFlags flags = Qt::FramelessWindowHint;
+    flags |= &screen == &forms.MainForm     ? Qt::Window | Qt::WindowMinimizeButtonHint
+             : &screen == &forms.SplashForm ? Qt::SplashScreen
+                                            : Qt::Dialog;
+    if (isNotice(forms, screen)) flags |= Qt::WindowDoesNotAcceptFocus;
+    return flags;
+}
+
 } // namespace
 
 Desk::Desk(Forms& forms, Skin& skin) : forms_(forms), skin_(skin) {
@@ -34,12 +43,10 @@ Desk::Desk(Forms& forms, Skin& skin) : forms_(forms), skin_(skin) {
         windows_[screen] = std::make_unique<ScreenWindow>(
             *this, *screen, layout == skin.layout().screens.end() ? none : layout->second);
     }
-    auto& main = forms_.MainForm;
-    if (const QScreen* screen = QApplication::primaryScreen()) {
-        const QPoint middle = screen->availableGeometry().center();
-        main.left = std::max(0, middle.x() - main.designWidth / 2);
-        main.top = std::max(0, middle.y() - main.designHeight / 2);
-    }
+    // The sound asks for the handle of this window before it is shown. It has to stay the same: the system
+    // lets the sound be heard while just that window is in front.
+    mainWindow().setWindowFlags(flagsOf(forms_, forms_.MainForm));
+    centreMain();
     qApp->installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [](QWidget*, QWidget* now) {
         if (now == nullptr) return;
@@ -50,6 +57,16 @@ Desk::Desk(Forms& forms, Skin& skin) : forms_(forms), skin_(skin) {
 Desk::~Desk() {
     // Dialogs hang below other windows; each has one owner only.
     for (auto& [screen, window] : windows_) window->setParent(nullptr);
+}
+
+void Desk::centreMain() {
+    auto& main = forms_.MainForm;
+    if (const QScreen* screen = QApplication::primaryScreen()) {
+        const QPointF middle = QPointF(screen->availableGeometry().center()) / skin_.zoom().factor;
+        main.left = std::max(0.0, middle.x() - main.designWidth / 2.0);
+        main.top = std::max(0.0, middle.y() - main.designHeight / 2.0);
+    }
+    mainWindow().place();
 }
 
 void Desk::act(const std::function<void()>& what) {
@@ -142,12 +159,8 @@ QWidget* Desk::ownerOf(const Screen& screen) const {
 
 void Desk::showWindow(ScreenWindow& window) {
     Screen& screen = window.screen();
-    const bool main = &screen == &forms_.MainForm;
-    const bool splash = &screen == &forms_.SplashForm;
     const bool notice = isNotice(forms_, screen);
-    Qt::WindowFlags flags = Qt::FramelessWindowHint;
-    flags |= main ? Qt::Window | Qt::WindowMinimizeButtonHint : splash ? Qt::SplashScreen : Qt::Dialog;
-    if (notice) flags |= Qt::WindowDoesNotAcceptFocus;
+    const Qt::WindowFlags flags = flagsOf(forms_, screen);
     QWidget* owner = ownerOf(screen);
     if (window.parentWidget() != owner || window.windowFlags() != flags) window.setParent(owner, flags);
     window.setWindowModality(screen.modal ? Qt::ApplicationModal : Qt::NonModal);

@@ -29,6 +29,8 @@ public:
     /// What looks at the forms after each of these.
     std::function<void()> afterSync;
 
+    /// Puts the main window into the middle of the screen, in the size that it has.
+    void centreMain();
     /// Sizes all windows alike; the main one keeps its middle, the others their place above it.
     void setZoom(double factor);
     /// Whether what blinks stays lit.

@@ -2,13 +2,28 @@
 
 #include <QCoreApplication>
 #include <QFile>
-#include <QSysInfo>
 
 #ifdef Q_OS_WIN
 #include <windows.h>
+#else
+#include <QSysInfo>
 #endif
 
 namespace gatewise::window {
+
+namespace {
+
+/// The name by which a lock knows this computer: on Windows not that of the network, which may be longer and
+/// in small letters.
+QString computerName() {
+#ifdef Q_OS_WIN
+    return qEnvironmentVariable("COMPUTERNAME");
+#else
+    return QSysInfo::machineHostName();
+#endif
+}
+
+} // namespace
 
 OneInstance::OneInstance(const QString& folder)
     : call_(folder + "/gatewise.show"), lock_(folder + "/gatewise.lock") {
@@ -27,7 +42,7 @@ bool OneInstance::takesOver() {
     qint64 process = 0;
     QString computer, name;
     return lock_.getLockInfo(&process, &computer, &name) && process == QCoreApplication::applicationPid() &&
-           computer == QSysInfo::machineHostName() && lock_.removeStaleLockFile() && lock_.tryLock(0);
+           computer == computerName() && lock_.removeStaleLockFile() && lock_.tryLock(0);
 }
 
 void OneInstance::callFirst() const {

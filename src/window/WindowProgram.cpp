@@ -53,6 +53,7 @@ WindowProgram::~WindowProgram() {
 void WindowProgram::start() {
     if (ownSize_) {
         display.remember(program.session.AppDir);
+        desk.centreMain(); // on a small screen the layout's size had not been in the middle
         askWishes(&display, [this](const Wishes& wishes) { display.heed(wishes); });
     }
     startUp(program);

@@ -35,6 +35,19 @@ protected:
 
 } // namespace
 
+/// The sound asks for it at the start, and is heard while that window is in front.
+TEST_F(Front, TheMainWindowHasOneHandleFromTheStartOn) {
+    window::ScreenWindow& window = stage().desk().mainWindow();
+    const WId before = window.winId();
+    const QPoint place = window.pos();
+    then([&] {
+        EXPECT_TRUE(window.isVisible());
+        EXPECT_EQ(window.winId(), before);
+        EXPECT_EQ(window.pos(), place) << "in the middle of the desk, as it was made";
+    });
+    play();
+}
+
 TEST_F(Front, AClickBringsItsScreenToTheFront) {
     openPlanAndCharts();
     then([&] {

@@ -14,6 +14,7 @@
 #include <QScreen>
 #include <QTreeView>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -60,6 +61,18 @@ TEST_F(Zooms, NobodyChoseAndTheWindowHasTheLayoutsSize) {
     then([&] {
         EXPECT_EQ(factor(), 1);
         EXPECT_EQ(mainWindow().size(), QSize(800, 600));
+    });
+    play();
+}
+
+TEST_F(Zooms, TheWindowBeginsInTheMiddleOfTheScreen) {
+    then([&] {
+        display().choosePercent(75);
+        main().left = main().top = 0;
+        stage().desk().centreMain();
+        const QPoint off = mainWindow().geometry().center() -
+                           mainWindow().windowHandle()->screen()->availableGeometry().center();
+        EXPECT_LE(off.manhattanLength(), 2);
     });
     play();
 }

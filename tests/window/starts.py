@@ -10,18 +10,9 @@ import shutil
 import subprocess
 import sys
 import tempfile
-import time
 
-PATIENCE = 60  # seconds
-
-
-def wait_for(what, condition):
-    end = time.monotonic() + PATIENCE
-    while time.monotonic() < end:
-        if condition():
-            return
-        time.sleep(0.05)
-    sys.exit(f'{what}: not within {PATIENCE} seconds')
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / 'support'))
+from handover import a_second_start_hands_over, wait_for
 
 
 class Place:
@@ -66,15 +57,7 @@ def main():
         place.user.mkdir(parents=True)
         for pipe in (picture, font, place.user / 'GT.cfg', place.shared / 'Fonts' / 'pipe.ttf'):
             os.mkfifo(pipe)
-        first = place.start()
-        wait_for('the first start', lambda: place.owner() == first.pid)
-        second = place.start()
-        _, said = second.communicate(timeout=PATIENCE)
-        if second.returncode != 0 or 'running already' not in said:
-            sys.exit(f'the second start ended with {second.returncode}: {said}')
-        wait_for('the call to the first start', lambda: not (place.user / 'gatewise.show').exists())
-        if first.poll() is not None:
-            sys.exit('the first program has ended')
+        first = a_second_start_hands_over(place.start, place.user, lambda program: place.owner() == program.pid)
         first.kill()
         first.wait()
         third = place.start()

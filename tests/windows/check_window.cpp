@@ -1,12 +1,15 @@
 // check_window FOLDER: from the key to the sheet on Windows: a flight is picked on the board, its plan is
 // shown and printed as it ships. Copies what was printed into the folder, the pages as PDF and the text that
-// was handed over.
+// was handed over. Then a lock that a program left which had the number of this one.
 
 #include "platform/AppFolder.h"
 #include "platform/NativePath.h"
 #include "tour/Stage.h"
+#include "window/OneInstance.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QLockFile>
 #include <QTemporaryDir>
 
 #include <cstdlib>
@@ -30,6 +33,30 @@ void printPlan(stage::Stage& stage) {
     for (const auto& miss : stage.misses) std::cerr << "check_window: " << miss << '\n';
 }
 
+/// Writes the bytes of a lock of this program back when it has let go of it: they are those of one that was
+/// killed.
+QByteArray leaveLock(const QString& file) {
+    QByteArray bytes;
+    {
+        QLockFile lock(file);
+        lock.tryLock(0);
+        QFile in(file);
+        if (in.open(QIODevice::ReadOnly)) bytes = in.readAll();
+    }
+    QFile out(file);
+    if (out.open(QIODevice::WriteOnly)) out.write(bytes);
+    return bytes;
+}
+
+bool takesOverOwnNumber(const std::string& scratch) {
+    const QString folder = QString::fromStdString(scratch);
+    const QByteArray left = leaveLock(folder + "/gatewise.lock");
+    const bool own = left.startsWith(QByteArray::number(QCoreApplication::applicationPid()) + "\n");
+    if (own && window::OneInstance(folder).first()) return true;
+    std::cerr << "check_window: the lock is not taken over: " << left.toStdString() << '\n';
+    return false;
+}
+
 } // namespace
 
 int main(int count, char** arguments) {
@@ -51,5 +78,6 @@ int main(int count, char** arguments) {
                           error);
     }
     if (error) std::cerr << "check_window: nothing was printed: " << error.message() << '\n';
-    return error || !stage.misses.empty() ? EXIT_FAILURE : EXIT_SUCCESS;
+    const bool taken = takesOverOwnNumber(folder);
+    return error || !stage.misses.empty() || !taken ? EXIT_FAILURE : EXIT_SUCCESS;
 }

@@ -3,35 +3,28 @@
 
 starts.py PROGRAM_FOLDER CHECK_SERVICES SCRATCH_FOLDER
 
-The simulator is found by its word in the registry, a second start hands over to the first one, F1 opens a page of the help, a closed window ends the program, the lock of a
-program that was killed is taken over, and from a folder that cannot be written the user's folder is used.
+A second start hands over to the first one, the simulator is found by its word in the registry, F1 opens a page of the
+help, a closed window ends the program, the lock of a program that was killed is taken over, and from a folder that cannot
+be written the user's folder is used.
 """
 
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
 import sys
 import time
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools" / "package"))
+PROJECT = pathlib.Path(__file__).resolve().parents[2]
+sys.path[:0] = [str(PROJECT / "tools" / "package"), str(PROJECT / "tests" / "support")]
 import first_board
+from handover import a_second_start_hands_over, wait_for
 
-PATIENCE = 120  # seconds, on a busy machine
 SIMULATOR_KEY = "HKLM\\SOFTWARE\\Microsoft\\Microsoft Games\\Flight Simulator\\8.0"
 SIMULATOR = "C:\\Games\\FS2002"
 KEY_F1 = "112"
 CLASS = "Qt"
-
-
-def wait_for(what, condition):
-    end = time.monotonic() + PATIENCE
-    while time.monotonic() < end:
-        found = condition()
-        if found:
-            return found
-        time.sleep(0.1)
-    sys.exit(f"{what}: not within {PATIENCE} seconds")
 
 
 def wine(*words, **options):
@@ -58,17 +51,8 @@ class Starts:
         """Whether the window was there to get it."""
         return wine(self.check, *words).returncode == 0
 
-    def a_second_start_hands_over(self):
-        first = self.start()
-        wait_for("the lock", (self.place / "gatewise.lock").exists)
-        second = self.start()
-        _, said = second.communicate(timeout=PATIENCE)
-        if second.returncode != 0 or "running already" not in said:
-            sys.exit(f"the second start ended with {second.returncode}: {said}")
-        wait_for("the call to the first start", lambda: not (self.place / "gatewise.show").exists())
-        if first.poll() is not None:
-            sys.exit("the first program has ended")
-        return first
+    def is_locked(self, *_):
+        return (self.place / "gatewise.lock").exists()
 
     def the_simulator_is_found(self):
         """Its installer left word in the branch of 32-bit programs; what was found is remembered at once."""
@@ -88,22 +72,33 @@ class Starts:
         if "\\help\\" not in name or not name.endswith(".htm"):
             sys.exit(f"F1 opens {name}")
 
-    def a_closed_window_ends(self, program):
+    def ends_by_its_window(self, program):
+        """False where another program works on the folder, and this one had no window."""
+        closed = False
+
         def ended():
-            self.press("close", CLASS)
+            nonlocal closed
+            closed = self.press("close", CLASS) or closed
             time.sleep(1)
             return program.poll() is not None
 
         wait_for("the end of the program", ended)
-        if program.returncode != 0:
+        # Wine kills what takes long to go after its end.
+        if program.returncode not in (0, -signal.SIGKILL):
             sys.exit(f"the program ends with {program.returncode}")
+        return closed and "running already" not in program.stderr.read()
+
+    def a_closed_window_ends(self, program):
+        if not self.ends_by_its_window(program):
+            sys.exit("the program has ended without a window")
 
     def a_lock_is_taken_over(self):
         killed = self.start()
-        wait_for("the lock", (self.place / "gatewise.lock").exists)
+        wait_for("the lock", self.is_locked)
         killed.kill()
         killed.wait()
-        self.a_closed_window_ends(self.start())
+        # It may take Wine a moment to see that a process has gone.
+        wait_for("a start after a kill", lambda: self.ends_by_its_window(self.start()))
 
     def a_folder_that_cannot_be_written(self, users):
         before = sorted((path, path.stat().st_mtime) for path in self.place.rglob("*"))
@@ -165,12 +160,15 @@ def main():
     install_simulator(prefix)
     starts = Starts(tried, check, scratch)
     try:
-        first = starts.a_second_start_hands_over()
+        first = a_second_start_hands_over(starts.start, starts.place, starts.is_locked)
         starts.the_simulator_is_found()
         starts.f1_opens_the_help(opened)
         starts.a_closed_window_ends(first)
         starts.a_lock_is_taken_over()
         starts.a_folder_that_cannot_be_written(prefix / "drive_c" / "users")
+    except SystemExit:
+        (scratch / "failed.png").write_bytes(first_board.png(screen.look(), screen.line))
+        raise
     finally:
         wine("reg", "delete", SIMULATOR_KEY, "/f", "/reg:32")
         starts.end()

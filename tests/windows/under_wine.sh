@@ -29,7 +29,20 @@ deep=$(printf 'deeper-and-%.0s' {1..15})
 play "$scratch/$deep/$deep" "${anywhere[@]}"
 rm -rf "$scratch/Łódź 東京" "${scratch:?}/$deep"
 
-wine build/windows/bin/check_directsound.exe "Z:$scratch/sound" 2>/dev/null
+# The sound device without a sound card, then with one that writes down what it gets.
+check_sound() { # where its head says that sound goes, words of the check
+  local card=$scratch/card.conf
+  printf '%s\n' "$1" >"$card"
+  shift
+  ALSA_CONFIG_PATH=$card PULSE_SERVER=unix:/nowhere wine build/windows/bin/check_directsound.exe "Z:$scratch/sound" "$@" 2>/dev/null
+}
+writes_down() { printf 'pcm.nothing { type null }\npcm.!default { type file slave.pcm nothing format wav file "%s" }' "$1"; }
+rm -rf "${scratch:?}/sound" "$scratch"/heard-*.wav
+check_sound ""
+check_sound "$(writes_down "$scratch/heard-tones.wav")" "Z:$scratch/heard-tones.wav"
+check_sound "$(writes_down "$scratch/heard-click.wav")" "Z:$scratch/heard-click.wav" click
+python3 -B tests/windows/heard.py "$scratch"/heard-{tones,click}.wav "$scratch/sound/click.wav"
+rm -rf "${scratch:?}/sound" # its folders are deep
 rm -rf "${scratch:?}/services" # its folders are deeper than the library takes away
 screen=()
 if command -v Xvfb >/dev/null; then screen=(tests/windows/on_screen.py); fi

@@ -48,6 +48,7 @@ BUILD_PACKAGES=(g++ cmake ninja-build python3 qt6-base-dev libgl-dev libopenal-d
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libsqlite3-dev clang clang-format clang-tidy libclang-rt-14-dev git desktop-file-utils appstream
   libxml2-dev libxml2-utils gpsbabel  # read back the plans that are written for other programs
   poppler-utils # and the printed sheets
+  wine # plays what is built for Windows
   xvfb dbus at-spi2-core python3-gi gir1.2-atspi-2.0) # the window as a screen reader finds it
 
 # What the packages take besides.
