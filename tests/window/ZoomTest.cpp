@@ -1,7 +1,6 @@
 #include "StageTest.h"
 
 #include "platform/Files.h"
-#include "platform/NativePath.h"
 #include "platform/Profile.h"
 #include "window/Buttons.h"
 #include "window/PaintedViews.h"
@@ -182,19 +181,6 @@ TEST_F(Zooms, NoWindowIsLargerThanItsScreen) {
         EXPECT_TRUE(mainWindow().height() > room.height() - 8 || mainWindow().width() > room.width() - 8);
     });
     play();
-}
-
-TEST_F(Zooms, OnAScreenThatIsTooSmallTheSmallerWindowStandsInTheMiddle) {
-    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
-    Forms forms;
-    forms.MainForm.designWidth = room.width() + 200;
-    forms.MainForm.designHeight = room.height() + 100;
-    window::Skin skin(files::utf8Of(folder()));
-    window::Desk desk(forms, skin);
-    desk.setZoom(0.5);
-    const auto& main = forms.MainForm;
-    EXPECT_NEAR((main.left + main.designWidth / 2.0) * 0.5, room.center().x(), 1);
-    EXPECT_NEAR((main.top + main.designHeight / 2.0) * 0.5, room.center().y(), 1);
 }
 
 TEST_F(Zooms, TheWheelAndTheKeysWithControl) {
