@@ -1,6 +1,7 @@
 #include "logbook/ImportFields.h"
 
 #include "platform/Machine.h"
+#include "platform/ProfileText.h"
 #include "platform/Text.h"
 #include "platform/Utf8.h"
 
@@ -8,6 +9,7 @@
 #include <charconv>
 #include <cmath>
 #include <iterator>
+#include <utility>
 #include <vector>
 
 namespace gatewise {
@@ -34,16 +36,6 @@ std::vector<int> numbersOf(std::string_view text) {
         at = end;
     }
     return out;
-}
-
-bool isUtf8(std::string_view bytes) {
-    char32_t point = 0;
-    for (std::size_t at = 0; at < bytes.size();) {
-        const std::size_t length = decodeUtf8(bytes, at, point);
-        if (length == 0) return false;
-        at += length;
-    }
-    return true;
 }
 
 std::string_view dateWord(std::string_view text) {
@@ -100,31 +92,15 @@ std::optional<DateTime> namedDate(std::string_view text) {
     return DateTime{n[1], month, n[0]};
 }
 
-/// From UTF-16, the low byte first or last; what is no character becomes the replacement.
-std::string utf8FromUtf16(std::string_view bytes, bool lowFirst) {
-    std::string out;
-    char32_t high = 0; // the first half of a pair
-    for (std::size_t at = 0; at + 1 < bytes.size(); at += 2) {
-        const auto first = static_cast<unsigned char>(bytes[at]);
-        const auto second = static_cast<unsigned char>(bytes[at + 1]);
-        const char32_t unit = lowFirst ? first | second << 8U : first << 8U | second;
-        const bool pair = high != 0 && unit >= 0xDC00 && unit < 0xE000;
-        if (high != 0 && !pair) appendUtf8(out, kReplacement);
-        const char32_t point = pair ? 0x10000 + ((high - 0xD800) << 10U) + (unit - 0xDC00) : unit;
-        high = unit >= 0xD800 && unit < 0xDC00 ? unit : 0;
-        if (high == 0) appendUtf8(out, point);
-    }
-    return out;
-}
-
 } // namespace
 
 std::string importedText(std::string_view bytes) {
-    if (bytes.starts_with("\xFF\xFE")) return textFromUtf8(utf8FromUtf16(bytes.substr(2), true));
-    if (bytes.starts_with("\xFE\xFF")) return textFromUtf8(utf8FromUtf16(bytes.substr(2), false));
-    if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
+    Bytes file(bytes.begin(), bytes.end());
+    const ProfileCoding coding = codingOf(file);
+    const Bytes lines = unmarked(std::move(file), coding);
     // What is no UTF-8 was written in single bytes.
-    return isUtf8(bytes) ? textFromUtf8(bytes) : std::string(bytes);
+    const std::string_view text = asText(lines);
+    return isUtf8(text) ? textFromUtf8(text) : std::string(text);
 }
 
 void blankControls(std::string& cell) {

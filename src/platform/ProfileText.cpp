@@ -64,15 +64,6 @@ std::string utf16FromUtf8(std::string_view text, bool big) {
     return out;
 }
 
-bool isUtf8(std::string_view text) {
-    char32_t point = 0;
-    for (std::size_t at = 0, length = 0; at < text.size(); at += length) {
-        length = decodeUtf8(text, at, point);
-        if (length == 0) return false;
-    }
-    return true;
-}
-
 } // namespace
 
 ProfileCoding codingOf(ByteView file) {

@@ -53,4 +53,13 @@ std::size_t decodeUtf8(std::string_view text, std::size_t at, char32_t& point) {
     return point < kSmallest[length] || isSurrogate(point) || point > 0x10FFFF ? 0 : length;
 }
 
+bool isUtf8(std::string_view text) {
+    char32_t point = 0;
+    for (std::size_t at = 0, length = 0; at < text.size(); at += length) {
+        length = decodeUtf8(text, at, point);
+        if (length == 0) return false;
+    }
+    return true;
+}
+
 } // namespace gatewise

@@ -18,4 +18,7 @@ void appendUtf8(std::string& out, char32_t point);
 /// a surrogate pair or above 10FFFF.
 std::size_t decodeUtf8(std::string_view text, std::size_t at, char32_t& point);
 
+/// Whether the whole text is UTF-8.
+bool isUtf8(std::string_view text);
+
 } // namespace gatewise
