@@ -12,7 +12,7 @@ build_resources
 configure_shipped build/package-windows /usr -DCMAKE_TOOLCHAIN_FILE="$PWD/tools/package/mingw-qt.cmake" \
   -DCMAKE_PREFIX_PATH="$qt" -DCMAKE_FIND_ROOT_PATH="/usr/x86_64-w64-mingw32;$qt" \
   -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH -DQT_HOST_PATH=/usr \
-  -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake -DCMAKE_AUTORCC_OPTIONS=--no-zstd -DGATEWISE_DATA=OFF
+  -DQT_HOST_PATH_CMAKE_DIR=/usr/lib/x86_64-linux-gnu/cmake -DGATEWISE_DATA=OFF
 cmake --build build/package-windows --target all check_services
 
 name=Gatewise-$version-win64
