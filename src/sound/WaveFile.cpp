@@ -60,7 +60,8 @@ std::optional<WaveHead> readWaveHead(ByteView beginning, std::uint64_t length) {
 std::optional<WaveSound> readWave(ByteView file) {
     const auto head = readWaveHead(file, file.size());
     if (!head) return std::nullopt;
-    WaveSound sound{*head, {}};
+    const WaveForm& form = *head;
+    WaveSound sound{form, {}};
     const ByteView samples = file.subspan(head->start, head->size);
     sound.samples.assign(samples.begin(), samples.end());
     return sound;

@@ -31,7 +31,8 @@ std::shared_ptr<OpenAlSound> openLong(const std::string& path) {
     beginning.resize(file.read(0, beginning, error));
     const auto head = readWaveHead(beginning, static_cast<std::uint64_t>(file.length()));
     if (error || !head) return nullptr;
-    auto sound = soundOf({*head, {}}, head->size);
+    const WaveForm& form = *head;
+    auto sound = soundOf({form, {}}, head->size);
     sound->path = path;
     return sound;
 }
