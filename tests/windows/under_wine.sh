@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Plays every transcript with the driver for Windows under Wine, in a plain folder, in one whose name no code page holds
 # and in one that is deeper than most programs can go; then the sound device and the
-# services of the system. Takes half a minute on two cores.
-# Wants the presets release and windows built. Without Wine nothing is played.
+# services of the system. Takes a minute on two cores.
+# Wants the presets release and windows built. Without Wine, or where it does not start, nothing is played.
 set -euo pipefail
 cd "$(dirname "$0")/../.."
 if ! command -v wine >/dev/null; then
@@ -13,7 +13,11 @@ scratch=$PWD/build/windows/scratch
 mkdir -p "$scratch"
 export WINEPREFIX=${WINEPREFIX:-$scratch/wine} WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml="
 wineserver -p30 2>/dev/null || true # one for all; it ends half a minute after the last program
-[ -e "$WINEPREFIX/system.reg" ] || wine wineboot --init >/dev/null 2>&1
+[ -e "$WINEPREFIX/system.reg" ] || wine wineboot --init >/dev/null 2>&1 || true
+if ! wine cmd /c exit 2>/dev/null; then
+  echo "Wine does not start on this computer: the core for Windows is built, not played."
+  exit 0
+fi
 
 play() { # scratch folder, transcripts
   python3 -B tests/windows/transcripts.py build/release/bin/scripts_runner build/release/tests/scripts/Gatewise \
@@ -37,11 +41,16 @@ check_sound() { # where its head says that sound goes, words of the check
   ALSA_CONFIG_PATH=$card PULSE_SERVER=unix:/nowhere wine build/windows/bin/check_directsound.exe "Z:$scratch/sound" "$@" 2>/dev/null
 }
 writes_down() { printf 'pcm.nothing { type null }\npcm.!default { type file slave.pcm nothing format wav file "%s" }' "$1"; }
-rm -rf "${scratch:?}/sound" "$scratch"/heard-*.wav
+is_heard() {
+  rm -f "$scratch"/heard-*.wav
+  check_sound "$(writes_down "$scratch/heard-tones.wav")" "Z:$scratch/heard-tones.wav" &&
+    check_sound "$(writes_down "$scratch/heard-click.wav")" "Z:$scratch/heard-click.wav" click &&
+    python3 -B tests/windows/heard.py "$scratch"/heard-{tones,click}.wav "$scratch/sound/click.wav"
+}
+rm -rf "${scratch:?}/sound"
 check_sound ""
-check_sound "$(writes_down "$scratch/heard-tones.wav")" "Z:$scratch/heard-tones.wav"
-check_sound "$(writes_down "$scratch/heard-click.wav")" "Z:$scratch/heard-click.wav" click
-python3 -B tests/windows/heard.py "$scratch"/heard-{tones,click}.wav "$scratch/sound/click.wav"
+# A busy computer mixes too late now and then: one of three tries is whole.
+is_heard || is_heard || is_heard
 rm -rf "${scratch:?}/sound" # its folders are deep
 rm -rf "${scratch:?}/services" # its folders are deeper than the library takes away
 screen=()
