@@ -34,7 +34,15 @@ rm -rf "$scratch/printed"
 wine "$tried/check_window.exe" "Z:$scratch/printed" 2>"$scratch/printed.log" || { tail -20 "$scratch/printed.log" >&2; exit 1; }
 python3 -B tests/windows/printed.py "$scratch/printed/Printout 1.pdf" "$scratch/printed/Printout 1.txt"
 
+# Wine's programs share the screen of the first one: those before had none.
+leave_screen() {
+  wineserver -k || true
+  wineserver -w
+}
+
 if command -v Xvfb >/dev/null; then
+  leave_screen
   python3 -B tests/windows/starts.py "$tried" "$tried/check_services.exe" "$scratch/starts"
+  leave_screen
   tools/package/first_board.py --picture "$scratch/board.png" wine "$tried/gatewise.exe" 2>/dev/null
 fi
