@@ -138,12 +138,18 @@ def associate(opened):
     wine("reg", "add", root + "gatewise.tried\\shell\\open\\command", "/ve", "/d", command, "/f")
 
 
-def install_simulator(prefix):
+def install_simulator(games):
     """As much of a simulator as is looked for: a word in the registry, a file in its folder."""
-    folder = prefix / "drive_c" / "Games" / "FS2002"
+    folder = games / "FS2002"
     folder.mkdir(parents=True, exist_ok=True)
     (folder / "FS2002.cfg").touch()
     wine("reg", "add", SIMULATOR_KEY, "/v", "EXE Path", "/d", SIMULATOR, "/f", "/reg:32")
+
+
+def remove_simulator(games):
+    """Other tests show the folders of the disk."""
+    wine("reg", "delete", SIMULATOR_KEY, "/f", "/reg:32")
+    shutil.rmtree(games, ignore_errors=True)
 
 
 def main():
@@ -156,8 +162,9 @@ def main():
     os.environ["DISPLAY"] = screen.name
     os.environ.pop("QT_QPA_PLATFORM", None)
     prefix = pathlib.Path(os.environ["WINEPREFIX"])
+    games = prefix / "drive_c" / "Games"
     associate(opened)
-    install_simulator(prefix)
+    install_simulator(games)
     starts = Starts(tried, check, scratch)
     try:
         first = a_second_start_hands_over(starts.start, starts.place, starts.is_locked)
@@ -170,7 +177,7 @@ def main():
         (scratch / "failed.png").write_bytes(first_board.png(screen.look(), screen.line))
         raise
     finally:
-        wine("reg", "delete", SIMULATOR_KEY, "/f", "/reg:32")
+        remove_simulator(games)
         starts.end()
         screen.close()
     print("one program on a folder, the simulator, help, end, a lock taken over, the user's folder: as they must be")
