@@ -29,6 +29,11 @@ need_packages() {
   }
 }
 
+# Those that a step can do without; it says itself what it leaves out.
+want_packages() {
+  (need_packages "$@") || echo "Going on without: $*" >&2
+}
+
 # What has to be there before the build can look for the rest.
 need_tools() {
   local missing=()
@@ -48,11 +53,11 @@ BUILD_PACKAGES=(g++ cmake ninja-build python3 qt6-base-dev libgl-dev libopenal-d
 TEST_PACKAGES=(libgtest-dev libbenchmark-dev libsqlite3-dev clang clang-format clang-tidy libclang-rt-14-dev git desktop-file-utils appstream
   libxml2-dev libxml2-utils gpsbabel  # read back the plans that are written for other programs
   poppler-utils # and the printed sheets
-  wine # plays what is built for Windows
   xvfb dbus at-spi2-core python3-gi gir1.2-atspi-2.0) # the window as a screen reader finds it
 
 # What the packages take besides.
 PACKAGE_PACKAGES=(git dpkg-dev lintian patchelf xz-utils file qt6-wayland)
+WINE_PACKAGES=(wine) # plays what is built for Windows
 WINDOWS_PACKAGES=(g++-mingw-w64-x86-64-posix gcc-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64 zip)
 
 # What another clone of the project has compiled serves this one too.
