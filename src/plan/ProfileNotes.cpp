@@ -86,16 +86,10 @@ void addLevels(Drawing& out, const Plan& plan, const ProfileSheet& place) {
 }
 
 /// Computed points keep whatever frequency stood in their place of the table.
-bool hasFrequency(const PlanPoint& point) {
-    switch (point.kind()) {
-    case PointKind::TopOfClimb:
-    case PointKind::TopOfDescent:
-    case PointKind::StepClimb:
-    case PointKind::StepDescent:
-        return false;
-    default:
-        return !point.pointFrequency.trimmed().empty() && point.pointFrequency.trimmed() != "000.00";
-    }
+bool hasFrequency(const Plan& plan, int i) {
+    const Tone tone = pointTone(plan, i);
+    const auto frequency = plan.at(i).pointFrequency.trimmed();
+    return tone != Tone::Top && tone != Tone::Step && !frequency.empty() && frequency != "000.00";
 }
 
 } // namespace
@@ -105,7 +99,7 @@ std::string pointWords(const Plan& plan, int i) {
     std::string out(point.pointName.trimmed());
     const auto description = point.pointDescription.trimmed();
     if (!description.empty()) out.append(" ").append(description);
-    if (hasFrequency(point)) out.append(", ").append(point.pointFrequency.trimmed());
+    if (hasFrequency(plan, i)) out.append(", ").append(point.pointFrequency.trimmed());
     return out + ", " + formatNumber("#####0", altitudeAt(plan, i)) + " ft, " +
            timeText(std::max<int>(point.pointMinutes, 0));
 }

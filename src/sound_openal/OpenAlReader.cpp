@@ -2,6 +2,7 @@
 
 #include "platform/Files.h"
 #include "platform/InFile.h"
+#include "sound/LongWave.h"
 
 #include <new>
 #include <optional>
@@ -12,7 +13,6 @@ namespace gatewise {
 
 namespace {
 
-constexpr long long kLong = 1 << 20; // bytes of a file
 constexpr std::size_t kBeginning = 4096;
 
 std::shared_ptr<OpenAlSound> soundOf(WaveSound wave, std::uint64_t size) {
@@ -25,7 +25,7 @@ std::shared_ptr<OpenAlSound> soundOf(WaveSound wave, std::uint64_t size) {
 /// Null when the file is short, or its samples lie too far behind its begin.
 std::shared_ptr<OpenAlSound> openLong(const std::string& path) {
     const files::InFile file(files::resolve(path));
-    if (file.length() < kLong || file.length() > files::kLongestFile) return nullptr;
+    if (file.length() < LongWave::kLong || file.length() > files::kLongestFile) return nullptr;
     Bytes beginning(kBeginning);
     std::error_code error;
     beginning.resize(file.read(0, beginning, error));

@@ -67,23 +67,25 @@ constexpr Foreign kForeign[] = {
                    "15.06.2002;KATL;KORD;7:40;9:10;2,0;0,5;0,3;Boeing 737;ok\n"},
 };
 
+/// The one flight that each of the foreign log books tells.
+void expectTheFlight(const LogImport& log, std::string_view aircraft, const char* name) {
+    ASSERT_EQ(log.entries.size(), 1U) << name;
+    const LogRecord& e = log.entries[0];
+    EXPECT_EQ(e.date, flight().date) << name;
+    EXPECT_EQ(e.departureIcao.view(), "KATL") << name;
+    EXPECT_EQ(e.arrivalIcao.view(), "KORD") << name;
+    EXPECT_EQ(e.actualDeparture, 740) << name;
+    EXPECT_EQ(e.actualArrival, 910) << name;
+    EXPECT_EQ(e.scheduledArrival, 910) << name;
+    EXPECT_NEAR(e.dayHours, 1.5, 1e-6) << name;
+    EXPECT_NEAR(e.nightHours, 0.5, 1e-6) << name;
+    EXPECT_NEAR(e.instrumentHours, 0.3, 1e-6) << name;
+    EXPECT_EQ(e.aircraft.trimmed(), aircraft) << name;
+    EXPECT_EQ(e.comments.trimmed(), "ok") << name;
+}
+
 TEST(LogImport, OtherLogBooksAreKnownByTheirHeaders) {
-    for (const auto& [name, text] : kForeign) {
-        const LogImport log = importLog(text, {});
-        ASSERT_EQ(log.entries.size(), 1U) << name;
-        const LogRecord& e = log.entries[0];
-        EXPECT_EQ(e.date, flight().date) << name;
-        EXPECT_EQ(e.departureIcao.view(), "KATL") << name;
-        EXPECT_EQ(e.arrivalIcao.view(), "KORD") << name;
-        EXPECT_EQ(e.actualDeparture, 740) << name;
-        EXPECT_EQ(e.actualArrival, 910) << name;
-        EXPECT_EQ(e.scheduledArrival, 910) << name;
-        EXPECT_NEAR(e.dayHours, 1.5, 1e-6) << name;
-        EXPECT_NEAR(e.nightHours, 0.5, 1e-6) << name;
-        EXPECT_NEAR(e.instrumentHours, 0.3, 1e-6) << name;
-        EXPECT_EQ(e.aircraft.trimmed(), "Boeing 737") << name;
-        EXPECT_EQ(e.comments.trimmed(), "ok") << name;
-    }
+    for (const auto& [name, text] : kForeign) expectTheFlight(importLog(text, {}), "Boeing 737", name);
 }
 
 /// Headers as those programs write them, in full, and the aircraft that each tells.
@@ -120,21 +122,7 @@ TEST(LogImport, TheWholeHeadersOfOtherLogBooksAreKnown) {
          "2002\t7\tKATL\tKORD\t07:40\t09:10\tN1\tB738\t2+00\t0+30\t0+18\tok\n",
          "B738"},
     };
-    for (const auto& [text, aircraft] : all) {
-        const LogImport log = importLog(text, {});
-        ASSERT_EQ(log.entries.size(), 1U) << aircraft;
-        const LogRecord& e = log.entries[0];
-        EXPECT_EQ(e.date, flight().date) << aircraft;
-        EXPECT_EQ(e.departureIcao.view(), "KATL") << aircraft;
-        EXPECT_EQ(e.arrivalIcao.view(), "KORD") << aircraft;
-        EXPECT_EQ(e.actualDeparture, 740) << aircraft;
-        EXPECT_EQ(e.actualArrival, 910) << aircraft;
-        EXPECT_NEAR(e.dayHours, 1.5, 1e-6) << aircraft;
-        EXPECT_NEAR(e.nightHours, 0.5, 1e-6) << aircraft;
-        EXPECT_NEAR(e.instrumentHours, 0.3, 1e-6) << aircraft;
-        EXPECT_EQ(e.aircraft.trimmed(), aircraft);
-        EXPECT_EQ(e.comments.trimmed(), "ok") << aircraft;
-    }
+    for (const auto& [text, aircraft] : all) expectTheFlight(importLog(text, {}), aircraft, aircraft);
 }
 
 TEST(LogImport, ARouteOfOneCodeIsAFlightAroundIt) {

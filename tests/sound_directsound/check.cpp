@@ -1,11 +1,12 @@
 // Plays made-up waves through the DirectSound device. Needs no test library: it runs where there is none for
 // this system.
-//     check_directsound FOLDER             looks at what the device answers, with and without a sound card
-//     check_directsound FOLDER HEARD       plays a tone for each operation on a sound card that writes what
-//     it gets into
-//                                          the file HEARD, which tests/windows/heard.py looks at
-//     check_directsound FOLDER HEARD click the same of the sound of the keys, from a folder that is deep
-//     below
+//     check_directsound FOLDER
+//         looks at what the device answers, with and without a sound card
+//     check_directsound FOLDER HEARD
+//         plays a tone for each operation on a sound card that writes what it gets into the file HEARD, which
+//         tests/windows/heard.py looks at
+//     check_directsound FOLDER HEARD click
+//         the same of the sound of the keys, from a folder that is deep below
 
 #include "platform/Files.h"
 #include "platform/NativePath.h"

@@ -65,6 +65,16 @@ double standsOut(const std::map<QRgb, int>& counts) {
     return best;
 }
 
+/// A drawing upon a ground of one colour; `point` as drawDrawing takes it.
+QImage pictureOf(const Drawing& drawing, const QSize& size, const QColor& ground, double point) {
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(ground);
+    QPainter painter(&picture);
+    window::drawDrawing(painter, picture.rect(), drawing, QFont(), point);
+    painter.end();
+    return picture;
+}
+
 /// The widgets that were painted while it looked.
 struct Painted : QObject {
     std::set<const QObject*> all;
@@ -190,11 +200,7 @@ TEST_F(Contrast, AWordOfAMapStandsOutFromTheLinesBelow) {
         }
         drawing.texts.push_back({{0.5, 0.5}, "KATL", false, Tone::Airport});
         const auto painted = [&](double point) {
-            QImage picture(80, 40, QImage::Format_RGB32);
-            picture.fill(Qt::gray);
-            QPainter painter(&picture);
-            window::drawDrawing(painter, picture.rect(), drawing, QFont(), point);
-            painter.end();
+            const QImage picture = pictureOf(drawing, QSize(80, 40), Qt::gray, point);
             return countsOf(picture, picture.rect());
         };
         const auto ground = [&] { return painted(0)[qRgb(0, 0, 0)]; };
@@ -216,11 +222,7 @@ TEST_F(Contrast, ChartsHaveStrongerColoursOnTheScreenAndTheSamePaper) {
         Drawing drawing;
         drawing.lines.push_back(line);
         const auto drawn = [&](double point) {
-            QImage picture(100, 100, QImage::Format_RGB32);
-            picture.fill(point > 0 ? Qt::white : Qt::black);
-            QPainter painter(&picture);
-            window::drawDrawing(painter, picture.rect(), drawing, QFont(), point);
-            return picture;
+            return pictureOf(drawing, QSize(100, 100), point > 0 ? Qt::white : Qt::black, point);
         };
         const QImage paper = drawn(1);
         EXPECT_LT(contrast(drawn(0).pixel(50, 50), qRgb(0, 0, 0)), 4.5);
@@ -246,11 +248,7 @@ TEST_F(Contrast, WordsOnAMapStandOnAGroundOfTheirOwn) {
         word.tone = Tone::Fix;
         drawing.texts.push_back(word);
         const auto blackOf = [&](double point) {
-            QImage picture(100, 100, QImage::Format_RGB32);
-            picture.fill(Qt::white);
-            QPainter painter(&picture);
-            window::drawDrawing(painter, picture.rect(), drawing, QFont(), point);
-            painter.end();
+            const QImage picture = pictureOf(drawing, QSize(100, 100), Qt::white, point);
             return countsOf(picture, picture.rect())[qRgb(0, 0, 0)];
         };
         EXPECT_EQ(blackOf(0), 0);
